@@ -1,0 +1,24 @@
+# Every target of our own takes these; third-party sources do not.
+add_library(vantoplex-flags INTERFACE)
+target_include_directories(vantoplex-flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# Results of floating-point arithmetic are part of the contract: no fused operations.
+# g++ drops the loop exit of a function that lacks its return, hence return-type by name.
+target_compile_options(vantoplex-flags INTERFACE
+  -Wall -Wextra -Wshadow=local -Wnon-virtual-dtor -Werror -Werror=return-type
+  -ffp-contract=off -fno-fast-math)
+
+if(WIN32)
+  target_compile_definitions(vantoplex-flags INTERFACE
+    UNICODE _UNICODE NOMINMAX STRICT WIN32_LEAN_AND_MEAN
+    WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+  # DWARF 4 is what Wine's debugger can name functions from.
+  target_compile_options(vantoplex-flags INTERFACE
+    -O2 -gdwarf-4 -fstack-protector-strong -D_FORTIFY_SOURCE=2 -msse2 -mfpmath=sse)
+  target_link_options(vantoplex-flags INTERFACE
+    -static -Wl,--nxcompat,--dynamicbase,--high-entropy-va)
+else()
+  target_compile_options(vantoplex-flags INTERFACE -O1 -g -fno-omit-frame-pointer
+    -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_link_options(vantoplex-flags INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,24 @@
+# A room is one folder of src/. Its CMakeLists.txt calls
+#   vantoplex_room(NAME [ARITHMETIC file.cpp ...])
+# All .cpp files of the folder belong to the room; those named after ARITHMETIC
+# include no platform header and are built natively as well.
+#
+# Windows: object library room-NAME of every file.
+# Native:  object library room-NAME of the ARITHMETIC files alone.
+function(vantoplex_room name)
+  cmake_parse_arguments(room "" "" "ARITHMETIC" ${ARGN})
+  if(WIN32)
+    file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  else()
+    set(files ${room_ARITHMETIC})
+  endif()
+  if(NOT files)
+    add_library(room-${name} INTERFACE)
+    return()
+  endif()
+  add_library(room-${name} OBJECT ${files})
+  target_link_libraries(room-${name} PUBLIC vantoplex-flags)
+  if(WIN32 AND TARGET vantoplex-typelib)
+    target_link_libraries(room-${name} PUBLIC vantoplex-typelib)
+  endif()
+endfunction()
