@@ -1,0 +1,81 @@
+#pragma once
+// One curve: an array of points, the indexes of the axes that it is drawn against, and its
+// looks. Curves live by value in a vector of the graph, in index order.
+
+#include "base/Vocabulary.h"
+#include "framework/windowing/Strings.h"
+#include "objects/PolynomialSolver.h"
+#include "objects/SegmentHit.h"
+#include "objects/XGraphObject.h"
+
+#include <vector>
+
+class CXGraphDataSerie : public CXGraphObject
+{
+    DECLARE_SERIAL(CXGraphDataSerie)
+
+public:
+    CXGraphDataSerie() = default;
+    // With m_bAutoDelete the copy has an array of its own, else it shares the pointer.
+    CXGraphDataSerie(const CXGraphDataSerie& other);
+    CXGraphDataSerie(CXGraphDataSerie&& other) noexcept;
+    CXGraphDataSerie& operator=(const CXGraphDataSerie& other);
+    CXGraphDataSerie& operator=(CXGraphDataSerie&& other) noexcept;
+    ~CXGraphDataSerie() override;
+
+    TDataPoint* m_pData = nullptr;
+    int m_nCount = 0;
+    int m_nReserved1 = 0;
+    int m_nReserved2 = 0;
+    int m_nXAxis = 0;
+    int m_nYAxis = 0;
+    int m_nIndex = 0;
+    int m_nLineSize = 1;    // pen width, and radius of scatter points
+    int m_nFillStyle = 6;   // hatch style 0 to 5, or 6 for solid
+    int m_nMarkerType = 0;  // 0 square with the curve's position, 1 symbol, else square with m_nMarker
+    int m_nMarker = 0;      // symbol 0 to 7, or the number shown less 1
+    int m_nMarkerSize = 10; // pixels
+    UINT m_nLineStyle = 0;  // pen style
+    bool m_bAutoDelete = false; // the curve owns m_pData
+    bool m_bShowMarker = false;
+    bool m_bFillBeneath = false;
+    bool m_bFillTransparent = true;
+    COLORREF m_crFillColor = 0xFFFFFF;
+    CString m_cLabel{L" "};
+    EGraphType m_nType = gtLine;
+    unsigned short m_nFillCurve = 1;  // partner of the fill; 65535 for the plot's bottom edge
+    std::vector<TSegment> m_Segments; // on screen after the last Draw; what the mouse can hit
+    CPolynomialSolver m_Solver;       // the last polynomial fit
+
+    static constexpr unsigned short kFillToBottom = 65535;
+
+    // Colour of a new curve by its position.
+    [[nodiscard]] static COLORREF CreationColor(int nPosition) noexcept;
+
+    // Gives the curve a private copy of the points and ownership of it. A copy that it made
+    // before is freed.
+    void CopyData(const TDataPoint* pData, int nCount);
+    // Takes the caller's array without copying it; with bAutoDelete it is freed with the
+    // curve. A private copy held before is freed, a caller's array never.
+    void ReplaceData(TDataPoint* pData, int nCount, bool bAutoDelete) noexcept;
+
+    void SetFillBeneath(bool bValue, int nValue) noexcept;
+    void AddSegment(CPoint from, CPoint to);
+    [[nodiscard]] static bool HitTestSegment(CPoint from, CPoint to, CPoint point,
+                                             int nTolerance) noexcept;
+    [[nodiscard]] static double PointLineDistance(CPoint from, CPoint to, CPoint point) noexcept;
+    // Whether the mouse is on the curve as the last frame showed it.
+    [[nodiscard]] bool HitTestCurve(CPoint point, int nTolerance) const noexcept;
+
+    void Serialize(CArchive& ar) override;
+    void Draw(CDCEx* pDC) override;
+    void DrawMarkers(CDCEx* pDC);
+
+private:
+    // What is known of an array that nobody else can write to.
+    bool m_bPrivateCopy = false; // m_pData was made by this curve
+    bool m_bAscending = false;   // x never falls and is always a number; false while unknown
+
+    void FreeData() noexcept;
+    void CopyLooks(const CXGraphDataSerie& other);
+};
