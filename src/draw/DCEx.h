@@ -1,0 +1,79 @@
+#pragma once
+// The canvas of the XY graph: a device context that can multiply all coordinates, so that
+// one paint routine serves the screen and a printer of another resolution and colour depth.
+// Callers give screen pixels. With m_bScaling set the operations below multiply them by
+// m_fScaleX and m_fScaleY, in float, truncated toward zero; what CDC itself offers beyond
+// them (BitBlt, StretchBlt, TextOut ...) takes the device's own units.
+// Lines and polygons that reach beyond +-2^26 are cut along their own lines first
+// (LongLines.h), so callers may pass any pixel that a value maps to.
+
+#include "framework/windowing/DeviceContexts.h"
+
+class CDCEx : public CDC
+{
+public:
+    CDCEx() noexcept = default;
+
+    bool m_bScaleReady = false; // InitScale has run
+    bool m_bMono = false;       // fewer than 256 colours: all is drawn in black and white
+    bool m_bScaling = false;    // the operations multiply coordinates
+    bool m_bClipScaled = false; // the painter then leaves its clip rectangle unscaled
+    float m_fScaleX = 1.0f;
+    float m_fScaleY = 1.0f;
+
+    // Takes the factors between the screen of the thread's main window (of the desktop, if
+    // there is none) and the target, and m_bMono from the target.
+    void InitScale(HDC hTarget);
+    void ScalePoint(int& x, int& y);
+    void ScalePoint(POINT& point);
+    void ScaleRect(RECT& rect);
+
+    CPoint MoveTo(int x, int y);
+    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
+    BOOL LineTo(int x, int y);
+    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
+    void FillRect(LPCRECT lpRect, CBrush* pBrush);
+    void DrawFocusRect(LPCRECT lpRect);
+    BOOL Ellipse(int x1, int y1, int x2, int y2);
+    BOOL Rectangle(int x1, int y1, int x2, int y2);
+    BOOL Rectangle(LPCRECT lpRect)
+    {
+        return Rectangle(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
+    // Allocates only when scaling, or for points beyond the limit.
+    BOOL Polygon(const POINT* lpPoints, int nCount);
+    // The text's height. While scaling a copy of the rectangle is scaled; with DT_CALCRECT
+    // the rectangle itself, which then holds the device's units.
+    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
+    void FillSolidRect(LPCRECT lpRect, COLORREF crColor);
+    void FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor);
+    // Measures all lines of a text with line feeds.
+    CSize GetTextExtent(const CString& str);
+
+    COLORREF SetBkColor(COLORREF crColor) override;
+    COLORREF SetTextColor(COLORREF crColor) override;
+
+    // These nine go to the drawing handle directly; no attribute context is involved.
+    BOOL PtVisible(int x, int y) const override;
+    BOOL RectVisible(LPCRECT lpRect) const override;
+    using CDC::TextOut;
+    BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount) override;
+    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
+                    LPINT lpDxWidths) override;
+    CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
+                        LPINT lpnTabStopPositions, int nTabOrigin) override;
+    int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) override;
+    int DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
+                   LPDRAWTEXTPARAMS lpDTParams) override;
+    BOOL GrayString(CBrush* pBrush, GRAYSTRINGPROC lpfnOutput, LPARAM lpData, int nCount, int x, int y,
+                    int nWidth, int nHeight) override;
+    int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) override;
+
+private:
+    void NeedScale();
+    BOOL LongLineTo(CPoint from, CPoint to);
+    BOOL LongPolygon(const POINT* lpPoints, int nCount);
+
+    // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.
+    CPoint m_ptUnscaledPen;
+};

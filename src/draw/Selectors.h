@@ -1,0 +1,59 @@
+#pragma once
+// Scoped selection: each makes or takes a drawing object, selects it for its own lifetime,
+// and selects the old one back. Stack objects, destroyed in reverse order, so a paint
+// routine leaves the context as it found it. The context must outlive them.
+
+#include "framework/windowing/GdiObjects.h"
+
+#include <memory>
+
+class CDCEx;
+
+// A pen of the colour; a solid one (style 0) widens with a scaling context. Throws
+// CResourceException where the platform makes no pen.
+class CPenSelector
+{
+public:
+    CPenSelector(COLORREF crColor, int nWidth, CDCEx* pDC, int nStyle = PS_SOLID);
+    CPenSelector(const CPenSelector&) = delete;
+    CPenSelector& operator=(const CPenSelector&) = delete;
+    virtual ~CPenSelector();
+
+protected:
+    std::unique_ptr<CPen> m_pPen;
+    CPen* m_pOldPen;
+    CDCEx* m_pDC;
+};
+
+// A solid brush, or one of the platform's hatches 0 to 5. Throws CResourceException where
+// the platform makes no brush.
+class CBrushSelector
+{
+public:
+    CBrushSelector(COLORREF crColor, CDCEx* pDC);
+    CBrushSelector(int nIndex, COLORREF crColor, CDCEx* pDC);
+    CBrushSelector(const CBrushSelector&) = delete;
+    CBrushSelector& operator=(const CBrushSelector&) = delete;
+    virtual ~CBrushSelector();
+
+protected:
+    std::unique_ptr<CBrush> m_pBrush;
+    CBrush* m_pOldBrush;
+    CDCEx* m_pDC;
+};
+
+// The font, or with bScale on a scaling context one of the device's size made from it.
+// Measure with bScale false and draw with true: layout runs in screen units.
+class CFontSelector
+{
+public:
+    CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale);
+    CFontSelector(const CFontSelector&) = delete;
+    CFontSelector& operator=(const CFontSelector&) = delete;
+    virtual ~CFontSelector();
+
+protected:
+    CFont m_ScaledFont;
+    CFont* m_pOldFont;
+    CDCEx* m_pDC;
+};
