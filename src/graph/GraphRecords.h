@@ -14,8 +14,9 @@ struct TMeasureSpan {
 };
 static_assert(sizeof(TMeasureSpan) == 16);
 
-// One row of the legend as the last frame drew it, in client pixels. The curve belongs to
-// the graph's list and is good until that list changes.
+// One row of the legend as the last frame drew it, in client pixels. The pointer is good until
+// the graph's list of curves changes, while rows stay until the next frame: whoever follows it
+// asks CXGraph::GetCurveIndex first.
 struct TLegendEntry {
     CRect rcRow;
     CXGraphDataSerie* pCurve = nullptr;

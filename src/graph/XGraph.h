@@ -85,7 +85,7 @@ public:
 
     // Destroys every graph that is left, with its window. For the end of the module.
     static void FreeAll();
-    [[nodiscard]] static int GetLiveCount();
+    [[nodiscard]] static int GetLiveCount(); // graphs alive in this module
 
     PFNMARKER m_pfnMarker[8];
     COLORREF m_crBackColor = 0xFFFFFF;
@@ -150,5 +150,8 @@ protected:
 
 private:
     void PaintFrame(CDCEx* pDC);
+    void LayoutAxes(CDCEx* pDC, const CRect& rcGraph);
+    void DrawCurves(CDCEx* pDC);
+    void DrawOverlay(CDCEx* pDC);
     void DrawPointValue(CDCEx* pDC);
 };

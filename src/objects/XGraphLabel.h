@@ -5,7 +5,8 @@
 #include "framework/windowing/Strings.h"
 #include "objects/XGraphObject.h"
 
-class CXGraphLabel : public CXGraphObject {
+class CXGraphLabel : public CXGraphObject
+{
     DECLARE_SERIAL(CXGraphLabel)
 
 public:
@@ -28,4 +29,7 @@ public:
     // The base's 27 bytes, text, font record, both colours, both flags, alignment, curve.
     void Serialize(CArchive& ar) override;
     void Draw(CDCEx* pDC) override;
+
+private:
+    void DrawTie(CDCEx* pDC);
 };

@@ -1,0 +1,137 @@
+// Data entry: curves and their axes, removal and selection.
+
+#include "graph/DataExtent.h"
+#include "graph/XGraph.h"
+
+#include <utility>
+
+namespace
+{
+
+template <typename Element>
+[[nodiscard]] bool IsInside(const CCheckedVector<Element>& elements, int nIndex)
+{
+    return nIndex >= 0 && static_cast<std::size_t>(nIndex) < elements.size();
+}
+
+template <typename Element>
+bool SelectOne(CCheckedVector<Element>& elements, int nIndex)
+{
+    if (!IsInside(elements, nIndex))
+        return false;
+    for (std::size_t i = 0; i < elements.size(); ++i)
+        elements[i].m_bSelected = i == static_cast<std::size_t>(nIndex);
+    return true;
+}
+
+template <typename Element>
+bool EraseAt(CCheckedVector<Element>& elements, int nIndex)
+{
+    if (!IsInside(elements, nIndex))
+        return false;
+    elements.erase(elements.begin() + nIndex);
+    return true;
+}
+
+void AppendAxis(CCheckedVector<CXGraphAxis>& axes, CXGraph* pGraph, EAxisKind kind)
+{
+    CXGraphAxis axis;
+    axis.m_pGraph = pGraph;
+    axis.m_AxisKind = kind;
+    axes.push_back(axis);
+}
+
+} // namespace
+
+CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve, int nXAxis, int nYAxis,
+                                   bool bAutoDelete)
+{
+    if (pValues == nullptr || nCount <= 0)
+        return nullptr;
+
+    if (std::cmp_equal(nCurve, m_Curves.size())) {
+        CXGraphDataSerie curve;
+        curve.m_nXAxis = nXAxis;
+        curve.m_nYAxis = nYAxis;
+        curve.m_nIndex = nCurve;
+        curve.m_crColor = CXGraphDataSerie::CreationColor(nCurve);
+        if (bAutoDelete)
+            curve.CopyData(pValues, nCount);
+        else
+            curve.ReplaceData(pValues, nCount, false);
+        m_Curves.push_back(std::move(curve));
+    } else {
+        // The caller's array itself, whatever bAutoDelete says: it then becomes the curve's.
+        CXGraphDataSerie& curve = m_Curves[nCurve];
+        curve.m_nXAxis = nXAxis;
+        curve.m_nYAxis = nYAxis;
+        curve.ReplaceData(pValues, nCount, bAutoDelete);
+    }
+    if (std::cmp_equal(nXAxis, m_XAxes.size()))
+        AppendAxis(m_XAxes, this, akXAxis);
+    if (std::cmp_equal(nYAxis, m_YAxes.size()))
+        AppendAxis(m_YAxes, this, akYAxis);
+
+    CXGraphDataSerie* pCurve = &m_Curves[nCurve];
+    pCurve->m_pGraph = this;
+    Autoscale(nXAxis, nYAxis, nCurve);
+    if (m_hWnd != nullptr)
+        Invalidate();
+    return pCurve;
+}
+
+bool CXGraph::Autoscale(int nXAxis, int nYAxis, int nCurve)
+{
+    CXGraphAxis& xAxis = m_XAxes[nXAxis];
+    CXGraphAxis& yAxis = m_YAxes[nYAxis];
+    const CXGraphDataSerie& curve = m_Curves[nCurve];
+
+    TDataExtent extent{xAxis.m_fMin, xAxis.m_fMax, yAxis.m_fMin, yAxis.m_fMax};
+    if (curve.m_nCount > 0)
+        extent = DataExtent::Widen(extent, {curve.m_pData, static_cast<std::size_t>(curve.m_nCount)});
+    xAxis.SetRange(extent.fMinX, extent.fMaxX);
+    return yAxis.SetRange(extent.fMinY, extent.fMaxY);
+}
+
+bool CXGraph::DeleteXAxis(int nAxis)
+{
+    return EraseAt(m_XAxes, nAxis);
+}
+
+bool CXGraph::DeleteYAxis(int nAxis)
+{
+    if (!IsInside(m_YAxes, nAxis))
+        return false;
+    if (!m_XAxes.empty())
+        m_XAxes.pop_back();
+    return true;
+}
+
+bool CXGraph::DeleteCurve(int nCurve)
+{
+    return EraseAt(m_Curves, nCurve);
+}
+
+bool CXGraph::SelectXAxis(int nAxis)
+{
+    if (!SelectOne(m_XAxes, nAxis))
+        return false;
+    Invalidate();
+    return true;
+}
+
+bool CXGraph::SelectYAxis(int nAxis)
+{
+    if (!SelectOne(m_YAxes, nAxis))
+        return false;
+    Invalidate();
+    return true;
+}
+
+bool CXGraph::SelectCurve(int nCurve)
+{
+    if (!SelectOne(m_Curves, nCurve))
+        return false;
+    Invalidate();
+    return true;
+}

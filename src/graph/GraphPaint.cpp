@@ -1,0 +1,200 @@
+// The frame: one routine draws a whole picture of the graph and computes all its geometry.
+
+#include "draw/MemDC.h"
+#include "draw/QuickFont.h"
+#include "draw/Selectors.h"
+#include "graph/FrameLayout.h"
+#include "graph/XGraph.h"
+
+#include <optional>
+#include <vector>
+
+namespace
+{
+
+constexpr COLORREF kWhite = 0xFFFFFF;
+constexpr COLORREF kBandColor = 0xFF9696;
+
+// A canvas on somebody else's handle, left again on every way out.
+class AttachedCanvas
+{
+public:
+    explicit AttachedCanvas(HDC hDC) { m_dc.Attach(hDC); }
+    AttachedCanvas(const AttachedCanvas&) = delete;
+    AttachedCanvas& operator=(const AttachedCanvas&) = delete;
+    ~AttachedCanvas() { m_dc.Detach(); }
+
+    CDCEx m_dc;
+};
+
+// The state of a context, put back at the end of a frame.
+class SavedState
+{
+public:
+    explicit SavedState(CDCEx* pDC) : m_pDC(pDC), m_nState(pDC->SaveDC()) {}
+    SavedState(const SavedState&) = delete;
+    SavedState& operator=(const SavedState&) = delete;
+    ~SavedState() { m_pDC->RestoreDC(m_nState); }
+
+private:
+    CDCEx* m_pDC;
+    int m_nState;
+};
+
+COLORREF Shade(const CDCEx* pDC, COLORREF color)
+{
+    return pDC->m_bMono ? kWhite : color;
+}
+
+// A clip region counts in device units, which a partial buffer shifts against the client
+// area and a printer scales.
+void ClipTo(CDCEx* pDC, CRect rect, CRgn& region)
+{
+    if (pDC->m_bScaling && !pDC->m_bClipScaled)
+        pDC->ScaleRect(rect);
+    pDC->LPtoDP(&rect);
+    region.CreateRectRgnIndirect(&rect);
+    pDC->SelectClipRgn(&region);
+}
+
+} // namespace
+
+BOOL CXGraph::OnEraseBkgnd(CDC*)
+{
+    return TRUE; // every frame covers the whole client area
+}
+
+void CXGraph::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    Invalidate();
+}
+
+void CXGraph::OnPaint()
+{
+    CPaintDC dcPaint(this);
+    m_ptLastCursor = CPoint(-1, -1); // the frame wipes the cursor that was drawn by XOR
+    if (m_pDrawDC != nullptr) {
+        PaintFrame(m_pDrawDC);
+        return;
+    }
+    std::optional<CMemDC> buffer;
+    if (m_bDoubleBuffer)
+        buffer.emplace(&dcPaint);
+    AttachedCanvas canvas(buffer ? buffer->GetSafeHdc() : dcPaint.GetSafeHdc());
+    PaintFrame(&canvas.m_dc);
+}
+
+void CXGraph::PaintFrame(CDCEx* pDC)
+{
+    CRgn region; // outlives its selection
+    const SavedState state(pDC);
+
+    CRect rcClient;
+    if (pDC->m_bScaling)
+        rcClient = m_rcPrint;
+    else
+        GetClientRect(&rcClient);
+    pDC->FillSolidRect(&rcClient, Shade(pDC, m_crBackColor));
+
+    CRect rcGraph = FrameLayout::GraphRect(
+        rcClient, {m_nLeftMargin, m_nTopMargin, m_nRightMargin, m_nBottomMargin});
+    if (m_bShowLegend)
+        DrawLegend(pDC, rcGraph);
+    pDC->FillSolidRect(&rcGraph, Shade(pDC, m_crGraphColor));
+
+    LayoutAxes(pDC, rcGraph);
+    pDC->FillSolidRect(&m_rcInner, Shade(pDC, m_crInnerColor));
+    for (CXGraphAxis& axis : m_YAxes) {
+        axis.m_nOriginY = m_rcInner.bottom;
+        axis.Draw(pDC);
+    }
+    for (CXGraphAxis& axis : m_XAxes)
+        axis.Draw(pDC);
+
+    ClipTo(pDC, m_rcInner, region);
+    DrawCurves(pDC);
+    DrawOverlay(pDC);
+}
+
+void CXGraph::LayoutAxes(CDCEx* pDC, const CRect& rcGraph)
+{
+    std::vector<FrameLayout::YAxis> yAxes;
+    std::vector<FrameLayout::XAxis> xAxes;
+    yAxes.reserve(m_YAxes.size());
+    xAxes.reserve(m_XAxes.size());
+    for (CXGraphAxis& axis : m_YAxes) {
+        yAxes.push_back({axis.m_Placement, axis.m_bVisible, 0, 0, axis.m_nArcSize, axis.m_nOriginX});
+        if (axis.m_bVisible) {
+            yAxes.back().nLabelWidth = axis.GetMaxLabelWidth(pDC);
+            yAxes.back().nTitleWidth = axis.GetTitleSize(pDC).cx;
+        }
+    }
+    for (CXGraphAxis& axis : m_XAxes)
+        xAxes.push_back({axis.m_bVisible, axis.m_bVisible ? axis.GetLabelHeight(pDC) : 0});
+
+    FrameLayout::ResolvePlacement(yAxes);
+    m_rcInner = FrameLayout::Stack(rcGraph, yAxes, xAxes, m_nAxisSpace);
+
+    for (std::size_t i = 0; i < yAxes.size(); ++i) {
+        m_YAxes[i].m_Placement = yAxes[i].placement;
+        m_YAxes[i].m_nOriginX = yAxes[i].nOriginX;
+        m_YAxes[i].m_rcArea = rcGraph;
+    }
+    for (std::size_t i = 0; i < xAxes.size(); ++i) {
+        m_XAxes[i].m_nOriginX = xAxes[i].nOriginX;
+        m_XAxes[i].m_nOriginY = xAxes[i].nOriginY;
+        m_XAxes[i].m_rcArea = rcGraph;
+    }
+}
+
+void CXGraph::DrawCurves(CDCEx* pDC)
+{
+    for (CXGraphDataSerie& curve : m_Curves) {
+        if (curve.m_bVisible)
+            curve.Draw(pDC);
+    }
+    // Markers lie above the lines of all curves.
+    for (CXGraphDataSerie& curve : m_Curves) {
+        if (curve.m_bVisible && curve.m_bShowMarker)
+            curve.DrawMarkers(pDC);
+    }
+}
+
+void CXGraph::DrawOverlay(CDCEx* pDC)
+{
+    if (m_opOperation == opZoom && m_bLButtonDown)
+        DrawZoomRect(pDC);
+    for (POSITION pos = m_Objects.GetHeadPosition(); pos != nullptr;)
+        static_cast<CXGraphObject*>(m_Objects.GetNext(pos))->Draw(pDC);
+    if (m_bPointDragged)
+        DrawPointValue(pDC);
+}
+
+void CXGraph::DrawPointValue(CDCEx* pDC)
+{
+    constexpr int kDistance = 10;
+    CQuickFont font(L"Arial", 13, FW_NORMAL);
+    const CFontSelector selectFont(&font, pDC, true);
+    pDC->SetBkMode(TRANSPARENT);
+    CString strValue;
+    strValue.Format(L"%.2f", m_fEditValue);
+    pDC->TextOut(m_ptCurrent.x + kDistance, m_ptCurrent.y, strValue);
+}
+
+void CXGraph::DrawZoomRect(CDCEx* pDC)
+{
+    const CRect rcBand = FrameLayout::Band(m_ptLButtonDown, m_ptCurrent, m_rcInner);
+    if (!m_bDoubleBuffer && !m_rcZoom.IsRectEmpty())
+        pDC->DrawFocusRect(&m_rcZoom); // the second time erases
+    m_rcZoom = rcBand;
+    if (m_bDoubleBuffer) {
+        const CBrushSelector selectBrush(kBandColor, pDC);
+        const COLORREF crBack = pDC->SetBkColor(m_crInnerColor);
+        const int nMode = pDC->SetROP2(R2_NOTXORPEN);
+        pDC->Rectangle(&m_rcZoom);
+        pDC->SetBkColor(crBack);
+        pDC->SetROP2(nMode);
+    }
+    pDC->DrawFocusRect(&m_rcZoom);
+}

@@ -1,0 +1,149 @@
+#include "graph/XGraph.h"
+
+#include "framework/windowing/App.h"
+#include "framework/windowing/Exceptions.h"
+#include "framework/windowing/ModuleState.h"
+#include "graph/GraphRegister.h"
+
+#include <memory>
+
+IMPLEMENT_SERIAL(CXGraph, CWnd, 1)
+
+BEGIN_MESSAGE_MAP(CXGraph, CWnd)
+ON_WM_PAINT()
+ON_WM_SIZE()
+ON_WM_ERASEBKGND()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr wchar_t kClassName[] = L"XGraph";
+
+// The class serves hosts that place the control by its class name; the graph's own window
+// is made without it.
+void RegisterGraphClass()
+{
+    const HINSTANCE hInstance = AfxGetInstanceHandle();
+    WNDCLASSW wndclass = {};
+    if (::GetClassInfoW(hInstance, kClassName, &wndclass))
+        return;
+    wndclass = {};
+    wndclass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
+    wndclass.lpfnWndProc = ::DefWindowProcW;
+    wndclass.hInstance = hInstance;
+    wndclass.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512)); // IDC_ARROW
+    wndclass.hbrBackground = reinterpret_cast<HBRUSH>(16);
+    wndclass.lpszClassName = kClassName;
+    if (!AfxRegisterClass(&wndclass))
+        AfxThrowResourceException();
+}
+
+} // namespace
+
+CXGraph::CXGraph()
+    : m_pfnMarker{&DrawSquare,       &DrawCircle,     &DrawCross,         &DrawDiamond,
+                  &DrawTriangleLeft, &DrawTriangleUp, &DrawTriangleRight, &DrawTriangleDown}
+{
+    m_CursorLabel.m_rcObject = CRect(100, 100, 200, 175);
+    m_CursorLabel.m_bVisible = false;
+    m_CursorLabel.m_bCanEdit = false;
+    m_CursorLabel.m_bBorder = true;
+    m_CursorLabel.m_pGraph = this;
+    m_Objects.AddTail(&m_CursorLabel);
+    RegisterGraphClass();
+    GraphRegister::Add(this);
+}
+
+CXGraph::~CXGraph()
+{
+    GraphRegister::Remove(this);
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+    ResetAll();
+}
+
+LRESULT CXGraph::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+CXGraphAxis* CXGraph::GetXAxis(int nAxis)
+{
+    return &m_XAxes[nAxis];
+}
+
+CXGraphAxis* CXGraph::GetYAxis(int nAxis)
+{
+    return &m_YAxes[nAxis];
+}
+
+CXGraphDataSerie* CXGraph::GetCurve(int nCurve)
+{
+    return &m_Curves[nCurve];
+}
+
+void CXGraph::ResetAll()
+{
+    m_XAxes.clear();
+    m_YAxes.clear();
+    m_Curves.clear();
+    while (m_Objects.GetCount() > 1)
+        delete m_Objects.RemoveTail();
+}
+
+void CXGraph::SetGraphMargins(int nLeft, int nTop, int nRight, int nBottom)
+{
+    m_nLeftMargin = nLeft;
+    m_nTopMargin = nTop;
+    m_nRightMargin = nRight;
+    m_nBottomMargin = nBottom;
+}
+
+int CXGraph::GetAxisIndex(const CXGraphAxis* pAxis) const
+{
+    for (const auto* pAxes : {&m_XAxes, &m_YAxes}) {
+        for (std::size_t i = 0; i < pAxes->size(); ++i) {
+            if (&(*pAxes)[i] == pAxis)
+                return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
+int CXGraph::GetCurveIndex(const CXGraphDataSerie* pCurve) const
+{
+    for (std::size_t i = 0; i < m_Curves.size(); ++i) {
+        if (&m_Curves[i] == pCurve)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+CXGraphLabel* CXGraph::InsertLabel(const CRect& rcRect, const CString& strText)
+{
+    auto label = std::make_unique<CXGraphLabel>();
+    label->m_rcObject = rcRect;
+    label->m_cText = strText;
+    label->m_pGraph = this;
+    m_Objects.AddTail(label.get());
+    return label.release();
+}
+
+CXGraphLabel* CXGraph::InsertCenteredLabel(const CString& strText)
+{
+    constexpr int kHalfSide = 50;
+    CRect rcLabel(m_rcInner.CenterPoint(), CSize());
+    rcLabel.InflateRect(kHalfSide, kHalfSide);
+    return InsertLabel(rcLabel, strText);
+}
+
+void CXGraph::FreeAll()
+{
+    GraphRegister::FreeAll();
+}
+
+int CXGraph::GetLiveCount()
+{
+    return GraphRegister::GetCount();
+}
