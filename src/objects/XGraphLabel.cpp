@@ -3,7 +3,6 @@
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
-#include "framework/windowing/Exceptions.h"
 #include "graph/XGraph.h"
 
 #include <optional>
@@ -26,24 +25,6 @@ LOGFONTW DefaultFont()
     font.lfQuality = ANTIALIASED_QUALITY;
     ::lstrcpynW(font.lfFaceName, L"Arial", LF_FACESIZE);
     return font;
-}
-
-void ReadRaw(CArchive& ar, void* pTarget, UINT nCount)
-{
-    if (ar.Read(pTarget, nCount) != nCount)
-        AfxThrowArchiveException(CArchiveException::endOfFile);
-}
-
-BYTE AsByte(bool bValue)
-{
-    return bValue ? 1 : 0;
-}
-
-bool ReadFlag(CArchive& ar)
-{
-    BYTE nValue = 0;
-    ar >> nValue;
-    return nValue != 0;
 }
 
 } // namespace
@@ -72,21 +53,13 @@ void CXGraphLabel::Serialize(CArchive& ar)
         m_Font.GetLogFont(&font);
         ar << m_cText;
         ar.Write(&font, sizeof font);
-        ar << m_crFillColor << m_crTextColor << AsByte(m_bBorder) << AsByte(m_bTransparent)
-           << static_cast<DWORD>(m_nAlignment) << static_cast<LONG>(m_nCurve);
-        return;
+        ar << m_crFillColor << m_crTextColor << m_bBorder << m_bTransparent << m_nAlignment << m_nCurve;
+    } else {
+        ar >> m_cText;
+        ar.ReadExactly(&font, sizeof font);
+        SetFont(font);
+        ar >> m_crFillColor >> m_crTextColor >> m_bBorder >> m_bTransparent >> m_nAlignment >> m_nCurve;
     }
-    DWORD nAlignment = 0;
-    LONG nCurve = 0;
-    ar >> m_cText;
-    ReadRaw(ar, &font, sizeof font);
-    SetFont(font);
-    ar >> m_crFillColor >> m_crTextColor;
-    m_bBorder = ReadFlag(ar);
-    m_bTransparent = ReadFlag(ar);
-    ar >> nAlignment >> nCurve;
-    m_nAlignment = nAlignment;
-    m_nCurve = nCurve;
 }
 
 void CXGraphLabel::Draw(CDCEx* pDC)
