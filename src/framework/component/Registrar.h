@@ -1,0 +1,41 @@
+#pragma once
+// Runs registrar scripts on the registry. It lives in the module itself; no outside registrar
+// is needed.
+//
+// Registering makes the keys and sets the values; a key marked ForceRemove is removed with all
+// below it first, and Delete only removes. Unregistering removes every key of the script that
+// isn't marked NoRemove, with all below it, and of kept keys the named values of the script.
+// Keys that stand right under a root and bear one of the system's names ("CLSID", "TypeLib",
+// "Software", ...) are never removed, whatever the script says.
+//
+// A text that is no script gives DISP_E_EXCEPTION and changes nothing.
+
+#include "framework/component/RegistrarScript.h"
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+class CRegObject
+{
+public:
+    void AddReplacement(std::wstring_view key, std::wstring_view item);
+    void ClearReplacements() noexcept { m_replacements.Clear(); }
+
+    // A script in the module's resources: text of that type and id.
+    HRESULT ResourceRegister(HINSTANCE module, UINT nID, LPCWSTR szType);
+    HRESULT ResourceUnregister(HINSTANCE module, UINT nID, LPCWSTR szType);
+
+    HRESULT StringRegister(std::wstring_view script);
+    HRESULT StringUnregister(std::wstring_view script);
+
+    // Makes a text fit to stand between the quotes of a script.
+    [[nodiscard]] static std::wstring EscapeSingleQuotes(std::wstring_view text);
+
+private:
+    HRESULT Run(std::u16string_view script, bool bRegister) const;
+    HRESULT RunResource(HINSTANCE module, UINT nID, LPCWSTR szType, bool bRegister) const;
+
+    RegistrarScript::Replacements m_replacements;
+};
