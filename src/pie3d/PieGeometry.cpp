@@ -1,0 +1,179 @@
+#include "pie3d/PieGeometry.h"
+
+#include "base/Trunc.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace PieGeometry
+{
+namespace
+{
+
+// No window is higher than this. Larger rectangles cost the drawing library time and show
+// nothing else.
+constexpr std::int32_t nFarthest = 0x4000;
+
+// Angles of two points that differ by rounding alone differ by less than this.
+constexpr float fAngleNoise = 0.01f;
+
+double Radians(float degrees) noexcept
+{
+    return degrees * std::numbers::pi / 180.0;
+}
+
+std::int32_t WithinWindow(float pixels) noexcept
+{
+    return pixels > 0 ? Trunc(std::min(pixels, float{nFarthest})) : 0;
+}
+
+// The start point and the points of the rim go through the same arithmetic.
+float SqueezedY(const TRect& rcPie, std::int32_t squeeze, float angle) noexcept
+{
+    const float y = RimPoint(rcPie, angle).y;
+    return static_cast<float>(y - std::sin(Radians(angle)) * squeeze);
+}
+
+float SweepBetween(float from, float to, float trueSweep) noexcept
+{
+    if (trueSweep == 360.0f) {
+        return 360.0f; // a lone element ends where it starts
+    }
+    float sweep = to - from;
+    if (sweep < 0) {
+        sweep += 360.0f;
+    }
+    // Where two ends are the same point but for rounding, a sliver must not become the
+    // whole pie, nor the rest of the pie a sliver.
+    const bool nowhere = std::abs(sweep) < fAngleNoise;
+    const bool around = std::abs(sweep - 360.0f) < fAngleNoise;
+    if (nowhere || around) {
+        return trueSweep > 359.0f ? 360.0f
+               : trueSweep < 1.0f ? std::max(nowhere ? sweep : 0.0f, 0.0f)
+                                  : sweep;
+    }
+    return sweep;
+}
+
+} // namespace
+
+TRect PieSquare(const TRect& rcClient, std::int32_t nPieLimit) noexcept
+{
+    TRect rc;
+    rc.left = rcClient.left + 30;
+    rc.top = rcClient.top + 100;
+    const std::int32_t bottomLimit = rcClient.bottom - 30;
+    if (bottomLimit - rc.top <= nPieLimit - rc.left) {
+        rc.bottom = std::max(rcClient.top + 250, bottomLimit);
+        rc.right = rc.bottom - rc.top + rc.left;
+    } else {
+        rc.right = std::max(rc.left + 150, nPieLimit);
+        rc.bottom = rc.top - rc.left + rc.right;
+    }
+    return rc;
+}
+
+TFaces FaceRects(const TRect& rcPie, float fIncline, float fDepthRatio) noexcept
+{
+    TFaces faces;
+    const auto height = static_cast<float>(rcPie.Height());
+    faces.nSqueeze = WithinWindow(height * fIncline / 180.0f);
+    faces.nDepth = WithinWindow(static_cast<float>(faces.nSqueeze) * fDepthRatio * 0.5f);
+    faces.rcUpper = {rcPie.left, rcPie.top + faces.nSqueeze - faces.nDepth, rcPie.right,
+                     rcPie.bottom - faces.nSqueeze - faces.nDepth};
+    faces.rcLower = {rcPie.left, rcPie.top + faces.nSqueeze + faces.nDepth, rcPie.right,
+                     rcPie.bottom - faces.nSqueeze + faces.nDepth};
+    return faces;
+}
+
+float RatioForDepth(const TRect& rcPie, float fDepth) noexcept
+{
+    return fDepth / static_cast<float>(rcPie.Height() * 85 / 180);
+}
+
+float BelowFullTurn(float fAngle) noexcept
+{
+    return fAngle >= 360.0f ? std::fmod(fAngle, 360.0f) : fAngle;
+}
+
+TPoint CentreOf(const TRect& rc) noexcept
+{
+    return {(rc.left + rc.right) / 2, (rc.top + rc.bottom) / 2};
+}
+
+float AngleOfPoint(const TPointF& point, const TRect& rc) noexcept
+{
+    const TPoint centre = CentreOf(rc);
+    const double dx = static_cast<double>(point.x) - centre.x;
+    const double dy = static_cast<double>(point.y) - centre.y;
+    const auto angle = static_cast<float>(std::atan(dy / dx) * 180.0 / std::numbers::pi);
+    if (!std::isfinite(angle)) {
+        return 0.0f;
+    }
+    if (dx < 0) {
+        return angle + 180.0f;
+    }
+    return dy < 0 ? angle + 360.0f : angle;
+}
+
+TPointF RimPoint(const TRect& rc, float fAngle) noexcept
+{
+    const TPoint centre = CentreOf(rc);
+    const double angle = Radians(fAngle);
+    const std::int32_t halfWidth = rc.Width() / 2;
+    const std::int32_t halfHeight = rc.Height() / 2;
+    return {static_cast<float>(std::cos(angle) * halfWidth + centre.x),
+            static_cast<float>(std::sin(angle) * halfHeight + centre.y)};
+}
+
+float ProjectAngles(const TRect& rcPie, const TFaces& faces, float fStartAngle,
+                    std::span<const float> sweeps, std::span<TProjection> projections) noexcept
+{
+    TRect rcEllipse = faces.rcUpper;
+    rcEllipse.top += faces.nDepth;
+    rcEllipse.bottom += faces.nDepth;
+
+    const TPointF start{RimPoint(rcPie, fStartAngle).x, SqueezedY(rcPie, faces.nSqueeze, fStartAngle)};
+    const float drawStart = AngleOfPoint(start, rcEllipse);
+    float onEllipse = drawStart;
+    float onCircle = fStartAngle;
+    for (std::size_t i = 0; i < sweeps.size() && i < projections.size(); ++i) {
+        const float end = onCircle + sweeps[i];
+        TProjection& projection = projections[i];
+        projection.fLabelX = RimPoint(rcPie, end).x;
+        projection.fLabelY = SqueezedY(rcPie, faces.nSqueeze, end);
+        const float angle = AngleOfPoint({projection.fLabelX, projection.fLabelY}, rcEllipse);
+        projection.fDrawSweep = SweepBetween(onEllipse, angle, sweeps[i]);
+        onCircle = end;
+        onEllipse += projection.fDrawSweep;
+    }
+    return drawStart;
+}
+
+TRectF Inset(const TRect& rc, float fInset) noexcept
+{
+    return {static_cast<float>(rc.left) + fInset, static_cast<float>(rc.top) + fInset,
+            static_cast<float>(rc.Width()) - 2 * fInset, static_cast<float>(rc.Height()) - 2 * fInset};
+}
+
+TRectF AboutCentre(const TRect& rc, float fReach) noexcept
+{
+    const TPoint centre = CentreOf(rc);
+    return {static_cast<float>(centre.x) - fReach, static_cast<float>(centre.y) - fReach, 2 * fReach,
+            2 * fReach};
+}
+
+bool DrawableAngles(float& fStart, float& fSweep) noexcept
+{
+    if (!std::isfinite(fStart) || std::isnan(fSweep)) {
+        return false;
+    }
+    if (std::abs(fStart) > 720.0f) {
+        fStart = std::fmod(fStart, 360.0f);
+    }
+    fSweep = std::clamp(fSweep, -360.0f, 360.0f);
+    return true;
+}
+
+} // namespace PieGeometry

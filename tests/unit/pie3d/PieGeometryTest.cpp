@@ -1,0 +1,232 @@
+#include "pie3d/PieGeometry.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <ostream>
+#include <vector>
+
+using namespace PieGeometry;
+
+void PrintTo(const TRect& rc, std::ostream* out)
+{
+    *out << '(' << rc.left << ", " << rc.top << ", " << rc.right << ", " << rc.bottom << ')';
+}
+
+namespace
+{
+
+constexpr float fNear = 0.001f;
+constexpr TRect rcHand{30, 100, 230, 300}; // 200 a side about (130, 200)
+
+std::vector<TProjection> Projected(float incline, float start, const std::vector<float>& sweeps)
+{
+    std::vector<TProjection> projections(sweeps.size());
+    ProjectAngles(rcHand, FaceRects(rcHand, incline, 0.5f), start, sweeps, projections);
+    return projections;
+}
+
+} // namespace
+
+TEST(PieSquare, AWideWindowIsFilledFromTopToBottom)
+{
+    EXPECT_EQ(PieSquare({0, 0, 800, 600}, 533), (TRect{30, 100, 500, 570}));
+}
+
+TEST(PieSquare, ATallWindowIsFilledToThePieLimit)
+{
+    EXPECT_EQ(PieSquare({0, 0, 600, 600}, 400), (TRect{30, 100, 400, 470}));
+}
+
+TEST(PieSquare, IsNeverSmallerThan150)
+{
+    const TRect smallest{30, 100, 180, 250};
+    EXPECT_EQ(PieSquare({0, 0, 0, 0}, 180), smallest);
+    EXPECT_EQ(PieSquare({0, 0, 1, 1}, 180), smallest);
+    EXPECT_EQ(PieSquare({0, 0, 200, 200}, 180), smallest);
+    EXPECT_EQ(PieSquare({0, 0, 200, 1000}, 180), smallest);
+    EXPECT_EQ(PieSquare({0, 0, 100, 1000}, 20), smallest);
+}
+
+TEST(PieFaces, TiltFlattensAndDepthMovesTheFacesApart)
+{
+    // 470 * 60 / 180 = 156.67; 156 * 0.5 * 0.5 = 39
+    const TFaces faces = FaceRects({30, 100, 500, 570}, 60.0f, 0.5f);
+    EXPECT_EQ(faces.nSqueeze, 156);
+    EXPECT_EQ(faces.nDepth, 39);
+    EXPECT_EQ(faces.rcUpper, (TRect{30, 217, 500, 375}));
+    EXPECT_EQ(faces.rcLower, (TRect{30, 295, 500, 453}));
+}
+
+TEST(PieFaces, WithoutTiltBothFacesAreTheCircle)
+{
+    const TFaces faces = FaceRects(rcHand, 0.0f, 0.5f);
+    EXPECT_EQ(faces.nSqueeze, 0);
+    EXPECT_EQ(faces.nDepth, 0);
+    EXPECT_EQ(faces.rcUpper, rcHand);
+    EXPECT_EQ(faces.rcLower, rcHand);
+}
+
+TEST(PieFaces, ATiltBeyondNinetyTurnsTheRectanglesOver)
+{
+    const TFaces faces = FaceRects(rcHand, 120.0f, 0.0f); // 200 * 120 / 180 = 133.3
+    EXPECT_EQ(faces.rcUpper, (TRect{30, 233, 230, 167}));
+}
+
+TEST(PieFaces, HugeTiltsAndDepthsStayWithinWhatAWindowCanShow)
+{
+    const float huge = std::numeric_limits<float>::max();
+    const TFaces faces = FaceRects(rcHand, huge, huge);
+    EXPECT_EQ(faces.nSqueeze, 0x4000);
+    EXPECT_EQ(faces.nDepth, 0x4000);
+    const TFaces undefined = FaceRects(rcHand, std::nanf(""), std::nanf(""));
+    EXPECT_EQ(undefined.rcUpper, rcHand);
+}
+
+TEST(PieDepth, IsRelativeToTheTiltOfEightyFive)
+{
+    EXPECT_FLOAT_EQ(RatioForDepth({30, 100, 500, 570}, 20.0f), 20.0f / 221); // 470 * 85 / 180 = 221.9
+    EXPECT_FLOAT_EQ(RatioForDepth({30, 100, 180, 250}, 35.0f), 0.5f);        // 150 * 85 / 180 = 70.8
+}
+
+TEST(PieAngle, FullTurnsAreTakenOff)
+{
+    EXPECT_EQ(BelowFullTurn(725.0f), 5.0f);
+    EXPECT_EQ(BelowFullTurn(360.0f), 0.0f);
+    EXPECT_EQ(BelowFullTurn(359.5f), 359.5f);
+    EXPECT_EQ(BelowFullTurn(-5.0f), -5.0f);
+    EXPECT_LT(BelowFullTurn(1e30f), 360.0f);
+}
+
+TEST(PieAngle, OfAPointGoesClockwiseFromTheRight)
+{
+    EXPECT_FLOAT_EQ(AngleOfPoint({230, 200}, rcHand), 0.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({140, 210}, rcHand), 45.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({130, 210}, rcHand), 90.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({120, 210}, rcHand), 135.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({30, 200}, rcHand), 180.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({120, 190}, rcHand), 225.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({130, 190}, rcHand), 270.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({140, 190}, rcHand), 315.0f);
+}
+
+TEST(PieAngle, OfTheCentreIsZero)
+{
+    EXPECT_EQ(AngleOfPoint({130, 200}, rcHand), 0.0f);
+}
+
+TEST(PieRim, PointsLieOnTheCircleWithIntegerHalves)
+{
+    const TPointF down = RimPoint({30, 100, 181, 251}, 90.0f); // 151 / 2 = 75 about (105, 175)
+    EXPECT_NEAR(down.x, 105, fNear);
+    EXPECT_NEAR(down.y, 250, fNear);
+    const TPointF left = RimPoint(rcHand, 180.0f);
+    EXPECT_NEAR(left.x, 30, fNear);
+    EXPECT_NEAR(left.y, 200, fNear);
+}
+
+TEST(PieProjection, AnglesOfAHalvedEllipse)
+{
+    // 200 * 45 / 180 = 50: half axes 100 and 50, so 45 degrees become atan(0.5) = 26.565
+    const auto projections = Projected(45.0f, 0.0f, {45.0f, 45.0f, 270.0f});
+    EXPECT_NEAR(projections[0].fDrawSweep, 26.565f, fNear);
+    EXPECT_NEAR(projections[1].fDrawSweep, 63.435f, fNear);
+    EXPECT_NEAR(projections[2].fDrawSweep, 270.0f, fNear);
+    EXPECT_NEAR(projections[0].fLabelX, 200.711f, fNear); // 130 + 70.711
+    EXPECT_NEAR(projections[0].fLabelY, 235.355f, fNear); // 200 + 70.711 - 35.355
+    EXPECT_NEAR(projections[1].fLabelY, 250.0f, fNear);
+}
+
+TEST(PieProjection, TheStartAngleIsProjectedToo)
+{
+    std::array<TProjection, 1> projections;
+    const std::array sweeps{90.0f};
+    const float start =
+        ProjectAngles(rcHand, FaceRects(rcHand, 45.0f, 0.5f), 45.0f, sweeps, projections);
+    EXPECT_NEAR(start, 26.565f, fNear);
+    EXPECT_NEAR(projections[0].fDrawSweep, 126.870f, fNear); // to 153.435
+}
+
+TEST(PieProjection, WithoutTiltTheAnglesStay)
+{
+    const std::vector<float> sweeps{10.0f, 75.5f, 180.0f, 94.5f};
+    const auto projections = Projected(0.0f, 33.0f, sweeps);
+    for (std::size_t i = 0; i < sweeps.size(); ++i) {
+        EXPECT_NEAR(projections[i].fDrawSweep, sweeps[i], fNear);
+    }
+}
+
+TEST(PieProjection, ALoneElementStaysWholeFromAnyStartAtAnyTilt)
+{
+    for (float start = -360.0f; start < 360.0f; start += 0.37f) {
+        for (const float incline : {0.0f, 0.5f, 30.0f, 60.0f, 85.0f, 90.0f, 120.0f}) {
+            EXPECT_EQ(Projected(incline, start, {360.0f})[0].fDrawSweep, 360.0f)
+                << start << ' ' << incline;
+        }
+    }
+}
+
+TEST(PieProjection, SliversNeverGrowIntoTheWholePie)
+{
+    std::vector<float> sweeps(200, 3e-7f);
+    sweeps.insert(sweeps.begin() + 50, 360.0f - 200 * 3e-7f);
+    for (float start = 0.0f; start < 360.0f; start += 7.3f) {
+        const auto projections = Projected(60.0f, start, sweeps);
+        float sum = 0;
+        for (const TProjection& projection : projections) {
+            EXPECT_GE(projection.fDrawSweep, 0.0f);
+            sum += projection.fDrawSweep;
+        }
+        EXPECT_NEAR(sum, 360.0f, 0.01f) << start;
+    }
+}
+
+TEST(PieProjection, SweepsAddUpToAFullTurn)
+{
+    const auto projections = Projected(70.0f, 300.0f, {120.0f, 90.0f, 150.0f});
+    float sum = 0;
+    for (const TProjection& projection : projections) {
+        sum += projection.fDrawSweep;
+    }
+    EXPECT_NEAR(sum, 360.0f, fNear);
+}
+
+TEST(PieProjection, StaysFiniteForHostileSweeps)
+{
+    const float huge = std::numeric_limits<float>::max();
+    for (const float incline : {0.0f, 90.0f, huge}) {
+        for (const TProjection& projection :
+             Projected(incline, 90.0f, {huge, -huge, 720.0f, -360.0f, huge, huge})) {
+            EXPECT_TRUE(std::isfinite(projection.fDrawSweep));
+        }
+    }
+}
+
+TEST(PieRects, InsetAndCentredSquares)
+{
+    EXPECT_EQ(Inset(rcHand, 8.0f), (TRectF{38, 108, 184, 184}));
+    EXPECT_EQ(AboutCentre(rcHand, 40.0f), (TRectF{90, 160, 80, 80}));
+}
+
+TEST(PieAngle, DrawableAnglesAreFiniteAndWithinATurn)
+{
+    float start = 1e9f;
+    float sweep = 4e9f;
+    EXPECT_TRUE(DrawableAngles(start, sweep));
+    EXPECT_LT(std::abs(start), 360.0f);
+    EXPECT_EQ(sweep, 360.0f);
+
+    start = 470.0f; // what a running angle reaches stays as it is
+    sweep = -90.0f;
+    EXPECT_TRUE(DrawableAngles(start, sweep));
+    EXPECT_EQ(start, 470.0f);
+    EXPECT_EQ(sweep, -90.0f);
+
+    start = std::numeric_limits<float>::infinity();
+    EXPECT_FALSE(DrawableAngles(start, sweep));
+    start = 0;
+    sweep = std::nanf("");
+    EXPECT_FALSE(DrawableAngles(start, sweep));
+}
