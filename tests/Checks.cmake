@@ -1,0 +1,47 @@
+# What `ctest` runs for the Windows build. The programs run under Wine by scripts/run-wine.sh;
+# every run takes a prefix and a display of its own, so several may run at once.
+set(run_wine ${CMAKE_COMMAND} -E env VANTOPLEX_BUILD=${CMAKE_BINARY_DIR}/..
+  ${PROJECT_SOURCE_DIR}/scripts/run-wine.sh)
+set(results ${CMAKE_BINARY_DIR}/results)
+file(MAKE_DIRECTORY ${results})
+
+# A process per test would spend its time in starting Wine; one for all would use one core and
+# lose every result in a crash.
+set(VANTOPLEX_SHARDS 6 CACHE STRING "Number of processes that the tests are spread over")
+math(EXPR last "${VANTOPLEX_SHARDS} - 1")
+foreach(shard RANGE ${last})
+  add_test(NAME windows-${shard} COMMAND ${run_wine} -t 580 $<TARGET_FILE:vantoplex-tests>
+    --gtest_brief=1 --gtest_output=xml:${results}/windows-${shard}.xml)
+  set_tests_properties(windows-${shard} PROPERTIES
+    TIMEOUT 600
+    ENVIRONMENT "GTEST_TOTAL_SHARDS=${VANTOPLEX_SHARDS};GTEST_SHARD_INDEX=${shard}")
+endforeach()
+
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+add_test(NAME include-arrows
+  COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/support/check_includes.py ${PROJECT_SOURCE_DIR})
+add_test(NAME dll-exports-and-imports
+  COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/support/check_dll.py
+          ${CMAKE_OBJDUMP} $<TARGET_FILE:Vantoplex>)
+
+include(${PROJECT_SOURCE_DIR}/cmake/Headers.cmake)
+vantoplex_check_headers()
+add_test(NAME headers-compile-alone
+  COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-headers)
+set_tests_properties(headers-compile-alone PROPERTIES TIMEOUT 600 RUN_SERIAL ON)
+
+# The first program of the README, as it is printed there.
+set(readme_program ${CMAKE_BINARY_DIR}/readme/first.cpp)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/README.md)
+if(NOT EXISTS ${PROJECT_SOURCE_DIR}/README.md)
+  return()
+endif()
+file(READ ${PROJECT_SOURCE_DIR}/README.md readme)
+string(REGEX MATCH "```cpp\n([^`]*)```" ignored "${readme}")
+file(CONFIGURE OUTPUT ${readme_program} CONTENT "${CMAKE_MATCH_1}" @ONLY)
+add_executable(vantoplex-readme EXCLUDE_FROM_ALL ${readme_program})
+target_link_libraries(vantoplex-readme PRIVATE vantoplex-flags vantoplex-typelib ole32 oleaut32 uuid user32)
+target_link_options(vantoplex-readme PRIVATE -municode)
+add_test(NAME readme-program-compiles
+  COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-readme)
+set_tests_properties(readme-program-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
