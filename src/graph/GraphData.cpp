@@ -1,7 +1,7 @@
 // Data entry: curves and their axes, removal and selection.
 
+#include "graph/DataExtent.h"
 #include "graph/XGraph.h"
-#include "objects/CurveExtent.h"
 
 #include <utility>
 
@@ -86,9 +86,9 @@ bool CXGraph::Autoscale(int nXAxis, int nYAxis, int nCurve)
     CXGraphAxis& yAxis = m_YAxes[nYAxis];
     const CXGraphDataSerie& curve = m_Curves[nCurve];
 
-    CurveExtent::TExtent extent{xAxis.m_fMin, xAxis.m_fMax, yAxis.m_fMin, yAxis.m_fMax};
+    TDataExtent extent{xAxis.m_fMin, xAxis.m_fMax, yAxis.m_fMin, yAxis.m_fMax};
     if (curve.m_nCount > 0)
-        CurveExtent::Widen(extent, {curve.m_pData, static_cast<std::size_t>(curve.m_nCount)});
+        extent = DataExtent::Widen(extent, {curve.m_pData, static_cast<std::size_t>(curve.m_nCount)});
     xAxis.SetRange(extent.fMinX, extent.fMaxX);
     return yAxis.SetRange(extent.fMinY, extent.fMaxY);
 }

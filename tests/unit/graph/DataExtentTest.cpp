@@ -1,0 +1,89 @@
+#include "graph/DataExtent.h"
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace
+{
+
+constexpr TDataExtent kFresh{DBL_MAX, -DBL_MAX, DBL_MAX, -DBL_MAX};
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+// Bit for bit, so that the sign of a zero counts.
+void ExpectSame(const TDataExtent& actual, const TDataExtent& expected)
+{
+    EXPECT_EQ(std::memcmp(&actual, &expected, sizeof actual), 0)
+        << actual.fMinX << ' ' << actual.fMaxX << ' ' << actual.fMinY << ' ' << actual.fMaxY << " instead of "
+        << expected.fMinX << ' ' << expected.fMaxX << ' ' << expected.fMinY << ' ' << expected.fMaxY;
+}
+
+} // namespace
+
+TEST(DataExtent, AFreshExtentTakesTheDatasOwn)
+{
+    const std::vector<TDataPoint> points{{1, 5}, {3, -2}, {2, 9}};
+    ExpectSame(DataExtent::Widen(kFresh, points), {1, 3, -2, 9});
+}
+
+TEST(DataExtent, AnExistingExtentOnlyGrows)
+{
+    const std::vector<TDataPoint> points{{1, 5}, {3, 20}};
+    ExpectSame(DataExtent::Widen({0, 2, 0, 10}, points), {0, 3, 0, 20});
+}
+
+TEST(DataExtent, NoPointsChangeNothing)
+{
+    ExpectSame(DataExtent::Widen({1, 2, 3, 4}, {}), {1, 2, 3, 4});
+}
+
+TEST(DataExtent, ValuesThatAreNoNumberWidenNothing)
+{
+    const std::vector<TDataPoint> points{{kNan, 1}, {2, kNan}, {kNan, kNan}, {1, 2}, {kNan, 7}};
+    ExpectSame(DataExtent::Widen(kFresh, points), {1, 2, 1, 7});
+}
+
+TEST(DataExtent, NothingButNanLeavesAFreshExtent)
+{
+    ExpectSame(DataExtent::Widen(kFresh, std::vector<TDataPoint>(9, {kNan, kNan})), kFresh);
+}
+
+TEST(DataExtent, InfinitiesAndDenormalsAreValuesLikeOthers)
+{
+    const std::vector<TDataPoint> points{{kInfinity, -kInfinity}, {5e-324, -5e-324}};
+    ExpectSame(DataExtent::Widen(kFresh, points), {5e-324, kInfinity, -kInfinity, -5e-324});
+}
+
+TEST(DataExtent, AZeroBoundHasTheSignOfTheFirstZero)
+{
+    // The first zero stands where another lane than the first sees it.
+    std::vector<TDataPoint> points(8, {-1, 1});
+    points[3] = {-0.0, 0.0};
+    points[4] = {0.0, -0.0};
+    ExpectSame(DataExtent::Widen(kFresh, points), DataExtent::WidenPlain(kFresh, points));
+    EXPECT_TRUE(std::signbit(DataExtent::Widen(kFresh, points).fMaxX));
+    EXPECT_FALSE(std::signbit(DataExtent::Widen(kFresh, points).fMinY));
+}
+
+TEST(DataExtent, TheFastWalkAgreesWithThePlainOneBitForBit)
+{
+    std::mt19937 random(7);
+    const double specials[] = {kNan, kInfinity, -kInfinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
+    for (int round = 0; round < 2000; ++round) {
+        std::vector<TDataPoint> points(random() % 70);
+        for (TDataPoint& point : points) {
+            auto draw = [&] {
+                return random() % 4 == 0 ? specials[random() % 8] : static_cast<int>(random() % 9) - 4.0;
+            };
+            point = {draw(), draw()};
+        }
+        const TDataExtent start = random() % 2 ? kFresh : TDataExtent{-0.0, 0.0, 1.0, 1.0};
+        ExpectSame(DataExtent::Widen(start, points), DataExtent::WidenPlain(start, points));
+    }
+}
