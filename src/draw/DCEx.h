@@ -7,6 +7,7 @@
 // Lines and polygons that reach beyond +-2^26 are cut along their own lines first
 // (LongLines.h), so callers may pass any pixel that a value maps to.
 
+#include "draw/LongLines.h"
 #include "framework/windowing/DeviceContexts.h"
 
 class CDCEx : public CDC
@@ -24,6 +25,8 @@ public:
     // Takes the factors between the screen of the thread's main window (of the desktop, if
     // there is none) and the target, and m_bMono from the target.
     void InitScale(HDC hTarget);
+    // InitScale on the own handle, unless it has run.
+    void NeedScale();
     void ScalePoint(int& x, int& y);
     void ScalePoint(POINT& point);
     void ScaleRect(RECT& rect);
@@ -54,6 +57,7 @@ public:
     COLORREF SetTextColor(COLORREF crColor) override;
 
     // These nine go to the drawing handle directly; no attribute context is involved.
+    using CDC::PtVisible;
     BOOL PtVisible(int x, int y) const override;
     BOOL RectVisible(LPCRECT lpRect) const override;
     using CDC::TextOut;
@@ -70,9 +74,9 @@ public:
     int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) override;
 
 private:
-    void NeedScale();
-    BOOL LongLineTo(CPoint from, CPoint to);
+    BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to);
     BOOL LongPolygon(const POINT* lpPoints, int nCount);
+    [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;
 
     // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.
     CPoint m_ptUnscaledPen;

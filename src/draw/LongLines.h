@@ -32,14 +32,18 @@ struct TVertex {
 [[nodiscard]] bool AreShort(std::span<const TPoint> points) noexcept;
 
 // Cuts the segment to the square. False, and nothing is changed, where no part of it lies
-// inside or a coordinate isn't a number. An end inside the square stays as it is, exactly.
+// inside or a coordinate is beyond 1e300 or isn't a number. An end inside the square stays as it is,
+// exactly.
 [[nodiscard]] bool CutSegment(TVertex& from, TVertex& to) noexcept;
 // The same on pixels; the cut ends are rounded to the nearest pixel.
 [[nodiscard]] bool CutSegment(TPoint& from, TPoint& to) noexcept;
 
+// To the nearest pixel; for vertices inside the square.
+[[nodiscard]] TPoint ToPixel(TVertex vertex) noexcept;
+
 // The polygon's part inside the square, in the same sense of rotation; empty where there is
 // none. Parts that a concave polygon falls into stay joined along the square's edge, which
-// no canvas shows. A vertex that isn't a number is left out.
+// no canvas shows. A vertex beyond 1e300, or that isn't a number, is left out.
 [[nodiscard]] std::vector<TPoint> CutPolygon(std::span<const TVertex> polygon);
 [[nodiscard]] std::vector<TPoint> CutPolygon(std::span<const TPoint> polygon);
 } // namespace LongLines

@@ -27,7 +27,7 @@ public:
     BOOL m_bPrinting = FALSE;
 
     operator HDC() const noexcept { return m_hDC; }
-    [[nodiscard]] HDC GetSafeHdc() const noexcept;
+    [[nodiscard]] HDC GetSafeHdc() const noexcept { return m_hDC; }
     [[nodiscard]] BOOL IsPrinting() const noexcept { return m_bPrinting; }
     // The CDC attached to the handle last, else a temporary one that owns nothing.
     static CDC* FromHandle(HDC hDC);
@@ -186,7 +186,10 @@ public:
     int AbortDoc();
 
 private:
-    HGDIOBJ SelectBoth(HGDIOBJ hObject) const noexcept;
+    friend class HandleTable<CDC>;
+    HandleTableLink<CDC> m_Link;
+
+    HGDIOBJ SelectBoth(const CGdiObject* pObject) const noexcept;
 };
 
 // The client area of a window inside WM_PAINT, from BeginPaint to EndPaint.

@@ -8,6 +8,7 @@
 // return FALSE instead and leave the object empty.
 
 #include "framework/windowing/Geometry.h"
+#include "framework/windowing/HandleTable.h"
 #include "framework/windowing/Object.h"
 
 class CDC;
@@ -25,8 +26,7 @@ public:
     HGDIOBJ m_hObject = nullptr;
 
     operator HGDIOBJ() const noexcept { return m_hObject; }
-    // Null for a null object pointer as well.
-    [[nodiscard]] HGDIOBJ GetSafeHandle() const noexcept;
+    [[nodiscard]] HGDIOBJ GetSafeHandle() const noexcept { return m_hObject; }
     // FALSE for a null handle, with nothing changed. A handle owned before must have been
     // detached or deleted.
     BOOL Attach(HGDIOBJ hObject);
@@ -41,6 +41,10 @@ public:
     bool operator==(const CGdiObject& object) const noexcept { return m_hObject == object.m_hObject; }
 
     static CGdiObject* FromHandle(HGDIOBJ hObject);
+
+private:
+    friend class HandleTable<CGdiObject>;
+    HandleTableLink<CGdiObject> m_Link;
 };
 
 class CPen : public CGdiObject
@@ -101,8 +105,6 @@ public:
     CBitmap() noexcept = default;
 
     operator HBITMAP() const noexcept { return static_cast<HBITMAP>(m_hObject); }
-    // From the current resource module.
-    BOOL LoadBitmap(UINT nIDResource);
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits);
     BOOL CreateBitmapIndirect(LPBITMAP lpBitmap);
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);

@@ -53,8 +53,9 @@ public:
     // if the point hits nothing, or the drag was cancelled, or ended where it began, and
     // m_rect is then as before. bAllowInvert lets a handle be dragged past the opposite one.
     BOOL Track(CWnd* pWnd, CPoint point, BOOL bAllowInvert = FALSE, CWnd* pWndClipTo = nullptr);
-    // Spans a new rectangle from the point; TRUE if it isn't empty.
-    BOOL TrackRubberBand(CWnd* pWnd, CPoint point, BOOL bAllowInvert = TRUE);
+    // A drag runs on this thread. Whoever sees messages before the drag's loop does must not
+    // destroy the tracker then.
+    [[nodiscard]] static bool IsTracking() noexcept;
     [[nodiscard]] int HitTest(CPoint point) const;
     // The handle as it lies on screen, for a rectangle dragged inside out.
     [[nodiscard]] int NormalizeHit(int nHandle) const;
@@ -68,15 +69,20 @@ public:
 
 protected:
     BOOL m_bAllowInvert = FALSE;
-    CRect m_rectLast;
-    CSize m_sizeLast;
-    BOOL m_bErase = FALSE;
-    BOOL m_bFinalErase = FALSE;
+    BOOL m_bErase = FALSE;      // DrawTrackerRect removes an outline
+    BOOL m_bFinalErase = FALSE; // and it is the last one of the drag
 
     [[nodiscard]] int HitTestHandles(CPoint point) const;
     void GetHandleRect(int nHandle, CRect* pHandleRect) const;
-    void GetModifyPointers(int nHandle, LONG** ppx, LONG** ppy, int* px, int* py);
+    // Handles inside a small rectangle shrink, so that opposite ones don't meet.
     [[nodiscard]] virtual int GetHandleSize(LPCRECT lpRect = nullptr) const;
     BOOL TrackHandle(int nHandle, CWnd* pWnd, CPoint point, CWnd* pWndClipTo);
-    void Construct();
+
+private:
+    struct TDrag;
+    void DrawHatch(CDC* pDC, const CRect& rect) const;
+    void MoveHandle(int nHandle, CPoint offset);
+    bool HandleDragMessage(TDrag& drag, const MSG& message);
+    void ShowOutline(TDrag& drag);
+    void HideOutline(TDrag& drag);
 };

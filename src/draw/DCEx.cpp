@@ -1,0 +1,299 @@
+#include "draw/DCEx.h"
+
+#include "draw/DeviceScale.h"
+#include "framework/windowing/App.h"
+#include "framework/windowing/Window.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+// A screen context of the main window, or of the desktop.
+class CScreenDC
+{
+public:
+    CScreenDC()
+    {
+        const CWnd* mainWindow = AfxGetMainWnd();
+        m_hWnd = mainWindow ? mainWindow->m_hWnd : nullptr;
+        m_hDC = ::GetDC(m_hWnd);
+    }
+    ~CScreenDC()
+    {
+        if (m_hDC)
+            ::ReleaseDC(m_hWnd, m_hDC);
+    }
+    CScreenDC(const CScreenDC&) = delete;
+    CScreenDC& operator=(const CScreenDC&) = delete;
+    operator HDC() const noexcept { return m_hDC; }
+
+private:
+    HWND m_hWnd;
+    HDC m_hDC;
+};
+
+LongLines::TVertex ToVertex(CPoint point) noexcept
+{
+    return {static_cast<double>(point.x), static_cast<double>(point.y)};
+}
+} // namespace
+
+void CDCEx::InitScale(HDC hTarget)
+{
+    const CScreenDC screen;
+    m_fScaleX =
+        DeviceScale::Factor(::GetDeviceCaps(screen, LOGPIXELSX), ::GetDeviceCaps(hTarget, LOGPIXELSX));
+    m_fScaleY =
+        DeviceScale::Factor(::GetDeviceCaps(screen, LOGPIXELSY), ::GetDeviceCaps(hTarget, LOGPIXELSY));
+    m_bMono = DeviceScale::IsMono(::GetDeviceCaps(hTarget, NUMCOLORS));
+    m_bScaleReady = true;
+}
+
+void CDCEx::NeedScale()
+{
+    if (!m_bScaleReady)
+        InitScale(m_hDC);
+}
+
+void CDCEx::ScalePoint(int& x, int& y)
+{
+    NeedScale();
+    x = DeviceScale::Scaled(x, m_fScaleX);
+    y = DeviceScale::Scaled(y, m_fScaleY);
+}
+
+void CDCEx::ScalePoint(POINT& point)
+{
+    NeedScale();
+    point = CPoint(DeviceScale::Scaled(CPoint(point), m_fScaleX, m_fScaleY));
+}
+
+void CDCEx::ScaleRect(RECT& rect)
+{
+    NeedScale();
+    rect = CRect(DeviceScale::Scaled(CRect(rect), m_fScaleX, m_fScaleY));
+}
+
+CPoint CDCEx::MoveTo(int x, int y)
+{
+    m_ptUnscaledPen = CPoint(x, y);
+    if (m_bScaling)
+        ScalePoint(x, y);
+    return CDC::MoveTo(x, y);
+}
+
+BOOL CDCEx::LineTo(int x, int y)
+{
+    const CPoint unscaled(x, y);
+    CPoint to = unscaled;
+    if (m_bScaling)
+        ScalePoint(to);
+
+    const CPoint from = GetCurrentPosition();
+    if (!LongLines::IsShort(from) || !LongLines::IsShort(to))
+        return LongLineTo(from, unscaled, to);
+
+    m_ptUnscaledPen = unscaled;
+    return CDC::LineTo(to.x, to.y);
+}
+
+LongLines::TVertex CDCEx::Vertex(CPoint unscaled, CPoint scaled) const noexcept
+{
+    // The pixel that drawing would use, unless the product left the range of exact pixels.
+    if (!m_bScaling || LongLines::IsShort(scaled))
+        return ToVertex(scaled);
+    return {static_cast<double>(unscaled.x) * m_fScaleX, static_cast<double>(unscaled.y) * m_fScaleY};
+}
+
+BOOL CDCEx::LongLineTo(CPoint from, CPoint unscaledTo, CPoint to)
+{
+    // The unscaled start counts only if nobody has moved the pen past this class since.
+    CPoint pen = m_ptUnscaledPen;
+    if (m_bScaling)
+        ScalePoint(pen);
+    LongLines::TVertex start = pen == from ? Vertex(m_ptUnscaledPen, from) : ToVertex(from);
+    LongLines::TVertex end = Vertex(unscaledTo, to);
+
+    BOOL drawn = TRUE;
+    if (LongLines::CutSegment(start, end)) {
+        const CPoint cutFrom = LongLines::ToPixel(start);
+        const CPoint cutTo = LongLines::ToPixel(end);
+        CDC::MoveTo(cutFrom.x, cutFrom.y);
+        drawn = CDC::LineTo(cutTo.x, cutTo.y);
+    }
+    CDC::MoveTo(to.x, to.y);
+    m_ptUnscaledPen = unscaledTo;
+    return drawn;
+}
+
+void CDCEx::FillRect(LPCRECT lpRect, CBrush* pBrush)
+{
+    CRect rect(lpRect);
+    if (m_bScaling)
+        ScaleRect(rect);
+    CDC::FillRect(&rect, pBrush);
+}
+
+void CDCEx::DrawFocusRect(LPCRECT lpRect)
+{
+    CRect rect(lpRect);
+    if (m_bScaling)
+        ScaleRect(rect);
+    CDC::DrawFocusRect(&rect);
+}
+
+BOOL CDCEx::Ellipse(int x1, int y1, int x2, int y2)
+{
+    CRect rect(x1, y1, x2, y2);
+    if (m_bScaling)
+        ScaleRect(rect);
+    return CDC::Ellipse(&rect);
+}
+
+BOOL CDCEx::Rectangle(int x1, int y1, int x2, int y2)
+{
+    CRect rect(x1, y1, x2, y2);
+    if (m_bScaling)
+        ScaleRect(rect);
+    return CDC::Rectangle(&rect);
+}
+
+BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
+{
+    if (!lpPoints || nCount < 0)
+        return FALSE;
+    std::vector<POINT> scaled;
+    const POINT* points = lpPoints;
+    if (m_bScaling) {
+        scaled.assign(lpPoints, lpPoints + nCount);
+        for (POINT& point : scaled)
+            ScalePoint(point);
+        points = scaled.data();
+    }
+    const bool isShort = std::all_of(points, points + nCount, [](const POINT& point) {
+        return LongLines::IsShort(point.x, point.y);
+    });
+    return isShort ? CDC::Polygon(points, nCount) : LongPolygon(lpPoints, nCount);
+}
+
+BOOL CDCEx::LongPolygon(const POINT* lpPoints, int nCount)
+{
+    std::vector<LongLines::TVertex> vertices;
+    vertices.reserve(static_cast<size_t>(nCount));
+    for (const POINT* point = lpPoints; point != lpPoints + nCount; ++point) {
+        CPoint scaled(*point);
+        if (m_bScaling)
+            ScalePoint(scaled);
+        vertices.push_back(Vertex(*point, scaled));
+    }
+    const std::vector<TPoint> pixels = LongLines::CutPolygon(vertices);
+    if (pixels.size() < 2)
+        return TRUE; // wholly outside
+    const std::vector<CPoint> points(pixels.begin(), pixels.end());
+    return CDC::Polygon(points.data(), static_cast<int>(points.size()));
+}
+
+int CDCEx::DrawText(const CString& str, LPRECT lpRect, UINT nFormat)
+{
+    if (m_bScaling && (nFormat & DT_CALCRECT) == 0) {
+        CRect rect(*lpRect);
+        ScaleRect(rect);
+        return DrawText(str, str.GetLength(), &rect, nFormat);
+    }
+    if (m_bScaling)
+        ScaleRect(*lpRect);
+    return DrawText(str, str.GetLength(), lpRect, nFormat);
+}
+
+void CDCEx::FillSolidRect(LPCRECT lpRect, COLORREF crColor)
+{
+    CRect rect(lpRect);
+    if (m_bScaling)
+        ScaleRect(rect);
+    CDC::FillSolidRect(&rect, crColor);
+}
+
+void CDCEx::FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor)
+{
+    if (m_bScaling) {
+        ScalePoint(x, y);
+        ScalePoint(cx, cy);
+    }
+    CDC::FillSolidRect(x, y, cx, cy, crColor);
+}
+
+CSize CDCEx::GetTextExtent(const CString& str)
+{
+    if (str.Find(L'\n') < 0) {
+        CSize size;
+        ::GetTextExtentPoint32(m_hDC, str, str.GetLength(), &size);
+        return size;
+    }
+    CRect rect;
+    const int height = DrawText(str, &rect, DT_CALCRECT | DT_VCENTER | DT_CENTER);
+    return CSize(rect.Width(), height);
+}
+
+COLORREF CDCEx::SetBkColor(COLORREF crColor)
+{
+    return CDC::SetBkColor(crColor);
+}
+
+COLORREF CDCEx::SetTextColor(COLORREF crColor)
+{
+    return CDC::SetTextColor(crColor);
+}
+
+BOOL CDCEx::PtVisible(int x, int y) const
+{
+    return ::PtVisible(m_hDC, x, y);
+}
+
+BOOL CDCEx::RectVisible(LPCRECT lpRect) const
+{
+    return ::RectVisible(m_hDC, lpRect);
+}
+
+BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
+{
+    return ::TextOut(m_hDC, x, y, lpszString, nCount);
+}
+
+BOOL CDCEx::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
+                       LPINT lpDxWidths)
+{
+    return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
+}
+
+CSize CDCEx::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
+                           LPINT lpnTabStopPositions, int nTabOrigin)
+{
+    const LONG size =
+        ::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin);
+    return CSize(LOWORD(size), HIWORD(size));
+}
+
+int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
+{
+    // Hosts choose format flags; the one that would write into the text is not for them.
+    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat & ~DT_MODIFYSTRING);
+}
+
+int CDCEx::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
+                      LPDRAWTEXTPARAMS lpDTParams)
+{
+    return ::DrawTextEx(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
+}
+
+BOOL CDCEx::GrayString(CBrush* pBrush, GRAYSTRINGPROC lpfnOutput, LPARAM lpData, int nCount, int x,
+                       int y, int nWidth, int nHeight)
+{
+    const HBRUSH brush = pBrush ? static_cast<HBRUSH>(*pBrush) : nullptr;
+    return ::GrayString(m_hDC, brush, lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
+}
+
+int CDCEx::Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData)
+{
+    return ::Escape(m_hDC, nEscape, nCount, lpszInData, lpOutData);
+}

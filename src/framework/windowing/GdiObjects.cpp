@@ -1,0 +1,280 @@
+#include "framework/windowing/GdiObjects.h"
+
+#include "framework/windowing/DeviceContexts.h"
+#include "framework/windowing/Exceptions.h"
+
+IMPLEMENT_DYNAMIC(CGdiObject, CObject)
+IMPLEMENT_DYNAMIC(CPen, CGdiObject)
+IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
+IMPLEMENT_DYNAMIC(CFont, CGdiObject)
+IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
+IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
+IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
+
+namespace
+{
+constinit HandleTable<CGdiObject> g_GdiTable;
+
+// Frees the temporary objects when the module ends.
+struct TGdiTableEnd {
+    ~TGdiTableEnd() { g_GdiTable.DeleteTemporaries(); }
+} g_GdiTableEnd;
+
+template <class TClass> TClass* FindGdiObject(HGDIOBJ handle)
+{
+    return g_GdiTable.Find<TClass>(handle, [handle] {
+        auto* object = new TClass;
+        object->m_hObject = handle;
+        return object;
+    });
+}
+} // namespace
+
+CGdiObject::~CGdiObject()
+{
+    // A temporary object has left the table, with its mark, before it is destroyed; what it
+    // leaves behind is a handle that somebody else owns.
+    if (m_Link.handle)
+        DeleteObject();
+}
+
+BOOL CGdiObject::Attach(HGDIOBJ hObject)
+{
+    if (!hObject)
+        return FALSE;
+    g_GdiTable.Leave(this);
+    m_hObject = hObject;
+    g_GdiTable.Enter(this, hObject);
+    return TRUE;
+}
+
+HGDIOBJ CGdiObject::Detach() noexcept
+{
+    g_GdiTable.Leave(this);
+    const HGDIOBJ handle = m_hObject;
+    m_hObject = nullptr;
+    return handle;
+}
+
+BOOL CGdiObject::DeleteObject() noexcept
+{
+    if (!m_hObject)
+        return FALSE;
+    return ::DeleteObject(Detach());
+}
+
+int CGdiObject::GetObject(int nCount, LPVOID lpObject) const noexcept
+{
+    return ::GetObject(m_hObject, nCount, lpObject);
+}
+
+UINT CGdiObject::GetObjectType() const noexcept
+{
+    return ::GetObjectType(m_hObject);
+}
+
+BOOL CGdiObject::CreateStockObject(int nIndex)
+{
+    return Attach(::GetStockObject(nIndex));
+}
+
+BOOL CGdiObject::UnrealizeObject() noexcept
+{
+    return ::UnrealizeObject(m_hObject);
+}
+
+CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject)
+{
+    return FindGdiObject<CGdiObject>(hObject);
+}
+
+CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor)
+{
+    if (!CreatePen(nPenStyle, nWidth, crColor))
+        AfxThrowResourceException();
+}
+
+BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
+{
+    return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+}
+
+BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen)
+{
+    return Attach(::CreatePenIndirect(lpLogPen));
+}
+
+int CPen::GetLogPen(LOGPEN* pLogPen) const noexcept
+{
+    return GetObject(sizeof *pLogPen, pLogPen);
+}
+
+CPen* CPen::FromHandle(HPEN hPen)
+{
+    return FindGdiObject<CPen>(hPen);
+}
+
+CBrush::CBrush(COLORREF crColor)
+{
+    if (!CreateSolidBrush(crColor))
+        AfxThrowResourceException();
+}
+
+CBrush::CBrush(int nIndex, COLORREF crColor)
+{
+    if (!CreateHatchBrush(nIndex, crColor))
+        AfxThrowResourceException();
+}
+
+BOOL CBrush::CreateSolidBrush(COLORREF crColor)
+{
+    return Attach(::CreateSolidBrush(crColor));
+}
+
+BOOL CBrush::CreateHatchBrush(int nIndex, COLORREF crColor)
+{
+    return Attach(::CreateHatchBrush(nIndex, crColor));
+}
+
+BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush)
+{
+    return Attach(::CreateBrushIndirect(lpLogBrush));
+}
+
+BOOL CBrush::CreateSysColorBrush(int nIndex)
+{
+    return Attach(::GetSysColorBrush(nIndex));
+}
+
+int CBrush::GetLogBrush(LOGBRUSH* pLogBrush) const noexcept
+{
+    return GetObject(sizeof *pLogBrush, pLogBrush);
+}
+
+CBrush* CBrush::FromHandle(HBRUSH hBrush)
+{
+    return FindGdiObject<CBrush>(hBrush);
+}
+
+BOOL CFont::CreateFontIndirect(const LOGFONT* lpLogFont)
+{
+    return Attach(::CreateFontIndirect(lpLogFont));
+}
+
+BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,
+                       BYTE bItalic, BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision,
+                       BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename)
+{
+    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline,
+                               cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality,
+                               nPitchAndFamily, lpszFacename));
+}
+
+int CFont::GetLogFont(LOGFONT* pLogFont) const noexcept
+{
+    return GetObject(sizeof *pLogFont, pLogFont);
+}
+
+CFont* CFont::FromHandle(HFONT hFont)
+{
+    return FindGdiObject<CFont>(hFont);
+}
+
+BOOL CBitmap::CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits)
+{
+    return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+}
+
+BOOL CBitmap::CreateBitmapIndirect(LPBITMAP lpBitmap)
+{
+    return Attach(::CreateBitmapIndirect(lpBitmap));
+}
+
+BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
+{
+    return Attach(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
+}
+
+int CBitmap::GetBitmap(BITMAP* pBitMap) const noexcept
+{
+    return GetObject(sizeof *pBitMap, pBitMap);
+}
+
+DWORD CBitmap::GetBitmapBits(DWORD dwCount, LPVOID lpBits) const noexcept
+{
+    return static_cast<DWORD>(::GetBitmapBits(*this, static_cast<LONG>(dwCount), lpBits));
+}
+
+DWORD CBitmap::SetBitmapBits(DWORD dwCount, const void* lpBits) noexcept
+{
+    return static_cast<DWORD>(::SetBitmapBits(*this, dwCount, lpBits));
+}
+
+CBitmap* CBitmap::FromHandle(HBITMAP hBitmap)
+{
+    return FindGdiObject<CBitmap>(hBitmap);
+}
+
+BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2)
+{
+    return Attach(::CreateRectRgn(x1, y1, x2, y2));
+}
+
+BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect)
+{
+    return Attach(::CreateRectRgnIndirect(lpRect));
+}
+
+BOOL CRgn::CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
+{
+    return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+}
+
+int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) noexcept
+{
+    return ::CombineRgn(*this, pRgn1 ? static_cast<HRGN>(*pRgn1) : nullptr,
+                        pRgn2 ? static_cast<HRGN>(*pRgn2) : nullptr, nCombineMode);
+}
+
+void CRgn::SetRectRgn(LPCRECT lpRect) noexcept
+{
+    ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+}
+
+int CRgn::GetRgnBox(LPRECT lpRect) const noexcept
+{
+    return ::GetRgnBox(*this, lpRect);
+}
+
+BOOL CRgn::PtInRegion(POINT point) const noexcept
+{
+    return ::PtInRegion(*this, point.x, point.y);
+}
+
+CRgn* CRgn::FromHandle(HRGN hRgn)
+{
+    return FindGdiObject<CRgn>(hRgn);
+}
+
+BOOL CPalette::CreatePalette(const LOGPALETTE* lpLogPalette)
+{
+    return Attach(::CreatePalette(lpLogPalette));
+}
+
+int CPalette::GetEntryCount() const noexcept
+{
+    WORD count = 0;
+    GetObject(sizeof count, &count);
+    return count;
+}
+
+UINT CPalette::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
+                                 LPPALETTEENTRY lpPaletteColors) const noexcept
+{
+    return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+}
+
+CPalette* CPalette::FromHandle(HPALETTE hPalette)
+{
+    return FindGdiObject<CPalette>(hPalette);
+}
