@@ -1,0 +1,41 @@
+#include "server/ObjectMap.h"
+
+#if __has_include("automation/Chart2d.h")
+#include "automation/Chart2d.h"
+#endif
+#if __has_include("automation/PieChart3d.h")
+#include "automation/PieChart3d.h"
+#endif
+#include "automation/SGraph.h"
+#include "automation/SGraphAxis.h"
+#include "automation/SGraphBitmap.h"
+#include "automation/SGraphDataNotation.h"
+#include "automation/SGraphDataSerie.h"
+#include "automation/SGraphLabel.h"
+#include "automation/SGraphLogAxis.h"
+#include "automation/SGraphObject.h"
+#include "automation/SObject.h"
+
+namespace
+{
+
+BEGIN_OBJECT_MAP(ObjectMap)
+OBJECT_ENTRY(CLSID_PieChart3d, CPieChart3d)
+OBJECT_ENTRY(CLSID_Chart2d, CChart2d)
+OBJECT_ENTRY(CLSID_SGraphObject, CSGraphObject)
+OBJECT_ENTRY(CLSID_SGraphAxis, CSGraphAxis)
+OBJECT_ENTRY(CLSID_SGraphLogAxis, CSGraphLogAxis)
+OBJECT_ENTRY(CLSID_SGraphLabel, CSGraphLabel)
+OBJECT_ENTRY(CLSID_SGraphDataSerie, CSGraphDataSerie)
+OBJECT_ENTRY(CLSID_SGraphDataNotation, CSGraphDataNotation)
+OBJECT_ENTRY(CLSID_SGraphBitmap, CSGraphBitmap)
+OBJECT_ENTRY(CLSID_SGraph, CSGraph)
+OBJECT_ENTRY(CLSID_SObject, CSObject)
+END_OBJECT_MAP()
+
+} // namespace
+
+_ATL_OBJMAP_ENTRY* TheObjectMap() noexcept
+{
+    return ObjectMap;
+}
