@@ -1,0 +1,33 @@
+#pragma once
+// What one frame of the flat pie shows, in the order of drawing.
+
+#include <cstdint>
+#include <vector>
+
+#include "base/Geometry.h"
+#include "charts2d/FlatPieAnimation.h"
+#include "charts2d/FlatPieData.h"
+
+struct TFlatPieSlice {
+    const SPieSegment* pSegment = nullptr;
+    TPoint ptStart; // the slice runs counterclockwise from this radial ...
+    TPoint ptEnd;   // ... to this one; two equal points are the whole ellipse
+    friend bool operator==(const TFlatPieSlice&, const TFlatPieSlice&) = default;
+};
+
+struct TFlatPiePicture {
+    std::vector<TFlatPieSlice> Faded;  // drawn aside and blended in, before the others
+    std::vector<TFlatPieSlice> Slices; // drawn at full strength
+};
+
+namespace FlatPiePicture
+{
+
+// A slice whose two points fall together is left out unless it is the whole circle: one too
+// thin for a pixel would otherwise cover the pie. A sweep leaves out the whole circle too.
+// Pointers are good until the data changes. A frame of a sweep tells the animation what it
+// drew whole.
+[[nodiscard]] TFlatPiePicture Compose(const CFlatPieData& data, CFlatPieAnimation& animation,
+                                      TPoint position, TSize size);
+
+} // namespace FlatPiePicture

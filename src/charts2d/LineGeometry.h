@@ -1,0 +1,44 @@
+#pragma once
+// Places of the line chart's points, in pixels of the window.
+
+#include <cstdint>
+#include <optional>
+
+#include "base/Geometry.h"
+#include "charts2d/ChartMeasures.h"
+
+namespace LineGeometry
+{
+
+struct TPlot {
+    ChartMeasures::TMeasures Measures;
+    std::int32_t nStep = 0;   // from one point to the next: groupW + gap
+    std::int32_t nBase = 0;   // y of the value 0: Y + Trunc(H * 0.93)
+    std::int32_t nHeight = 0; // of the scale's maximum: Trunc(H * 0.8)
+};
+
+// For two segments and one series at least.
+[[nodiscard]] TPlot Measure(TPoint position, TSize size, std::int32_t segments,
+                            std::int32_t series) noexcept;
+
+// The point of the k-th value, counted from 0.
+[[nodiscard]] TPoint Point(const TPlot& plot, std::int32_t k, std::int32_t value,
+                           std::int32_t maximum) noexcept;
+
+// y of a value: base - Trunc(v / M * height).
+[[nodiscard]] std::int32_t PointY(const TPlot& plot, std::int32_t value, std::int32_t maximum) noexcept;
+
+// Where an animation's lines start. The factor of its width is 0.7, not that of the plot, so
+// the start lies a little beside the first point.
+[[nodiscard]] TPoint StartPoint(TPoint position, TSize size, std::int32_t segments) noexcept;
+
+// How much of the line from `from` to `to` is due, `rest` of `whole` percent: the end of that
+// part, or nothing if there is no part to speak of (no percent a line, no direction).
+[[nodiscard]] std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest,
+                                               std::int32_t whole) noexcept;
+
+// GDI computes in 27 bits and a sign. Cuts the line along itself to the square of that side;
+// false if none of it lies inside.
+[[nodiscard]] bool CutToDevice(TPoint& from, TPoint& to) noexcept;
+
+} // namespace LineGeometry

@@ -1,0 +1,11 @@
+#pragma once
+// Why a chart refused a data operation. A refused operation has changed nothing.
+
+enum class ERefusal {
+    none,
+    indexOutOfBounds,        // no segment at that position
+    segmentIndexOutOfBounds, // no such segment to give a value to
+    seriesIndexOutOfBounds,  // no such series
+    noSegments,              // a series before any segment
+    percentNotValid          // a slice of nothing or less
+};

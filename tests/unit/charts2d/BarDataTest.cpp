@@ -1,0 +1,218 @@
+#include "charts2d/BarData.h"
+#include "charts2d/ValueTable.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+namespace
+{
+
+std::vector<int> SegmentIds(const CBarData& data)
+{
+    std::vector<int> ids;
+    for (const SBarSegment* segment = data.m_pSegments; segment; segment = segment->pNext)
+        ids.push_back(segment->nId);
+    return ids;
+}
+
+// The values of the series at that place, as pairs of segment id and value.
+std::vector<std::pair<int, int>> Values(const CBarData& data, int place)
+{
+    const SBarSeries* series = data.m_pSeries;
+    while (place-- > 0)
+        series = series->pNext;
+    std::vector<std::pair<int, int>> values;
+    for (const SBarValue* value = series->pValues; value; value = value->pNext)
+        values.emplace_back(value->nSegment, value->nValue);
+    return values;
+}
+
+void Fill(CBarData& data, int segments, int series)
+{
+    for (int i = 0; i < segments; ++i)
+        data.AddSegment(u"segment");
+    for (int i = 0; i < series; ++i)
+        ASSERT_EQ(data.AddSeries(u"series", 0), ERefusal::none);
+}
+
+using TPairs = std::vector<std::pair<int, int>>;
+
+} // namespace
+
+TEST(BarData, IdsAreTheCountAfterEachInsertion)
+{
+    CBarData data;
+    Fill(data, 3, 2);
+    EXPECT_EQ(SegmentIds(data), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(data.m_pSeries->nId, 1);
+    EXPECT_EQ(data.m_pSeries->pNext->nId, 2);
+    EXPECT_EQ(Values(data, 1), (TPairs{{1, 0}, {2, 0}, {3, 0}}));
+}
+
+TEST(BarData, SeriesBeforeAnySegmentIsRefused)
+{
+    CBarData data;
+    EXPECT_EQ(data.AddSeries(u"early", 0xFF), ERefusal::noSegments);
+    EXPECT_EQ(data.m_nSeries, 0);
+    EXPECT_EQ(data.m_pSeries, nullptr);
+}
+
+TEST(BarData, DeletedSegmentKeepsIdsValuesAndPlaces)
+{
+    CBarData data;
+    Fill(data, 3, 1);
+    ASSERT_EQ(data.SetValue(1, 1, 11), ERefusal::none);
+    ASSERT_EQ(data.SetValue(3, 1, 33), ERefusal::none);
+
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+
+    EXPECT_EQ(data.m_nSegments, 2);
+    EXPECT_EQ(SegmentIds(data), (std::vector<int>{2, 3}));
+    EXPECT_EQ(Values(data, 0), (TPairs{{1, 11}, {2, 0}, {3, 33}}));
+}
+
+TEST(BarData, IdAboveTheCountIsOutOfBoundsThoughItExists)
+{
+    CBarData data;
+    Fill(data, 3, 1);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    EXPECT_EQ(data.SetValue(3, 1, 5), ERefusal::segmentIndexOutOfBounds);
+    EXPECT_EQ(Values(data, 0), (TPairs{{1, 0}, {2, 0}, {3, 0}}));
+}
+
+TEST(BarData, SegmentAddedAfterADeletionRepeatsAnIdAndItsStaleValueIsSet)
+{
+    CBarData data;
+    Fill(data, 3, 1);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    data.AddSegment(u"again");
+    EXPECT_EQ(SegmentIds(data), (std::vector<int>{2, 3, 3}));
+
+    ASSERT_EQ(data.SetValue(3, 1, 7), ERefusal::none);
+    EXPECT_EQ(Values(data, 0), (TPairs{{1, 0}, {2, 0}, {3, 7}, {3, 0}}));
+}
+
+TEST(BarData, SegmentAddedWhileSeriesExistSharesItsValueAmongThem)
+{
+    CBarData data;
+    Fill(data, 1, 3);
+    data.AddSegment(u"shared");
+    ASSERT_EQ(data.SetValue(2, 2, 42), ERefusal::none);
+    for (int series = 0; series < 3; ++series)
+        EXPECT_EQ(Values(data, series), (TPairs{{1, 0}, {2, 42}})) << series;
+}
+
+TEST(BarData, ManySharedSegmentsNeverCloseAListIntoACircle)
+{
+    CBarData data;
+    Fill(data, 1, 2);
+    data.AddSegment(u"two");
+    data.AddSegment(u"three");
+    ASSERT_EQ(data.AddSeries(u"late", 0), ERefusal::none);
+    data.AddSegment(u"four");
+    const TPairs expected{{1, 0}, {2, 0}, {3, 0}, {4, 0}};
+    for (int series = 0; series < 3; ++series)
+        EXPECT_EQ(Values(data, series), expected) << series;
+}
+
+TEST(BarData, SharedValueOutlivesADeletedSeriesAndIsFreedOnce)
+{
+    CBarData data;
+    Fill(data, 1, 3);
+    data.AddSegment(u"shared");
+    data.AddSegment(u"shared too");
+    ASSERT_EQ(data.SetValue(2, 1, 9), ERefusal::none);
+    ASSERT_EQ(data.DeleteSeries(1), ERefusal::none);
+    ASSERT_EQ(data.DeleteSeries(2), ERefusal::none);
+    EXPECT_EQ(Values(data, 0), (TPairs{{1, 0}, {2, 9}, {3, 0}}));
+    data.Clear();
+    EXPECT_EQ(data.m_pSeries, nullptr);
+    EXPECT_EQ(data.m_nSegments, 0);
+}
+
+TEST(BarData, DeletionOfAnIdThatHasLeftIsRefusedAndChangesNothing)
+{
+    CBarData data;
+    Fill(data, 3, 3);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    EXPECT_EQ(data.DeleteSegment(1), ERefusal::indexOutOfBounds);
+    EXPECT_EQ(data.m_nSegments, 2);
+
+    ASSERT_EQ(data.DeleteSeries(2), ERefusal::none);
+    EXPECT_EQ(data.DeleteSeries(2), ERefusal::seriesIndexOutOfBounds);
+    EXPECT_EQ(data.SetValue(1, 2, 1), ERefusal::seriesIndexOutOfBounds);
+    EXPECT_EQ(data.m_nSeries, 2);
+}
+
+TEST(BarData, IndicesOutsideTheCountsAreRefusedSegmentFirst)
+{
+    CBarData data;
+    Fill(data, 2, 1);
+    constexpr int lowest = std::numeric_limits<int>::min();
+    constexpr int highest = std::numeric_limits<int>::max();
+    for (const int index : {lowest, -1, 0, 3, highest}) {
+        EXPECT_EQ(data.DeleteSegment(index), ERefusal::indexOutOfBounds);
+        EXPECT_EQ(data.SetValue(index, 0, 1), ERefusal::segmentIndexOutOfBounds);
+    }
+    for (const int index : {lowest, 0, 2, highest}) {
+        EXPECT_EQ(data.DeleteSeries(index), ERefusal::seriesIndexOutOfBounds);
+        EXPECT_EQ(data.SetValue(1, index, 1), ERefusal::seriesIndexOutOfBounds);
+    }
+    EXPECT_EQ(data.m_nSegments, 2);
+    EXPECT_EQ(data.m_nSeries, 1);
+}
+
+TEST(BarData, TailOfAListMayBeDeletedAndAppendedToAgain)
+{
+    CBarData data;
+    Fill(data, 2, 2);
+    ASSERT_EQ(data.DeleteSegment(2), ERefusal::none);
+    ASSERT_EQ(data.DeleteSeries(2), ERefusal::none);
+    data.AddSegment(u"new");
+    ASSERT_EQ(data.AddSeries(u"new", 0), ERefusal::none);
+    EXPECT_EQ(SegmentIds(data), (std::vector<int>{1, 2}));
+    EXPECT_EQ(Values(data, 0), (TPairs{{1, 0}, {2, 0}, {2, 0}}));
+    EXPECT_EQ(Values(data, 1), (TPairs{{1, 0}, {2, 0}}));
+}
+
+TEST(ValueTable, ReadsTheFirstValueOfEachId)
+{
+    CBarData data;
+    Fill(data, 3, 2);
+    ASSERT_EQ(data.SetValue(3, 2, 5), ERefusal::none);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    data.AddSegment(u"again"); // ids 2, 3, 3: both of the last read the first value for 3
+    const CValueTable table(data);
+    ASSERT_EQ(table.SegmentCount(), 3);
+    EXPECT_EQ(table.Value(1, 1), 5);
+    EXPECT_EQ(table.Value(2, 1), 5);
+    EXPECT_EQ(table.Value(0, 1), 0);
+}
+
+TEST(ValueTable, SegmentWithoutAValueShowsNothing)
+{
+    CBarData data;
+    Fill(data, 3, 0);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    ASSERT_EQ(data.AddSeries(u"has values for 1 and 2", 0), ERefusal::none);
+    ASSERT_EQ(data.SetValue(2, 1, 8), ERefusal::none);
+    const CValueTable table(data); // segments 2 and 3
+    EXPECT_EQ(table.Value(0, 0), 8);
+    EXPECT_EQ(table.Value(1, 0), 0);
+}
+
+TEST(ValueTable, MaximumIsThatOfTheFirstSegmentAloneAndNeverBelowZero)
+{
+    CBarData data;
+    Fill(data, 2, 2);
+    ASSERT_EQ(data.SetValue(1, 1, -5), ERefusal::none);
+    ASSERT_EQ(data.SetValue(1, 2, -1), ERefusal::none);
+    ASSERT_EQ(data.SetValue(2, 1, 900), ERefusal::none);
+    EXPECT_EQ(CValueTable(data).Maximum(), 0);
+    ASSERT_EQ(data.SetValue(1, 2, 20), ERefusal::none);
+    EXPECT_EQ(CValueTable(data).Maximum(), 20);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    EXPECT_EQ(CValueTable(data).Maximum(), 900);
+}

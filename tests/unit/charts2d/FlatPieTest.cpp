@@ -1,0 +1,277 @@
+#include "charts2d/FlatPieAnimation.h"
+#include "charts2d/FlatPieData.h"
+#include "charts2d/FlatPiePicture.h"
+
+#include "charts2d/FlatPieGeometry.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace
+{
+
+constexpr TPoint position{10, 20};
+constexpr TSize size{200, 100};
+constexpr TPoint right{210, 70};
+constexpr TPoint left{10, 70};
+constexpr TPoint top{110, 20};
+constexpr TPoint bottom{110, 120};
+
+std::vector<double> Percents(const CFlatPieData& data)
+{
+    std::vector<double> percents;
+    for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext)
+        percents.push_back(segment->dPercent);
+    return percents;
+}
+
+void Fill(CFlatPieData& data, std::initializer_list<double> percents)
+{
+    for (const double percent : percents)
+        data.AddSegment(percent, 0, u"slice");
+}
+
+TFlatPiePicture Compose(const CFlatPieData& data, CFlatPieAnimation& animation)
+{
+    return FlatPiePicture::Compose(data, animation, position, size);
+}
+
+using TPercents = std::vector<double>;
+
+} // namespace
+
+TEST(FlatPieData, SecondSegmentIsCutToWhatIsLeftAndAThirdGetsNothing)
+{
+    CFlatPieData data;
+    Fill(data, {60, 60, 60});
+    EXPECT_EQ(Percents(data), (TPercents{60, 40}));
+    EXPECT_EQ(data.m_nSegments, 2);
+    EXPECT_EQ(data.m_dTotalPercent, 100);
+}
+
+TEST(FlatPieData, PercentAboveAHundredCountsAsAHundredWhateverIsThere)
+{
+    CFlatPieData data;
+    Fill(data, {150});
+    EXPECT_EQ(Percents(data), (TPercents{100}));
+    CFlatPieData fuller;
+    Fill(fuller, {30, 150});
+    EXPECT_EQ(Percents(fuller), (TPercents{30, 100}));
+    EXPECT_EQ(fuller.m_dTotalPercent, 130);
+}
+
+TEST(FlatPieData, NothingNegativeAndNotANumberAddNothing)
+{
+    CFlatPieData data;
+    Fill(data,
+         {0, -1, std::numeric_limits<double>::quiet_NaN(), -std::numeric_limits<double>::infinity()});
+    EXPECT_EQ(data.m_nSegments, 0);
+    EXPECT_EQ(data.m_dTotalPercent, 0);
+    Fill(data, {std::numeric_limits<double>::infinity()});
+    EXPECT_EQ(Percents(data), (TPercents{100}));
+}
+
+TEST(FlatPieData, UpdateHasNoUpperLimitButALowerOne)
+{
+    CFlatPieData data;
+    Fill(data, {50, 20});
+    EXPECT_EQ(data.UpdateSegment(0, 5, 0, u""), ERefusal::indexOutOfBounds);
+    EXPECT_EQ(data.UpdateSegment(3, 0, 0, u""), ERefusal::indexOutOfBounds);
+    EXPECT_EQ(data.UpdateSegment(1, 0, 0, u""), ERefusal::percentNotValid);
+    EXPECT_EQ(data.UpdateSegment(1, -7, 0, u""), ERefusal::percentNotValid);
+    EXPECT_EQ(Percents(data), (TPercents{50, 20}));
+    ASSERT_EQ(data.UpdateSegment(2, 400, 0xFF, u"more"), ERefusal::none);
+    EXPECT_EQ(Percents(data), (TPercents{50, 400}));
+    EXPECT_EQ(data.m_dTotalPercent, 450);
+    EXPECT_EQ(data.m_pSegments->pNext->strName, u"more");
+}
+
+TEST(FlatPieData, DeletionRenumbersAndSumsAnew)
+{
+    CFlatPieData data;
+    Fill(data, {10, 20, 30});
+    EXPECT_EQ(data.DeleteSegment(4), ERefusal::indexOutOfBounds);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    EXPECT_EQ(Percents(data), (TPercents{20, 30}));
+    EXPECT_EQ(data.m_pSegments->nId, 1);
+    EXPECT_EQ(data.m_pSegments->pNext->nId, 2);
+    EXPECT_EQ(data.m_dTotalPercent, 50);
+}
+
+TEST(FlatPieData, TotalOutlivesAClearUntilTheNextSegment)
+{
+    CFlatPieData data;
+    Fill(data, {70});
+    data.Clear();
+    EXPECT_EQ(data.m_nSegments, 0);
+    EXPECT_EQ(data.m_dTotalPercent, 70);
+    Fill(data, {-1});
+    EXPECT_EQ(data.m_dTotalPercent, 0);
+}
+
+TEST(FlatPieGeometry, PointsGoCounterclockwiseFromTheRight)
+{
+    using namespace FlatPieGeometry;
+    EXPECT_EQ(Start(position, size), right);
+    EXPECT_EQ(ByHalves(position, size, Angle(25)), top);
+    EXPECT_EQ(ByHalves(position, size, Angle(50)), left);
+    EXPECT_EQ(ByHalves(position, size, Angle(75)), bottom);
+    EXPECT_EQ(Rounded(position, size, Angle(25), {}), top);
+    EXPECT_EQ(Rounded(position, size, Angle(50), {}), left);
+    EXPECT_EQ(Rounded(position, size, Angle(75), {}), bottom);
+}
+
+TEST(FlatPieGeometry, TheTwoWaysOfRoundingDifferOnAnOddBox)
+{
+    using namespace FlatPieGeometry;
+    constexpr TSize odd{101, 51};
+    EXPECT_EQ(ByHalves({0, 0}, odd, 0), (TPoint{100, 25}));           // halves of 50 and 25
+    EXPECT_EQ(Rounded({0, 0}, odd, 0, {}), (TPoint{101, 26}));        // 101.5 and 26
+    EXPECT_EQ(ByHalves({0, 0}, odd, Angle(10)), (TPoint{90, 11}));    // 40.4, 14.6
+    EXPECT_EQ(Rounded({0, 0}, odd, Angle(10), {}), (TPoint{91, 11})); // 40.85 + 51, 26 - 14.98
+}
+
+TEST(FlatPieGeometry, AngleOutsideTheCircleLeavesThePointBefore)
+{
+    using namespace FlatPieGeometry;
+    EXPECT_EQ(Rounded(position, size, -0.1, {1, 2}), (TPoint{1, 2}));
+    EXPECT_EQ(Rounded(position, size, 6.3, {1, 2}), (TPoint{1, 2}));
+    EXPECT_EQ(Rounded(position, size, std::nextafter(fullCircle, 7.0), {1, 2}), right);
+}
+
+TEST(FlatPiePicture, StillSlicesFollowOneAnother)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 50});
+    const auto picture = Compose(data, animation);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, right, top}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
+}
+
+TEST(FlatPiePicture, FullCircleIsWholeWhenStillAndMissingFromASweep)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {100});
+    auto picture = Compose(data, animation);
+    ASSERT_EQ(picture.Slices.size(), 1U);
+    EXPECT_EQ(picture.Slices[0].ptStart, picture.Slices[0].ptEnd);
+
+    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    animation.m_dAnimationPercent = 101;
+    EXPECT_TRUE(Compose(data, animation).Slices.empty());
+    EXPECT_EQ(animation.m_dDrawnPercent, 100);
+}
+
+TEST(FlatPiePicture, SliceTooThinForAPixelDoesNotCoverThePie)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {40, 0.001, 10});
+    EXPECT_EQ(Compose(data, animation).Slices.size(), 2U);
+}
+
+TEST(FlatPiePicture, SweepDrawsWholeSlicesAndTheOneInProgress)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 50, 25});
+    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    for (int tick = 0; tick < 50; ++tick) {
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments);
+        Compose(data, animation);
+    }
+    auto picture = Compose(data, animation);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, right, top}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, left}));
+    EXPECT_EQ(animation.m_dDrawnPercent, 25);
+}
+
+TEST(FlatPiePicture, SweepEndsWhereTheSumEnds)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 25});
+    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    for (int tick = 0; tick < 100; ++tick)
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments);
+    const auto picture = Compose(data, animation);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, left}));
+}
+
+TEST(FlatPieAnimation, SweepRunsPastAHundredAndStartsAgainWithoutAHold)
+{
+    CFlatPieAnimation animation;
+    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    for (int tick = 0; tick < 101; ++tick)
+        animation.Animate(50, 3);
+    EXPECT_EQ(animation.m_dAnimationPercent, 101);
+    animation.Animate(50, 3);
+    EXPECT_EQ(animation.m_dAnimationPercent, 1);
+    EXPECT_DOUBLE_EQ(animation.m_dSweepAngle, FlatPieGeometry::fullCircle / 200);
+}
+
+TEST(FlatPieAnimation, FadeGoesOnToTheNextSegmentAfterFiftyTicks)
+{
+    CFlatPieAnimation animation;
+    animation.SetAnimation(1, CFlatPieAnimation::fade);
+    for (int tick = 0; tick < 50; ++tick)
+        animation.Animate(100, 2);
+    EXPECT_EQ(animation.m_dAnimationPercent, 100);
+    animation.Animate(100, 2);
+    EXPECT_EQ(animation.m_dAnimationPercent, 2);
+    EXPECT_EQ(animation.m_nFadeSegment, 1);
+    for (int tick = 0; tick < 50; ++tick)
+        animation.Animate(100, 2);
+    EXPECT_EQ(animation.m_nFadeSegment, 0);
+}
+
+TEST(FlatPieAnimation, OnlyOneAnimates)
+{
+    CFlatPieAnimation animation;
+    animation.SetAnimation(2, CFlatPieAnimation::sweep);
+    animation.Animate(100, 2);
+    EXPECT_EQ(animation.m_dAnimationPercent, 0);
+    animation.SetAnimation(1, 12);
+    animation.Animate(100, 2);
+    EXPECT_EQ(animation.m_dAnimationPercent, 0);
+}
+
+TEST(FlatPiePicture, FadingSliceGoesAsideAndEarlierOnesAreWhole)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 50, 25});
+    animation.SetAnimation(1, CFlatPieAnimation::fade);
+    auto picture = Compose(data, animation);
+    ASSERT_EQ(picture.Faded.size(), 1U);
+    EXPECT_EQ(picture.Faded[0], (TFlatPieSlice{data.m_pSegments, right, top}));
+    EXPECT_TRUE(picture.Slices.empty());
+
+    animation.m_nFadeSegment = 2;
+    picture = Compose(data, animation);
+    ASSERT_EQ(picture.Faded.size(), 1U);
+    EXPECT_EQ(picture.Faded[0].ptStart, bottom);
+    EXPECT_EQ(picture.Faded[0].ptEnd, right);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
+}
+
+TEST(FlatPiePicture, EmptyPieAndUnknownAnimationShowNothing)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    EXPECT_TRUE(Compose(data, animation).Slices.empty());
+    Fill(data, {25});
+    animation.SetAnimation(1, 12);
+    EXPECT_TRUE(Compose(data, animation).Slices.empty());
+    animation.SetAnimation(7, 10); // not 1: still
+    EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
+}
