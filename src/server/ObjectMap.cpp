@@ -20,8 +20,12 @@ namespace
 {
 
 BEGIN_OBJECT_MAP(ObjectMap)
+#if __has_include("automation/PieChart3d.h")
 OBJECT_ENTRY(CLSID_PieChart3d, CPieChart3d)
+#endif
+#if __has_include("automation/Chart2d.h")
 OBJECT_ENTRY(CLSID_Chart2d, CChart2d)
+#endif
 OBJECT_ENTRY(CLSID_SGraphObject, CSGraphObject)
 OBJECT_ENTRY(CLSID_SGraphAxis, CSGraphAxis)
 OBJECT_ENTRY(CLSID_SGraphLogAxis, CSGraphLogAxis)
