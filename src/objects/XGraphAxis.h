@@ -100,8 +100,7 @@ public:
     CPoint GetPointForValue(const TDataPoint& point);
     void RecalcStep();          // one label size between ticks
     void AutoScale(CDCEx* pDC); // rounds the visible range to whole steps
-    // First point past fX, as a walk from the place that even spacing would give; it may
-    // equal the curve's count.
+    // Index of a point of the curve near fX (IndexSearch.h); it may equal the curve's count.
     void FindIndexForX(int& nIndex, double fX, int nCurve);
 
     int GetMaxLabelWidth(CDCEx* pDC); // of the labels at the visible bounds, plus m_nTickSize

@@ -1,0 +1,73 @@
+#include "objects/IndexSearch.h"
+
+#include "base/Trunc.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+namespace IndexSearch
+{
+
+namespace
+{
+
+int GuessIndex(std::span<const TDataPoint> points, double x) noexcept
+{
+    const double spacing = std::fabs(points[1].fXVal - points[0].fXVal);
+    const int guess = Trunc((x - points[0].fXVal) / spacing);
+    return std::clamp(guess, 0, static_cast<int>(points.size()) - 1);
+}
+
+} // namespace
+
+int FindIndexForX(std::span<const TDataPoint> points, double x) noexcept
+{
+    if (points.size() < 2)
+        return 0;
+    const int count = static_cast<int>(points.size());
+    int index = GuessIndex(points, x);
+    if (points[index].fXVal > x) {
+        while (index > 0 && points[index].fXVal > x)
+            --index;
+    } else {
+        while (index < count && x >= points[index].fXVal)
+            ++index;
+    }
+    return index;
+}
+
+int FindIndexForXAscending(std::span<const TDataPoint> points, double x) noexcept
+{
+    if (points.size() < 2)
+        return 0;
+    const int guess = GuessIndex(points, x);
+    const auto first = points.begin();
+    if (points[guess].fXVal > x) {
+        const auto past = std::partition_point(first, first + guess,
+                                               [x](const TDataPoint& p) { return !(p.fXVal > x); });
+        return past == first ? 0 : static_cast<int>(past - first) - 1;
+    }
+    const auto past = std::partition_point(first + guess, points.end(),
+                                           [x](const TDataPoint& p) { return x >= p.fXVal; });
+    return static_cast<int>(past - first);
+}
+
+bool IsAscending(std::span<const TDataPoint> points) noexcept
+{
+    // What is not a number equals nothing, not even itself.
+    if (points.empty() || !(points[0].fXVal == points[0].fXVal))
+        return false;
+    constexpr std::size_t block = 1024;
+    for (std::size_t start = 1; start < points.size(); start += block) {
+        const std::size_t end = std::min(start + block, points.size());
+        unsigned ordered = 1;
+        for (std::size_t i = start; i < end; ++i)
+            ordered &= static_cast<unsigned>(points[i - 1].fXVal <= points[i].fXVal);
+        if (ordered == 0)
+            return false;
+    }
+    return true;
+}
+
+} // namespace IndexSearch
