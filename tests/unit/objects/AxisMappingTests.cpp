@@ -1,0 +1,122 @@
+#include "objects/AxisMapping.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+
+namespace
+{
+
+using namespace AxisMapping;
+
+constexpr TScale kHorizontal{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 50};
+constexpr TScale kVertical{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 450, .bVertical = true};
+constexpr TScale kLog{.fMin = 1, .fMax = 1000, .nLength = 300, .nOrigin = 10, .bLog = true};
+constexpr TScale kLogVertical{
+    .fMin = 1, .fMax = 1000, .nLength = 300, .nOrigin = 310, .bVertical = true, .bLog = true};
+constexpr std::int32_t kNoPixel = std::numeric_limits<std::int32_t>::min();
+
+TEST(AxisMapping, HorizontalGrowsFromTheLeftEdge)
+{
+    EXPECT_EQ(ToPixel(kHorizontal, 0), 50);
+    EXPECT_EQ(ToPixel(kHorizontal, 10), 450);
+    EXPECT_EQ(ToPixel(kHorizontal, 5), 250);
+    EXPECT_EQ(ToPixel(kHorizontal, -10), -350);
+}
+
+TEST(AxisMapping, VerticalGrowsUpFromTheBottomEdge)
+{
+    EXPECT_EQ(ToPixel(kVertical, 0), 450);
+    EXPECT_EQ(ToPixel(kVertical, 10), 50);
+}
+
+TEST(AxisMapping, PixelsAreCutTowardZero)
+{
+    EXPECT_EQ(ToPixel(kHorizontal, 0.049), 51); // 51.96
+    EXPECT_EQ(ToPixel(kVertical, 0.049), 448);  // 448.04
+    EXPECT_EQ(ToPixel(kHorizontal, -1.26), 0);  // -0.4
+    EXPECT_EQ(ToPixel(kHorizontal, -1.31), -2); // -2.4
+}
+
+TEST(AxisMapping, LogarithmicDecadesAreEvenlySpaced)
+{
+    EXPECT_EQ(ToPixel(kLog, 1), 10);
+    EXPECT_EQ(ToPixel(kLog, 1000), 310);
+    EXPECT_NEAR(ToPixel(kLog, 10), 110, 1);
+    EXPECT_NEAR(ToPixel(kLogVertical, 10), 210, 1);
+}
+
+TEST(AxisMapping, FormulasHoldToTheBit)
+{
+    std::mt19937_64 random(3);
+    std::uniform_real_distribution<double> value(-20, 20);
+    for (int i = 0; i < 2000; ++i) {
+        const TScale scale{
+            .fMin = value(random), .fMax = value(random) + 50, .nLength = 777, .nOrigin = 61};
+        const double v = value(random);
+        const double k = scale.nLength / (scale.fMax - scale.fMin);
+        EXPECT_EQ(CMapper(scale).Place(v), k * (v - scale.fMin) + scale.nOrigin);
+        TScale upright = scale;
+        upright.bVertical = true;
+        EXPECT_EQ(CMapper(upright).Place(v), scale.nOrigin - k * (v - scale.fMin));
+    }
+}
+
+TEST(AxisMapping, LogarithmicFormulaHoldsToTheBit)
+{
+    for (const double v : {1.0, 1.5, 3.0, 99.0, 12345.0, 0.001}) {
+        const double t = (std::log10(v) - std::log10(1.0)) / (std::log10(1000.0) - std::log10(1.0));
+        EXPECT_EQ(CMapper(kLog).Place(v), 300 * t + 10);
+        EXPECT_EQ(CMapper(kLogVertical).Place(v), 310 - 300 * t);
+    }
+}
+
+TEST(AxisMapping, ValuesComeBackFromPixels)
+{
+    EXPECT_DOUBLE_EQ(ToValue(kHorizontal, 250), 5);
+    EXPECT_DOUBLE_EQ(ToValue(kVertical, 250), 5);
+    EXPECT_DOUBLE_EQ(ToValue(kLog, 110), 10);
+    EXPECT_DOUBLE_EQ(ToValue(kLogVertical, 210), 10);
+}
+
+TEST(AxisMapping, PixelToValueAndBackDiffersByOneAtMost)
+{
+    const TScale scale{.fMin = -1.1, .fMax = 7.3, .nLength = 613, .nOrigin = 37};
+    for (int pixel = 37; pixel < 650; ++pixel)
+        EXPECT_NEAR(ToPixel(scale, ToValue(scale, pixel)), pixel, 1);
+}
+
+TEST(AxisMapping, HostileValuesHaveNoPixel)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(ToPixel(kHorizontal, std::nan("")), kNoPixel);
+    EXPECT_EQ(ToPixel(kHorizontal, infinity), kNoPixel);
+    EXPECT_EQ(ToPixel(kHorizontal, 1e308), kNoPixel);
+    EXPECT_EQ(ToPixel(kLog, -1), kNoPixel);
+    EXPECT_EQ(ToPixel(kLog, 0), kNoPixel);
+    EXPECT_EQ(ToPixel({.fMin = 1, .fMax = 1, .nLength = 5}, 1), kNoPixel);
+    EXPECT_EQ(ToPixel(kHorizontal, std::numeric_limits<double>::denorm_min()), 50);
+}
+
+TEST(AxisMapping, PixelDifferencesWrap)
+{
+    const TScale scale{.fMin = 0, .fMax = 1, .nLength = 1, .nOrigin = -2147483647};
+    EXPECT_EQ(ToValue(scale, 2147483647), -2);
+}
+
+TEST(AxisMapping, OnlyAFinitePositiveLinearHorizontalScaleKeepsOrder)
+{
+    EXPECT_TRUE(CMapper(kHorizontal).KeepsOrder());
+    EXPECT_FALSE(CMapper(kVertical).KeepsOrder());
+    EXPECT_FALSE(CMapper(kLog).KeepsOrder());
+    EXPECT_FALSE(CMapper({.fMin = 1, .fMax = 1}).KeepsOrder());
+    EXPECT_FALSE(CMapper({.fMin = 2, .fMax = 1}).KeepsOrder());
+    EXPECT_FALSE(CMapper({.fMin = 0, .fMax = 1, .nLength = -5}).KeepsOrder());
+    EXPECT_FALSE(CMapper({.fMin = std::nan(""), .fMax = 1}).KeepsOrder());
+    EXPECT_FALSE(CMapper({.fMin = -1e308, .fMax = 1.7e308}).KeepsOrder());
+}
+
+} // namespace

@@ -1,0 +1,211 @@
+#include "objects/ColumnWalk.h"
+
+#include <gtest/gtest.h>
+
+#include "objects/IndexSearch.h"
+#include "objects/SegmentHit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace
+{
+
+using AxisMapping::CMapper;
+using AxisMapping::TScale;
+using ColumnWalk::TColumns;
+using ColumnWalk::TCurve;
+using ColumnWalk::TEnds;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr TColumns kPlot{100, 500};
+
+struct TWalked {
+    std::vector<TSegment> segments;
+    TEnds ends;
+};
+
+class CWalker
+{
+public:
+    CWalker(std::vector<TDataPoint> points, TScale x)
+        : m_points(std::move(points)), m_x(x), m_y({.nLength = 300, .nOrigin = 400, .bVertical = true})
+    {
+    }
+
+    // All segments that could be seen: those not wholly left or wholly right of the plot.
+    TWalked Plain(TColumns visible) const
+    {
+        TWalked walked;
+        walked.ends = WalkEverySegment(Curve(false), [&](TPoint from, TPoint to) {
+            const bool left = from.x < visible.nFirst && to.x < visible.nFirst;
+            const bool right = from.x > visible.nLast && to.x > visible.nLast;
+            if (!left && !right)
+                walked.segments.push_back({from, to});
+        });
+        return walked;
+    }
+
+    TWalked Fast(TColumns visible, bool ascending) const
+    {
+        TWalked walked;
+        walked.ends = WalkVisibleSegments(Curve(ascending), visible, [&](TPoint from, TPoint to) {
+            walked.segments.push_back({from, to});
+        });
+        return walked;
+    }
+
+    void ExpectSame(TColumns visible) const
+    {
+        const TWalked plain = Plain(visible);
+        for (const bool ascending : {false, true}) {
+            if (ascending && !IndexSearch::IsAscending(m_points))
+                continue;
+            const TWalked fast = Fast(visible, ascending);
+            ASSERT_EQ(fast.segments, plain.segments) << (ascending ? "search" : "scan");
+            ASSERT_EQ(fast.ends.ptFirst, plain.ends.ptFirst);
+            ASSERT_EQ(fast.ends.ptLast, plain.ends.ptLast) << (ascending ? "search" : "scan");
+        }
+    }
+
+private:
+    TCurve Curve(bool ascending) const { return {m_points, m_x, m_y, ascending}; }
+
+    std::vector<TDataPoint> m_points;
+    CMapper m_x;
+    CMapper m_y;
+};
+
+constexpr TScale kScale{.fMin = 0, .fMax = 100, .nLength = 400, .nOrigin = 100};
+
+std::vector<TDataPoint> EvenPoints(int count, double from, double step)
+{
+    std::vector<TDataPoint> points;
+    for (int i = 0; i < count; ++i)
+        points.push_back({from + i * step, 0.5 + 0.4 * std::sin(i * 0.7)});
+    return points;
+}
+
+TEST(ColumnWalk, ARunOnOneColumnKeepsItsFirstPointAlone)
+{
+    const CWalker walker({{0, 0}, {0.1, 1}, {0.2, 0.5}, {10, 1}, {10.1, 0}, {20, 0}}, kScale);
+    const TWalked walked = walker.Plain({INT32_MIN, INT32_MAX});
+    const std::vector<TSegment> expected{{{100, 400}, {140, 100}}, {{140, 100}, {180, 400}}};
+    EXPECT_EQ(walked.segments, expected);
+    EXPECT_EQ(walked.ends.ptLast, (TPoint{180, 400}));
+    walker.ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, AColumnMayComeAgain)
+{
+    const CWalker walker({{0, 0}, {10, 0}, {0, 1}, {10, 1}}, kScale);
+    EXPECT_EQ(walker.Plain(kPlot).segments.size(), 3u);
+    walker.ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, OnePointHasNoSegments)
+{
+    const CWalker walker({{50, 0}}, kScale);
+    EXPECT_TRUE(walker.Fast(kPlot, true).segments.empty());
+    walker.ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, SegmentsAcrossThePlotAreKept)
+{
+    const CWalker walker({{-50, 0}, {150, 1}, {-50, 0.2}}, kScale);
+    EXPECT_EQ(walker.Fast(kPlot, false).segments.size(), 2u);
+    walker.ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, DenseAndSparseAscendingCurvesEqualThePlainWalk)
+{
+    for (const double step : {1e-4, 0.013, 0.25, 1.0, 7.0, 61.0})
+        CWalker(EvenPoints(5000, -200 * step, step), kScale).ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, ZoomedCurvesEqualThePlainWalk)
+{
+    const auto points = EvenPoints(20000, 0, 1);
+    for (const double width : {0.5, 3.0, 40.0, 1000.0, 19999.0}) {
+        for (const double from : {-5000.0, 0.0, 7777.7, 19990.0, 50000.0}) {
+            const TScale scale{.fMin = from, .fMax = from + width, .nLength = 400, .nOrigin = 100};
+            CWalker(points, scale).ExpectSame(kPlot);
+        }
+    }
+}
+
+TEST(ColumnWalk, CurvesWithoutAnythingInThePlotEqualThePlainWalk)
+{
+    CWalker(EvenPoints(100, -1000, 1), kScale).ExpectSame(kPlot);
+    CWalker(EvenPoints(100, 1000, 1), kScale).ExpectSame(kPlot);
+    EXPECT_TRUE(CWalker(EvenPoints(100, 1000, 1), kScale).Fast(kPlot, true).segments.empty());
+}
+
+// Places past the largest int fall on the column of those past the smallest.
+TEST(ColumnWalk, AscendingPlacesBeyondTheIntsEqualThePlainWalk)
+{
+    const std::vector<double> xs{-kInfinity, -1e308, -1e12, -1e9, -1e8, -3,       0,
+                                 20,         50,     3e8,   1e9,  1e12, kInfinity};
+    for (std::size_t first = 0; first < xs.size(); ++first) {
+        for (std::size_t last = first + 1; last <= xs.size(); ++last) {
+            std::vector<TDataPoint> points;
+            for (std::size_t i = first; i < last; ++i)
+                points.push_back({xs[i], 0.1 * static_cast<double>(i)});
+            CWalker(points, kScale).ExpectSame(kPlot);
+        }
+    }
+}
+
+TEST(ColumnWalk, RandomCurvesEqualThePlainWalk)
+{
+    std::mt19937 random(2026);
+    const double specials[] = {kInfinity, -kInfinity, std::nan(""), 1e308, -1e308, 5e-324, 1e10, -1e10};
+    for (int round = 0; round < 4000; ++round) {
+        std::vector<TDataPoint> points(1 + random() % 60);
+        const double spread = std::exp2(random() % 14);
+        for (TDataPoint& point : points) {
+            point.fXVal = (random() % 2001 / 1000.0 - 1) * spread + 50;
+            point.fYVal = random() % 1001 / 1000.0;
+            if (random() % 50 == 0)
+                point.fXVal = specials[random() % 8];
+            if (random() % 50 == 0)
+                point.fYVal = specials[random() % 8];
+        }
+        if (round % 2 == 0)
+            std::sort(points.begin(), points.end(),
+                      [](const TDataPoint& a, const TDataPoint& b) { return a.fXVal < b.fXVal; });
+        CWalker(points, kScale).ExpectSame(kPlot);
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST(ColumnWalk, HostileScalesEqualThePlainWalk)
+{
+    const auto points = EvenPoints(300, -20, 0.5);
+    for (const auto& [low, high] :
+         {std::pair{10.0, 10.0}, std::pair{90.0, 10.0}, std::pair{-kInfinity, kInfinity},
+          std::pair{std::nan(""), 1.0}, std::pair{-1e308, 1e308}, std::pair{0.0, 5e-324},
+          std::pair{0.0, 1e300}}) {
+        for (const int length : {400, 1, 0, -7}) {
+            CWalker(points, {.fMin = low, .fMax = high, .nLength = length, .nOrigin = 100})
+                .ExpectSame(kPlot);
+            CWalker(points, {.fMin = low, .fMax = high, .nLength = length, .nOrigin = 100, .bLog = true})
+                .ExpectSame(kPlot);
+        }
+    }
+}
+
+TEST(ColumnWalk, AnyColumnsOfInterestEqualThePlainWalk)
+{
+    const CWalker walker(EvenPoints(400, -30, 0.5), kScale);
+    for (const TColumns visible :
+         {TColumns{INT32_MIN, INT32_MAX}, TColumns{INT32_MIN, 100}, TColumns{300, INT32_MAX},
+          TColumns{200, 200}, TColumns{INT32_MAX, INT32_MAX}})
+        walker.ExpectSame(visible);
+}
+
+} // namespace

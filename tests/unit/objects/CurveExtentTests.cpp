@@ -1,0 +1,104 @@
+#include "objects/CurveExtent.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <span>
+#include <vector>
+
+namespace
+{
+
+using CurveExtent::TExtent;
+
+constexpr TExtent kFresh;
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TExtent Widened(TExtent extent, std::span<const TDataPoint> points)
+{
+    CurveExtent::Widen(extent, points);
+    return extent;
+}
+
+TExtent WidenedPlainly(TExtent extent, std::span<const TDataPoint> points)
+{
+    CurveExtent::WidenPlain(extent, points);
+    return extent;
+}
+
+// Bit for bit, so that the sign of a zero counts.
+void ExpectSame(const TExtent& actual, const TExtent& expected)
+{
+    EXPECT_EQ(std::memcmp(&actual, &expected, sizeof actual), 0)
+        << actual.fMinX << ' ' << actual.fMaxX << ' ' << actual.fMinY << ' ' << actual.fMaxY
+        << " instead of " << expected.fMinX << ' ' << expected.fMaxX << ' ' << expected.fMinY << ' '
+        << expected.fMaxY;
+}
+
+} // namespace
+
+TEST(CurveExtent, AFreshExtentTakesTheDatasOwn)
+{
+    const std::vector<TDataPoint> points{{1, 5}, {3, -2}, {2, 9}};
+    ExpectSame(Widened(kFresh, points), {1, 3, -2, 9});
+}
+
+TEST(CurveExtent, AnExistingExtentOnlyGrows)
+{
+    const std::vector<TDataPoint> points{{1, 5}, {3, 20}};
+    ExpectSame(Widened({0, 2, 0, 10}, points), {0, 3, 0, 20});
+}
+
+TEST(CurveExtent, NoPointsChangeNothing)
+{
+    ExpectSame(Widened({1, 2, 3, 4}, {}), {1, 2, 3, 4});
+}
+
+TEST(CurveExtent, ValuesThatAreNoNumberWidenNothing)
+{
+    const std::vector<TDataPoint> points{{kNan, 1}, {2, kNan}, {kNan, kNan}, {1, 2}, {kNan, 7}};
+    ExpectSame(Widened(kFresh, points), {1, 2, 1, 7});
+}
+
+TEST(CurveExtent, NothingButNanLeavesAFreshExtent)
+{
+    ExpectSame(Widened(kFresh, std::vector<TDataPoint>(9, {kNan, kNan})), kFresh);
+}
+
+TEST(CurveExtent, InfinitiesAndDenormalsAreValuesLikeOthers)
+{
+    const std::vector<TDataPoint> points{{kInfinity, -kInfinity}, {5e-324, -5e-324}};
+    ExpectSame(Widened(kFresh, points), {5e-324, kInfinity, -kInfinity, -5e-324});
+}
+
+TEST(CurveExtent, AZeroBoundHasTheSignOfTheFirstZero)
+{
+    // The first zero stands where another lane than the first sees it.
+    std::vector<TDataPoint> points(8, {-1, 1});
+    points[3] = {-0.0, 0.0};
+    points[4] = {0.0, -0.0};
+    ExpectSame(Widened(kFresh, points), WidenedPlainly(kFresh, points));
+    EXPECT_TRUE(std::signbit(Widened(kFresh, points).fMaxX));
+    EXPECT_FALSE(std::signbit(Widened(kFresh, points).fMinY));
+}
+
+TEST(CurveExtent, TheFastWalkAgreesWithThePlainOneBitForBit)
+{
+    std::mt19937 random(7);
+    const double specials[] = {kNan, kInfinity, -kInfinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
+    for (int round = 0; round < 2000; ++round) {
+        std::vector<TDataPoint> points(random() % 70);
+        for (TDataPoint& point : points) {
+            auto draw = [&] {
+                return random() % 4 == 0 ? specials[random() % 8] : static_cast<int>(random() % 9) - 4.0;
+            };
+            point = {draw(), draw()};
+        }
+        const TExtent start = random() % 2 ? kFresh : TExtent{-0.0, 0.0, 1.0, 1.0};
+        ExpectSame(Widened(start, points), WidenedPlainly(start, points));
+    }
+}

@@ -1,0 +1,88 @@
+#include "objects/DateFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <ctime>
+#include <cwchar>
+#include <string>
+
+namespace
+{
+
+using DateFormat::FormatDate;
+using DateFormat::TDateFields;
+
+// Sunday, 5 July 2026, 09:04:07, the 186th day.
+constexpr TDateFields kDate{2026, 7, 5, 9, 4, 7, 0, 186};
+
+TDateFields FieldsOf(const std::tm& broken)
+{
+    return {broken.tm_year + 1900, broken.tm_mon + 1, broken.tm_mday, broken.tm_hour,
+            broken.tm_min,         broken.tm_sec,     broken.tm_wday, broken.tm_yday + 1};
+}
+
+std::u16string ByRunTime(const wchar_t* format, const std::tm& broken)
+{
+    std::array<wchar_t, 256> buffer = {};
+    const std::size_t length = std::wcsftime(buffer.data(), buffer.size(), format, &broken);
+    return {buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length)};
+}
+
+TEST(DateFormat, DateAndTime)
+{
+    EXPECT_EQ(FormatDate(u"%Y-%m-%d %H:%M:%S", kDate), u"2026-07-05 09:04:07");
+    EXPECT_EQ(FormatDate(u"%A %a %B %b", kDate), u"Sunday Sun July Jul");
+    EXPECT_EQ(FormatDate(u"%I:%M %p", kDate), u"09:04 AM");
+}
+
+TEST(DateFormat, TextAroundConversionsStays)
+{
+    EXPECT_EQ(FormatDate(u"am %d. \u5E74", kDate), u"am 05. \u5E74");
+    EXPECT_EQ(FormatDate(u"", kDate), u"");
+    EXPECT_EQ(FormatDate(u"100%%", kDate), u"100%");
+}
+
+TEST(DateFormat, UnknownConversionsStandAsText)
+{
+    EXPECT_EQ(FormatDate(u"%Q %k %5d %#d %", kDate), u"%Q %k %5d %#d %");
+    EXPECT_EQ(FormatDate(u"%s %n%i", kDate), u"%s \n%i");
+    EXPECT_EQ(FormatDate(u"%E %EQ %Od %Ed %O", kDate), u"%E %EQ 05 %Ed %O");
+}
+
+TEST(DateFormat, TextThatDoesntFitTheBufferIsEmpty)
+{
+    EXPECT_EQ(FormatDate(std::u16string(255, u'x'), kDate).size(), 255u);
+    EXPECT_EQ(FormatDate(std::u16string(256, u'x'), kDate), u"");
+    std::u16string many;
+    for (int i = 0; i < 100000; ++i)
+        many += u"%c";
+    EXPECT_EQ(FormatDate(many, kDate), u"");
+}
+
+TEST(DateFormat, HostileFieldsAreHarmless)
+{
+    const TDateFields fields{-5, 99, -1, 77, 61, -3, 12, -4};
+    EXPECT_FALSE(FormatDate(u"%a %A %b %B %c %C %d %e %j %U %V %G %g %W %y %Y %p %I", fields).empty());
+}
+
+TEST(DateFormat, EqualsTheRunTimeForEveryLetterAndDay)
+{
+    constexpr const wchar_t* format =
+        L"%a|%A|%b|%B|%c|%C|%d|%D|%e|%F|%g|%G|%h|%H|%I|%j|%m|%M|%n|%p|%r|%R|%S|"
+        L"%t|%T|%u|%U|%V|%w|%W|%x|%X|%y|%Y|%%";
+    const std::wstring wide(format);
+    const std::u16string narrow(wide.begin(), wide.end());
+    for (int day = 0; day < 366 * 30; ++day) {
+        std::tm broken = {};
+        broken.tm_year = 95;
+        broken.tm_mday = 1 + day;
+        broken.tm_hour = day % 24;
+        broken.tm_min = day % 60;
+        broken.tm_sec = day % 59;
+        timegm(&broken);
+        ASSERT_EQ(FormatDate(narrow, FieldsOf(broken)), ByRunTime(format, broken)) << day;
+    }
+}
+
+} // namespace

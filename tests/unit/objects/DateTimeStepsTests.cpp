@@ -1,0 +1,130 @@
+#include "objects/DateTimeSteps.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+using namespace DateTimeSteps;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kSecond = 1.0 / 86400.0;
+const double kNaN = std::nan("");
+
+double StepInSeconds(int n, double seconds)
+{
+    double step = -1;
+    CalcDateTimeStep(n, 40000.0, 40000.0 + seconds * kSecond, step);
+    return step * 86400.0;
+}
+
+std::pair<double, double> Adjusted(double lower, double upper, double step)
+{
+    AdjustDateTimeRange(lower, upper, step);
+    return {lower, upper};
+}
+
+TEST(WholeSeconds, CountsToTheNearestHalf)
+{
+    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 100.4 * kSecond), 100);
+    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 99.6 * kSecond), 100);
+    EXPECT_EQ(WholeSeconds(40000.0 + 100 * kSecond, 40000.0), -100);
+}
+
+TEST(WholeSeconds, FoldsDatesBeforeTheOrigin)
+{
+    // -1.25 is day -1 at six in the morning: a quarter day after -1.
+    EXPECT_EQ(WholeSeconds(-1.25, 0), 0.75 * 86400);
+    EXPECT_EQ(WholeSeconds(-1.75, -1.25), -0.5 * 86400);
+    EXPECT_EQ(WholeSeconds(-2.0, 1.0), 3 * 86400);
+}
+
+TEST(CalcDateTimeStep, HundredSecondsOverEightTicksGiveFifteen)
+{
+    EXPECT_EQ(StepInSeconds(8, 100), 15);
+}
+
+TEST(CalcDateTimeStep, TakesTheFirstEntryAtOrAboveTheQuotient)
+{
+    EXPECT_EQ(StepInSeconds(10, 10), 1);
+    EXPECT_EQ(StepInSeconds(10, 3), 1);
+    EXPECT_EQ(StepInSeconds(10, 11), 2);
+    EXPECT_EQ(StepInSeconds(1, 30), 30);
+    EXPECT_EQ(StepInSeconds(1, 31), 60);
+    EXPECT_EQ(StepInSeconds(10, 86400.0 * 365), 4838400);
+}
+
+TEST(CalcDateTimeStep, BeyondTheTableTheQuotientIsKept)
+{
+    EXPECT_EQ(StepInSeconds(1, 1572480000), 1572480000);
+    EXPECT_DOUBLE_EQ(StepInSeconds(1, 1572480001), 1572480001);
+    EXPECT_DOUBLE_EQ(StepInSeconds(2, 4e9), 2e9);
+}
+
+TEST(CalcDateTimeStep, NoTicksAndNoSpanGiveNoStep)
+{
+    EXPECT_EQ(StepInSeconds(0, 100), 0);
+    EXPECT_EQ(StepInSeconds(-3, 100), 0);
+    EXPECT_EQ(StepInSeconds(8, 0), 0);
+    EXPECT_LT(StepInSeconds(8, -100), 0);
+}
+
+TEST(CalcDateTimeStep, InfiniteAndUndefinedRangesAreEmpty)
+{
+    for (const auto& [lower, upper] : {std::pair{-kInfinity, kInfinity}, std::pair{0.0, kInfinity},
+                                       std::pair{kNaN, 1.0}, std::pair{-1.7e308, 1.7e308}}) {
+        double step = 7;
+        EXPECT_FALSE(CalcDateTimeStep(5, lower, upper, step));
+        EXPECT_EQ(step, 7);
+    }
+}
+
+TEST(AdjustDateTimeRange, BoundsLandOnWholeStepsSince1970)
+{
+    const double day = kEpoch + 15000;
+    const auto [lower, upper] = Adjusted(day + 0.3, day + 2.6, 1.0);
+    EXPECT_DOUBLE_EQ(lower, day);
+    EXPECT_DOUBLE_EQ(upper, day + 3);
+}
+
+TEST(AdjustDateTimeRange, MultiplesStay)
+{
+    const double day = kEpoch + 15000;
+    EXPECT_EQ(Adjusted(day, day + 2, 1.0), std::pair(day, day + 2));
+}
+
+TEST(AdjustDateTimeRange, ReachesPast2038)
+{
+    const double day = kEpoch + 40000;
+    EXPECT_EQ(Adjusted(day + 0.5, day + 2.5, 1.0), std::pair(day, day + 3));
+}
+
+TEST(AdjustDateTimeRange, BoundsBefore1970WrapInUnsignedSeconds)
+{
+    const auto [lower, upper] = Adjusted(kEpoch - 1.5, kEpoch + 1.5, 1.0);
+    const std::uint32_t wrapped = static_cast<std::uint32_t>(-129600) / 86400 * 86400;
+    EXPECT_EQ(lower, wrapped / 24.0 / 3600.0 + kEpoch);
+    EXPECT_EQ(upper, kEpoch + 2);
+}
+
+TEST(AdjustDateTimeRange, StepsUnderASecondChangeNothing)
+{
+    for (const double step : {0.0, -1.0, kNaN, kInfinity, 0.5 * kSecond, 1e300, 4294967296.0 * kSecond})
+        EXPECT_EQ(Adjusted(kEpoch + 0.3, kEpoch + 0.6, step), std::pair(kEpoch + 0.3, kEpoch + 0.6))
+            << step;
+}
+
+TEST(AdjustDateTimeRange, BoundsThatAreNoDatesStay)
+{
+    const auto [lower, upper] = Adjusted(-kInfinity, 1e300, 1.0);
+    EXPECT_EQ(lower, -kInfinity);
+    EXPECT_EQ(upper, 1e300);
+    EXPECT_TRUE(std::isnan(Adjusted(kNaN, 1, 1).first));
+}
+
+} // namespace

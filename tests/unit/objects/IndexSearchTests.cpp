@@ -1,0 +1,105 @@
+#include "objects/IndexSearch.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace
+{
+
+using namespace IndexSearch;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+std::vector<TDataPoint> PointsAt(const std::vector<double>& xs)
+{
+    std::vector<TDataPoint> points;
+    for (const double x : xs)
+        points.push_back({x, 0});
+    return points;
+}
+
+int Find(const std::vector<double>& xs, double x)
+{
+    return FindIndexForX(PointsAt(xs), x);
+}
+
+TEST(FindIndexForX, EndsOnTheFirstPointPastX)
+{
+    EXPECT_EQ(Find({0, 1, 2, 3}, 1.5), 2);
+    EXPECT_EQ(Find({0, 1, 2, 3}, 1), 2);
+    EXPECT_EQ(Find({0, 10, 11, 20}, 12), 3);
+}
+
+TEST(FindIndexForX, StepsDownFromAGuessPastXToTheLastPointNotPastIt)
+{
+    EXPECT_EQ(Find({0, 1, 10, 20}, 5), 1);
+    EXPECT_EQ(Find({0, 1, 100, 200, 300}, 3), 1);
+    EXPECT_EQ(Find({0, 1, 2, 3}, -5), 0);
+}
+
+TEST(FindIndexForX, MayEqualTheCount)
+{
+    EXPECT_EQ(Find({0, 1, 2, 3}, 3), 4);
+    EXPECT_EQ(Find({0, 1, 2, 3}, 99), 4);
+}
+
+TEST(FindIndexForX, FewerThanTwoPointsGiveZero)
+{
+    EXPECT_EQ(Find({}, 1), 0);
+    EXPECT_EQ(Find({5}, 9), 0);
+}
+
+TEST(FindIndexForX, HostileValuesStayInTheArray)
+{
+    EXPECT_EQ(Find({0, 1, 2}, std::nan("")), 0);
+    EXPECT_EQ(Find({0, 1, 2}, kInfinity), 3);
+    EXPECT_EQ(Find({0, 1, 2}, -kInfinity), 0);
+    EXPECT_EQ(Find({1, 1, 1}, 1), 3);
+    EXPECT_EQ(Find({std::nan(""), 1, 2}, 1), 0);
+}
+
+TEST(FindIndexForX, TheSearchEqualsTheWalkOnAscendingPoints)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 3000; ++round) {
+        std::vector<double> xs(2 + random() % 40);
+        for (double& x : xs)
+            x = static_cast<int>(random() % 30) * (random() % 5 == 0 ? 100.0 : 1.0);
+        if (random() % 4 == 0)
+            xs.back() = kInfinity;
+        if (random() % 4 == 0)
+            xs.front() = -kInfinity;
+        std::sort(xs.begin(), xs.end());
+        const auto points = PointsAt(xs);
+        for (const double x :
+             {-1.0, 0.0, 3.0, 14.5, 29.0, 700.0, 1e9, kInfinity, -kInfinity, std::nan("")})
+            ASSERT_EQ(FindIndexForXAscending(points, x), FindIndexForX(points, x)) << x;
+    }
+}
+
+TEST(IsAscending, AllowsEqualNeighboursAndInfinities)
+{
+    EXPECT_TRUE(IsAscending(PointsAt({-kInfinity, 1, 1, 2, kInfinity})));
+    EXPECT_TRUE(IsAscending(PointsAt({1})));
+    EXPECT_FALSE(IsAscending(PointsAt({1, 2, 1.5})));
+    EXPECT_FALSE(IsAscending({}));
+}
+
+TEST(IsAscending, RefusesWhatIsNoNumberAnywhere)
+{
+    EXPECT_FALSE(IsAscending(PointsAt({std::nan("")})));
+    EXPECT_FALSE(IsAscending(PointsAt({std::nan(""), 1})));
+    std::vector<double> xs(5000, 1.0);
+    EXPECT_TRUE(IsAscending(PointsAt(xs)));
+    xs[4999] = std::nan("");
+    EXPECT_FALSE(IsAscending(PointsAt(xs)));
+    xs[4999] = 0.5;
+    EXPECT_FALSE(IsAscending(PointsAt(xs)));
+}
+
+} // namespace
