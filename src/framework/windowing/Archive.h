@@ -47,7 +47,8 @@ public:
     // Raises the end of the file if nCount elements of nSize bytes can't follow.
     void EnsureRemaining(ULONGLONG nCount, UINT nSize) const;
 
-    // Objects through their class records. A null object can't be read back.
+    // Objects through their class records. A null object can't be read back. A new object
+    // belongs to the caller; a reference in the stream gives an object that an earlier call gave.
     void WriteObject(const CObject* pOb);
     [[nodiscard]] CObject* ReadObject(const CRuntimeClass* pClass);
     void WriteClass(const CRuntimeClass* pClassRef);
@@ -108,7 +109,8 @@ private:
     const CRuntimeClass* ClassOfNumber(DWORD number) const;
     CObject* ObjectOfNumber(DWORD number, const CRuntimeClass* pClass) const;
     DWORD NextNumber();
-    void WriteTag(bool isClass, DWORD number);
+    void WriteReference(bool isClass, DWORD number);
+    ULONGLONG ReadInteger(int width);
 
     CFile* m_pFile;
     UINT m_nMode;
@@ -119,7 +121,7 @@ private:
     size_t m_nCur = 0;
     size_t m_nEnd = 0; // loading: end of what the buffer holds
 
-    DWORD m_nNumbers = 0; // of the common sequence of classes and objects
+    DWORD m_nNumbers = 0; // given so far in the common sequence of classes and objects
     std::unordered_map<const void*, DWORD> m_stored;
     std::vector<TClassOrObject> m_loaded; // element n - 1 has number n
 };

@@ -20,7 +20,6 @@ public:
         shareDenyWrite = 0x0020,
         shareDenyRead = 0x0030,
         shareDenyNone = 0x0040,
-        modeNoInherit = 0x0080,
         modeCreate = 0x1000
     };
     enum SeekPosition : UINT { begin = 0, current = 1, end = 2 };

@@ -18,19 +18,7 @@ namespace AfxSig
 // Parameters that come as handles.
 CWnd* WindowOf(WPARAM wParam);
 CScrollBar* ScrollBarOf(LPARAM lParam); // null unless a permanent object of ours
-// A device context object for the time of one call.
-class CParameterDC
-{
-public:
-    explicit CParameterDC(WPARAM wParam);
-    CParameterDC(const CParameterDC&) = delete;
-    CParameterDC& operator=(const CParameterDC&) = delete;
-    ~CParameterDC();
-    [[nodiscard]] CDC* Get() const noexcept { return m_pDC; }
-
-private:
-    CDC* m_pDC;
-};
+CDC* DCOf(WPARAM wParam);
 
 inline CPoint PointOf(LPARAM lParam) noexcept
 {
@@ -109,8 +97,7 @@ struct Erase {
     template <class T> using Method = BOOL (T::*)(CDC*);
     template <class T, auto Handler> static bool Call(T* target, const AFX_MSG_ARGS& args)
     {
-        const CParameterDC dc(args.wParam);
-        *args.pResult = (target->*Handler)(dc.Get());
+        *args.pResult = (target->*Handler)(DCOf(args.wParam));
         return true;
     }
 };

@@ -12,10 +12,15 @@
 // of both lives until the thread fetches its next message.
 
 #include <atomic>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <windows.h>
 
 class CWinApp;
+struct AFX_THREAD_STATE;
 
 struct AFX_MODULE_STATE {
     AFX_MODULE_STATE() noexcept;
@@ -25,7 +30,9 @@ struct AFX_MODULE_STATE {
 
     // The context made from the module's own manifest (resource 2); INVALID_HANDLE_VALUE if
     // the module has none. Made at first use, owned by the state.
-    [[nodiscard]] HANDLE GetActivationContext();
+    [[nodiscard]] HANDLE GetActivationContext() noexcept;
+    // A window class that goes when the module does.
+    void AddClassName(LPCWSTR name);
 
     HINSTANCE m_hCurrentInstanceHandle;
     HINSTANCE m_hCurrentResourceHandle;
@@ -35,6 +42,8 @@ struct AFX_MODULE_STATE {
 private:
     INIT_ONCE m_contextOnce = INIT_ONCE_STATIC_INIT;
     HANDLE m_hActCtx = INVALID_HANDLE_VALUE;
+    std::mutex m_classLock;
+    std::vector<std::wstring> m_classNames;
 };
 
 // The state of the module that this code is linked into.
@@ -42,7 +51,7 @@ private:
 // The state that is current on this thread; the static one if none was set.
 [[nodiscard]] AFX_MODULE_STATE* AfxGetModuleState() noexcept;
 // Makes a state current (null: none) and gives the one set before, or null.
-AFX_MODULE_STATE* AfxSetModuleState(AFX_MODULE_STATE* pNewState) noexcept;
+AFX_MODULE_STATE* AfxSetModuleState(AFX_MODULE_STATE* pNewState);
 
 [[nodiscard]] inline HINSTANCE AfxGetInstanceHandle() noexcept
 {
@@ -64,16 +73,20 @@ void AfxOleUnlockApp() noexcept;
 class AFX_TEMP_SCOPE
 {
 public:
-    AFX_TEMP_SCOPE() noexcept;
+    AFX_TEMP_SCOPE();
     AFX_TEMP_SCOPE(const AFX_TEMP_SCOPE&) = delete;
     AFX_TEMP_SCOPE& operator=(const AFX_TEMP_SCOPE&) = delete;
     ~AFX_TEMP_SCOPE();
+    void SetModuleState(AFX_MODULE_STATE* pState) noexcept;
+
+private:
+    AFX_THREAD_STATE* m_pThread;
 };
 
 class AFX_MAINTAIN_STATE2
 {
 public:
-    explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState) noexcept;
+    explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState);
     AFX_MAINTAIN_STATE2(const AFX_MAINTAIN_STATE2&) = delete;
     AFX_MAINTAIN_STATE2& operator=(const AFX_MAINTAIN_STATE2&) = delete;
     ~AFX_MAINTAIN_STATE2();

@@ -55,7 +55,6 @@ struct AFX_CLASSINIT {
 };
 
 CObject* AfxDynamicDownCast(const CRuntimeClass* pClass, CObject* pObject);
-void AfxWriteObject(CArchive& ar, const CObject* pObject);
 CObject* AfxReadObject(CArchive& ar, const CRuntimeClass* pClass);
 
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)

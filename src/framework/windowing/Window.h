@@ -51,12 +51,11 @@ public:
     [[nodiscard]] static CWnd* FromHandlePermanent(HWND hWnd) noexcept;
     // Makes this the permanent object of a window, without taking its messages.
     BOOL Attach(HWND hWndNew);
+    // Lets go of the window, which gets its former procedure back.
     HWND Detach() noexcept;
     // Attaches and takes the messages of a window that exists already.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    // Gives the window its former procedure back and detaches.
-    HWND UnsubclassWindow();
 
     // Creation. A null class name stands for AfxRegisterWndClass(0) with the arrow cursor.
     // Create always makes a child window.
@@ -87,8 +86,6 @@ public:
     // TRUE takes a queued message away before it is dispatched. Called for messages of this
     // window and of the windows below it, in the modal loops of the module and in the host's.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    // The message under way on this thread.
-    [[nodiscard]] static const MSG* GetCurrentMessage() noexcept;
     // Default handling of the message under way, with its original parameters.
     LRESULT Default();
 
@@ -127,7 +124,6 @@ public:
     [[nodiscard]] BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     [[nodiscard]] BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
-    void CenterWindow();
 
     // Family
     [[nodiscard]] CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
@@ -147,16 +143,17 @@ public:
     CDC* GetWindowDC();
     int ReleaseDC(CDC* pDC);
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
-    void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
+    // Without a window these do nothing; the platform would take the whole screen instead.
+    void Invalidate(BOOL bErase = TRUE) { InvalidateRect(nullptr, bErase); }
     void InvalidateRect(const RECT* lpRect, BOOL bErase = TRUE)
     {
-        ::InvalidateRect(m_hWnd, lpRect, bErase);
+        if (m_hWnd)
+            ::InvalidateRect(m_hWnd, lpRect, bErase);
     }
-    void ValidateRect(const RECT* lpRect) { ::ValidateRect(m_hWnd, lpRect); }
     BOOL RedrawWindow(const RECT* lpRectUpdate = nullptr, HRGN hRgnUpdate = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE)
     {
-        return ::RedrawWindow(m_hWnd, lpRectUpdate, hRgnUpdate, flags);
+        return m_hWnd && ::RedrawWindow(m_hWnd, lpRectUpdate, hRgnUpdate, flags);
     }
 
     // Input
@@ -166,7 +163,7 @@ public:
     [[nodiscard]] static CWnd* GetCapture() { return FromHandle(::GetCapture()); }
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr)
     {
-        return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
+        return m_hWnd ? ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer) : 0;
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
 
@@ -228,7 +225,8 @@ private:
     friend struct AFX_WND_ENTRY; // the window procedure and the creation hook
 
     explicit CWnd(HWND hWnd) noexcept : m_hWnd(hWnd) {}
-    [[nodiscard]] BOOL DispatchEntry(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    // Puts our procedure in front of the window's own.
+    void TakeMessages();
 
     WNDPROC m_pfnSuper = nullptr; // what the window did before it was ours
 };

@@ -1,0 +1,68 @@
+#pragma once
+// What the framework keeps for each thread. Made at first need; the system frees it when the
+// thread ends, and for all threads when the module goes.
+
+#include <memory>
+#include <unordered_map>
+
+#include <windows.h>
+
+class CWnd;
+struct AFX_MODULE_STATE;
+
+// Which object stands for which window of this thread. Permanent objects belong to somebody;
+// temporary ones belong to the map and end with their scope.
+class CWndMap
+{
+public:
+    CWndMap();
+    CWndMap(const CWndMap&) = delete;
+    CWndMap& operator=(const CWndMap&) = delete;
+    ~CWndMap();
+
+    [[nodiscard]] CWnd* LookupPermanent(HWND hWnd) const noexcept;
+    [[nodiscard]] bool HasPermanent() const noexcept { return !m_permanent.empty(); }
+    void SetPermanent(HWND hWnd, CWnd* pWnd) { m_permanent[hWnd] = pWnd; }
+    void RemovePermanent(HWND hWnd) noexcept { m_permanent.erase(hWnd); }
+
+    // The permanent object, else a temporary one.
+    [[nodiscard]] CWnd* FromHandle(HWND hWnd, bool inScope);
+    // Frees the temporary objects made inside of a scope; with `all`, the others too.
+    void FreeTemporary(bool all) noexcept;
+    [[nodiscard]] size_t GetTemporaryCount() const noexcept { return m_temporary.size(); }
+
+private:
+    struct TTemporary {
+        std::unique_ptr<CWnd> pWnd;
+        bool inScope;
+    };
+    std::unordered_map<HWND, CWnd*> m_permanent;
+    std::unordered_map<HWND, TTemporary> m_temporary;
+};
+
+struct AFX_THREAD_STATE {
+    AFX_THREAD_STATE() = default;
+    AFX_THREAD_STATE(const AFX_THREAD_STATE&) = delete;
+    AFX_THREAD_STATE& operator=(const AFX_THREAD_STATE&) = delete;
+    ~AFX_THREAD_STATE();
+
+    CWndMap windows;
+    int nScopeDepth = 0;                      // calls and messages under way, one in another
+    AFX_MODULE_STATE* pModuleState = nullptr; // set as current; null: none
+
+    MSG current{};            // the message under way, for CWnd::Default
+    CWnd* pWndInit = nullptr; // waits for its window to be created
+    HHOOK hCreateHook = nullptr;
+    HHOOK hMessageHook = nullptr; // there while the thread has permanent windows
+    bool bPumping = false;        // a loop of ours fetches and translates messages itself
+    WCHAR szWndClass[96] = {};    // the result of AfxRegisterWndClass
+};
+
+// Raises a CMemoryException if there is no memory for it.
+[[nodiscard]] AFX_THREAD_STATE& AfxGetThreadState();
+// The state if the thread has one already.
+[[nodiscard]] AFX_THREAD_STATE* AfxFindThreadState() noexcept;
+
+// Lets the permanent windows of this thread see queued messages before they are dispatched,
+// also where a host's loop fetches them; ends by itself with the last of those windows.
+void AfxWatchQueue(AFX_THREAD_STATE& state) noexcept;
