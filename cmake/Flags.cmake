@@ -16,7 +16,7 @@ if(WIN32)
   target_compile_options(vantoplex-flags INTERFACE
     -O2 -gdwarf-4 -fstack-protector-strong -D_FORTIFY_SOURCE=2 -msse2 -mfpmath=sse)
   target_link_options(vantoplex-flags INTERFACE
-    -static -Wl,--nxcompat,--dynamicbase,--high-entropy-va)
+    -static -fstack-protector-strong -Wl,--nxcompat,--dynamicbase,--high-entropy-va)
 else()
   target_compile_options(vantoplex-flags INTERFACE -O1 -g -fno-omit-frame-pointer
     -fsanitize=address,undefined -fno-sanitize-recover=all)
