@@ -23,6 +23,47 @@ double Radians(float degrees) noexcept
     return degrees * std::numbers::pi / 180.0;
 }
 
+double Unwound(double radians, double target) noexcept
+{
+    constexpr double turn = 2 * std::numbers::pi;
+    return radians + turn * std::round((target - radians) / turn);
+}
+
+// An ellipse by its parameter: the angle on the circle that it was stretched from.
+struct TEllipse {
+    explicit TEllipse(const TRectF& rc) noexcept
+        : halfWidth(std::abs(rc.width) / 2), halfHeight(std::abs(rc.height) / 2),
+          // Coordinates are floats: what is short grows with the distance from zero.
+          shortest(std::max({0.1, 2e-4 * std::abs(rc.x), 2e-4 * std::abs(rc.x + rc.width),
+                             2e-4 * std::abs(rc.y), 2e-4 * std::abs(rc.y + rc.height)}))
+    {
+    }
+
+    [[nodiscard]] double Parameter(float degrees) const noexcept
+    {
+        const double angle = Radians(degrees);
+        return Unwound(std::atan2(halfWidth * std::sin(angle), halfHeight * std::cos(angle)), angle);
+    }
+
+    // In degrees.
+    [[nodiscard]] double Angle(double parameter) const noexcept
+    {
+        const double angle =
+            std::atan2(halfHeight * std::sin(parameter), halfWidth * std::cos(parameter));
+        return Unwound(angle, parameter) * 180.0 / std::numbers::pi;
+    }
+
+    [[nodiscard]] bool IsShort(double from, double to) const noexcept
+    {
+        return std::hypot(halfWidth * (std::cos(to) - std::cos(from)),
+                          halfHeight * (std::sin(to) - std::sin(from))) < shortest;
+    }
+
+    double halfWidth;
+    double halfHeight;
+    double shortest;
+};
+
 std::int32_t WithinWindow(float pixels) noexcept
 {
     return pixels > 0 ? Trunc(std::min(pixels, float{nFarthest})) : 0;
@@ -166,13 +207,35 @@ TRectF AboutCentre(const TRect& rc, float fReach) noexcept
 
 bool DrawableAngles(float& fStart, float& fSweep) noexcept
 {
-    if (!std::isfinite(fStart) || std::isnan(fSweep)) {
+    if (!std::isfinite(fStart) || !(std::abs(fSweep) >= fThinnestSweep)) {
         return false;
     }
     if (std::abs(fStart) > 720.0f) {
         fStart = std::fmod(fStart, 360.0f);
     }
     fSweep = std::clamp(fSweep, -360.0f, 360.0f);
+    return true;
+}
+
+bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
+{
+    if (!DrawableAngles(fStart, fSweep)) {
+        return false;
+    }
+    const TEllipse ellipse(rc);
+    const double from = ellipse.Parameter(fStart);
+    const double to = ellipse.Parameter(fStart + fSweep);
+    if (std::abs(fSweep) < 180.0f && ellipse.IsShort(from, to)) {
+        return false;
+    }
+    constexpr double quarter = std::numbers::pi / 2;
+    const double quarters = std::round(std::abs(to - from) / quarter);
+    const double nearest = from + std::copysign(quarters * quarter, to - from);
+    if (quarters > 0 && ellipse.IsShort(nearest, to)) {
+        constexpr double justShort = 1e-5;
+        fSweep =
+            static_cast<float>(ellipse.Angle(nearest - std::copysign(justShort, to - from)) - fStart);
+    }
     return true;
 }
 

@@ -76,8 +76,17 @@ float ProjectAngles(const TRect& rcPie, const TFaces& faces, float fStartAngle,
 // A square about the centre of rc that reaches fReach to every side.
 [[nodiscard]] TRectF AboutCentre(const TRect& rc, float fReach) noexcept;
 
+constexpr float fThinnestSweep = 0.001f;
+
 // A pair of angles as the drawing library takes it: the start within a turn or two, the
-// sweep within one turn. False if nothing can be drawn from them.
+// sweep within one turn. False if nothing can be drawn from them: they are not numbers, or
+// the sweep is under a thousandth of a degree, which has no pixel.
 [[nodiscard]] bool DrawableAngles(float& fStart, float& fSweep) noexcept;
+
+// The same for an outline on the ellipse in rc. The library splits an arc into quarters of
+// the ellipse, and some versions do not survive to stroke a piece that is far shorter than a
+// pixel. So the sweep ends just short of a quarter where it would reach beyond it by less
+// than that; false if the whole arc is so short.
+[[nodiscard]] bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept;
 
 } // namespace PieGeometry

@@ -8,8 +8,6 @@ namespace PieWalls
 namespace
 {
 
-constexpr float fThinnest = 0.001f;
-
 std::int32_t MiddleOf(const TRect& rc) noexcept
 {
     return PieGeometry::CentreOf(rc).y;
@@ -40,7 +38,7 @@ CWallPieces PiecesOf(float fStart, float fSweep) noexcept
 
 bool HasWidth(const TWallPiece& piece) noexcept
 {
-    return std::abs(piece.fSweep) >= fThinnest;
+    return std::abs(piece.fSweep) >= PieGeometry::fThinnestSweep;
 }
 
 TOutline OutlineOf(const PieGeometry::TFaces& faces, const TWallPiece& piece) noexcept

@@ -229,4 +229,57 @@ TEST(PieAngle, DrawableAnglesAreFiniteAndWithinATurn)
     start = 0;
     sweep = std::nanf("");
     EXPECT_FALSE(DrawableAngles(start, sweep));
+    sweep = 0.0009f;
+    EXPECT_FALSE(DrawableAngles(start, sweep));
+    sweep = -0.001f;
+    EXPECT_TRUE(DrawableAngles(start, sweep));
+}
+
+namespace
+{
+
+constexpr TRectF rcEllipse{30, 100, 470, 470};
+
+float Outlined(const TRectF& rc, float start, float sweep)
+{
+    return OutlineAngles(rc, start, sweep) ? sweep : 0.0f;
+}
+
+} // namespace
+
+TEST(PieOutline, OrdinaryAnglesStay)
+{
+    for (const float sweep : {1.0f, 45.0f, 89.5f, 91.0f, 200.0f, 300.0f, -60.0f}) {
+        EXPECT_EQ(Outlined(rcEllipse, 33.0f, sweep), sweep);
+        EXPECT_EQ(Outlined({30, 200, 470, 60}, 33.0f, sweep), sweep);
+    }
+}
+
+TEST(PieOutline, SweepsAboutWholeQuartersEndJustShortOfThem)
+{
+    for (const float quarters : {90.0f, 180.0f, 270.0f, 360.0f}) {
+        for (const float beyond : {-1e-4f, 0.0f, 1e-4f, 0.01f}) {
+            const float sweep = Outlined(rcEllipse, 33.0f, quarters + beyond);
+            EXPECT_LT(sweep, quarters - 1e-4f);
+            EXPECT_NEAR(sweep, quarters, 0.01f);
+            EXPECT_NEAR(Outlined(rcEllipse, 33.0f, -quarters - beyond), -sweep, 0.0002f);
+        }
+    }
+}
+
+TEST(PieOutline, QuartersOfAFlatEllipseAreThoseOfItsCircle)
+{
+    // Half axes 235 and 117.5: from 26.565 (45 on the circle) a quarter ends at 153.435.
+    const TRectF flat{30, 100, 470, 235};
+    const float sweep = Outlined(flat, 26.56505f, 126.8699f);
+    EXPECT_LT(sweep, 126.8699f);
+    EXPECT_NEAR(sweep, 126.8699f, 0.01f);
+    EXPECT_EQ(Outlined(flat, 26.56505f, 90.0f), 90.0f);
+}
+
+TEST(PieOutline, ArcsFarShorterThanAPixelHaveNone)
+{
+    EXPECT_EQ(Outlined(rcEllipse, 10.0f, 0.02f), 0.0f);         // 235 * 0.02 / 57.3 = 0.08
+    EXPECT_NE(Outlined(rcEllipse, 10.0f, 0.03f), 0.0f);         // 0.12
+    EXPECT_EQ(Outlined({30, 300, 470, 20}, 90.0f, 0.5f), 0.0f); // 10 * 0.5 / 57.3 = 0.09
 }

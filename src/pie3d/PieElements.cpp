@@ -1,0 +1,277 @@
+#include "pie3d/PieChartWnd.h"
+
+#include "pie3d/PieOrder.h"
+#include "pie3d/PieShares.h"
+
+#include <algorithm>
+#include <cmath>
+
+SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& strLabel, double dValue,
+                                      PieColors::Argb crColor)
+{
+    const bool usable = dValue > 0 && PieShares::IsUsable(m_dTotal + dValue);
+    if (strElement.IsEmpty() || !usable || Find(strElement) != m_mapElements.end()) {
+        return nullptr;
+    }
+    auto element = std::make_unique<SPieElement>();
+    element->pPath = GdiPlus::NewPath();
+    element->strName = strElement;
+    element->strLabel = strLabel;
+    element->dValue = dValue;
+    element->nOrder = m_nElements;
+    element->crColor = crColor;
+    element->crLight = PieColors::LightenColor(crColor, element->fGradientLight);
+    element->crDark = PieColors::DarkenColor(crColor, element->fGradientDark);
+
+    SPieElement* const added = (m_mapElements[m_nElements] = std::move(element)).get();
+    ++m_nElements;
+    m_dTotal += dValue;
+    if (strLabel.GetLength() > m_strLongestLabel.GetLength()) {
+        m_strLongestLabel = strLabel;
+    }
+    RecalcPercents();
+    RecalcLabelExtent();
+    UpdateScrollBar();
+    Repaint();
+    return added;
+}
+
+int CPieChartWnd::RemoveItem(const CString& strElement)
+{
+    const auto found = Find(strElement);
+    return found != m_mapElements.end() ? Remove(m_mapElements.find(found->first)) : 0;
+}
+
+int CPieChartWnd::RemoveItemByIndex(std::int32_t iElementID)
+{
+    const auto found = m_mapElements.find(iElementID);
+    return found != m_mapElements.end() ? Remove(found) : 0;
+}
+
+int CPieChartWnd::Remove(TPieElements::iterator position)
+{
+    m_dTotal = TotalWith(position->second.get(), 0);
+    m_mapElements.erase(position);
+    --m_nElements;
+    RenumberElements();
+    FindLongestLabel();
+    RecalcPercents();
+    RecalcLabelExtent();
+    SyncFirstLabel(m_wndScrollBar.GetScrollPos(), FALSE);
+    UpdateScrollBar();
+    Repaint();
+    return 1;
+}
+
+void CPieChartWnd::RemoveAllItem() noexcept
+{
+    m_dTotal = 0;
+    m_nElements = 0;
+    m_mapElements.clear();
+    m_KeptPicture.Reset();
+}
+
+int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
+{
+    if (pItem == nullptr) {
+        return 0;
+    }
+    pItem->strLabel = strLabel;
+    FindLongestLabel();
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
+{
+    if (pItem == nullptr || dVal == 0) {
+        return 0;
+    }
+    const double total = TotalWith(pItem, dVal);
+    if (!PieShares::IsUsable(total)) {
+        return 0;
+    }
+    m_dTotal = total;
+    pItem->dValue = dVal;
+    RecalcPercents();
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem)
+{
+    if (pItem == nullptr) {
+        return 0;
+    }
+    pItem->crColor = crItem;
+    pItem->crDark = PieColors::DarkenColor(crItem, pItem->fGradientDark);
+    pItem->crLight = PieColors::LightenColor(crItem, pItem->fGradientLight);
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::SetPieElementGradientLight(SPieElement* pItem, float flGradientVal)
+{
+    if (pItem == nullptr || !std::isfinite(flGradientVal)) {
+        return 0;
+    }
+    pItem->fGradientLight = flGradientVal;
+    pItem->crLight = PieColors::LightenColor(pItem->crColor, flGradientVal);
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::SetPieElementGradientDark(SPieElement* pItem, float flGradientVal)
+{
+    if (pItem == nullptr || !std::isfinite(flGradientVal)) {
+        return 0;
+    }
+    pItem->fGradientDark = flGradientVal;
+    pItem->crDark = PieColors::DarkenColor(pItem->crColor, flGradientVal);
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::SetPieElementGradientLightAll(float flGradientVal)
+{
+    if (!std::isfinite(flGradientVal)) {
+        return 0;
+    }
+    for (const auto& [key, element] : m_mapElements) {
+        element->crLight = PieColors::LightenColor(element->crColor, flGradientVal);
+    }
+    Repaint();
+    return 1;
+}
+
+int CPieChartWnd::SetPieElementGradientDarkAll(float flGradientVal)
+{
+    if (!std::isfinite(flGradientVal)) {
+        return 0;
+    }
+    for (const auto& [key, element] : m_mapElements) {
+        element->fGradientDark = flGradientVal;
+        element->crDark = PieColors::DarkenColor(element->crColor, flGradientVal);
+    }
+    Repaint();
+    return 1;
+}
+
+void CPieChartWnd::sortPiechartElements(long bClockWise)
+{
+    std::vector<double> values;
+    values.reserve(m_mapElements.size());
+    for (const auto& [key, element] : m_mapElements) {
+        values.push_back(element->dValue);
+    }
+    PutInOrder(PieOrder::ByValue(values, bClockWise != 0));
+}
+
+void CPieChartWnd::SortToOrginalOrder()
+{
+    std::vector<std::int32_t> orders;
+    orders.reserve(m_mapElements.size());
+    for (const auto& [key, element] : m_mapElements) {
+        orders.push_back(element->nOrder);
+    }
+    PutInOrder(PieOrder::ByInsertion(orders));
+}
+
+// Keys run from 0 without gaps, so the records change places and the map stays as it is.
+void CPieChartWnd::PutInOrder(const std::vector<std::size_t>& positions)
+{
+    std::vector<std::unique_ptr<SPieElement>> elements;
+    elements.reserve(m_mapElements.size());
+    for (auto& [key, element] : m_mapElements) {
+        elements.push_back(std::move(element));
+    }
+    auto next = positions.begin();
+    for (auto& [key, element] : m_mapElements) {
+        element = std::move(elements[*next++]);
+    }
+    Repaint();
+}
+
+// After a removal: each element behind the gap moves up to the key before its own.
+void CPieChartWnd::RenumberElements() noexcept
+{
+    std::int32_t key = 0;
+    for (auto position = m_mapElements.begin(); position != m_mapElements.end(); ++key) {
+        const auto next = std::next(position);
+        if (position->first != key) {
+            auto node = m_mapElements.extract(position);
+            node.key() = key;
+            m_mapElements.insert(next, std::move(node));
+        }
+        position = next;
+    }
+}
+
+void CPieChartWnd::FindLongestLabel()
+{
+    CString longest;
+    for (const auto& [key, element] : m_mapElements) {
+        if (element->strLabel.GetLength() > longest.GetLength()) {
+            longest = element->strLabel;
+        }
+    }
+    m_strLongestLabel = longest;
+}
+
+void CPieChartWnd::RecalcPercents() noexcept
+{
+    if (!(m_dTotal > 0)) {
+        return;
+    }
+    for (const auto& [key, element] : m_mapElements) {
+        element->fPercent = PieShares::ShareOf(element->dValue, m_dTotal);
+        element->fSweep = element->fPercent * 360.0f;
+        element->fDrawSweep = element->fSweep;
+    }
+}
+
+// Summed afresh, so that a large value that goes leaves no rounding behind.
+double CPieChartWnd::TotalWith(const SPieElement* pItem, double dVal) const noexcept
+{
+    double total = 0;
+    for (const auto& [key, element] : m_mapElements) {
+        total += element.get() == pItem ? dVal : element->dValue;
+    }
+    return total;
+}
+
+TPieElements::const_iterator CPieChartWnd::Find(const CString& strElement) const noexcept
+{
+    return std::find_if(m_mapElements.begin(), m_mapElements.end(), [&](const auto& entry) {
+        return entry.second->strName.Compare(strElement) == 0;
+    });
+}
+
+SPieElement* CPieChartWnd::GetPieChartItem(const CString& strElement) const noexcept
+{
+    const auto found = Find(strElement);
+    return found != m_mapElements.end() ? found->second.get() : nullptr;
+}
+
+std::int32_t CPieChartWnd::GetElementID(const CString& strElement) const noexcept
+{
+    const auto found = Find(strElement);
+    return found != m_mapElements.end() ? found->second->nOrder : -1;
+}
+
+SPieElement* CPieChartWnd::GetSelectedElement() const noexcept
+{
+    const auto found = std::find_if(m_mapElements.begin(), m_mapElements.end(),
+                                    [](const auto& entry) { return entry.second->bSelected != FALSE; });
+    return found != m_mapElements.end() ? found->second.get() : nullptr;
+}
+
+float CPieChartWnd::GetElementGrLight(const SPieElement* pItem) const noexcept
+{
+    return pItem != nullptr ? pItem->fGradientLight : -1.0f;
+}
+
+float CPieChartWnd::GetElementGrDark(const SPieElement* pItem) const noexcept
+{
+    return pItem != nullptr ? pItem->fGradientDark : -1.0f;
+}

@@ -1,0 +1,132 @@
+// The label list and the percents.
+
+#include "pie3d/PieChartWnd.h"
+
+#include "pie3d/PieShares.h"
+
+#include <algorithm>
+#include <string>
+
+namespace
+{
+
+constexpr INT nLineLimit = 8192; // StringFormatFlagsLineLimit
+
+CString PercentText(const SPieElement& element, bool bTwoDigits = false)
+{
+    return CString(std::u16string_view(PieShares::PercentText(element.fPercent, bTwoDigits)));
+}
+
+float AsFloat(std::int32_t value) noexcept
+{
+    return static_cast<float>(value);
+}
+
+} // namespace
+
+void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
+{
+    const TRect pie = GetPieRect();
+    const GdiPlus::CStringFormat format = GdiPlus::NewStringFormat(nLineLimit);
+    const GdiPlus::CSolidBrush mark = GdiPlus::NewSolidBrush(0xFF000000);
+    const GdiPlus::CPen edge = GdiPlus::NewPen(0xFF000000, 2.0f);
+    const GdiPlus::CSolidBrush ink = GdiPlus::NewSolidBrush(m_crLabel);
+    const GdiPlus::CFont font =
+        GdiPlus::NewFont(m_strLabelFontName, PieLabels::LabelFontSize(pie), m_nLabelFontStyle);
+
+    const std::int32_t firstY = PieLabels::FirstRow(pie, m_nElements, m_nRowHeight, m_nRowGap);
+    const float textX = AsFloat(6 * pie.right / 5 + m_nMarkWidth);
+    const float longest = graphics.Measure(m_strLongestLabel.View(), font, {textX, 0, 0, 0}).width;
+    const PieGeometry::TRectF percentSize = graphics.Measure(L"100.00%", font);
+    const PieLabels::TColumns columns = PieLabels::ColumnsFor(
+        pie, m_nMarkWidth, ClientRect().right - m_nScrollBarInset, longest, percentSize.width);
+    const auto first = m_mapElements.find(m_nFirstLabel);
+    if (m_bLabelPercent) {
+        DrawPercentBox(graphics, columns, firstY);
+    }
+
+    std::int32_t y = firstY;
+    for (auto row = first; row != m_mapElements.end() && y + m_nRowHeight <= pie.bottom; ++row) {
+        const SPieElement& element = *row->second;
+        const PieGeometry::TRectF rcMark{AsFloat(columns.nMarkX), AsFloat(y), AsFloat(m_nMarkWidth),
+                                         AsFloat(m_nRowHeight)};
+        GdiPlus::SetColor(mark, element.crColor);
+        GdiPlus::SetColor(edge, PieColors::LightenColor(element.crColor, 200.0f));
+        graphics.FillRectangle(mark.Get(), rcMark);
+        graphics.DrawRectangle(edge, rcMark);
+        graphics.DrawString(element.strLabel.View(), font,
+                            {textX, AsFloat(y), columns.fTextWidth, AsFloat(m_nRowHeight)}, ink.Get(),
+                            &format);
+        if (m_bLabelPercent && columns.fPercentWidth > 0) {
+            DrawPercentSeparator(graphics, columns, firstY, y);
+            graphics.DrawString(
+                PercentText(element, true).View(), font,
+                {columns.fPercentX + 1, AsFloat(y), columns.fPercentWidth, percentSize.height},
+                ink.Get(), &format);
+        }
+        y += m_nRowGap + m_nRowHeight;
+    }
+}
+
+void CPieChartWnd::DrawPercentBox(const GdiPlus::CGraphics& graphics, const PieLabels::TColumns& columns,
+                                  std::int32_t nFirstY) const
+{
+    const GdiPlus::CSolidBrush box = GdiPlus::NewSolidBrush(m_crLabelBox);
+    graphics.FillRectangle(box.Get(), {columns.fPercentX, AsFloat(nFirstY), columns.fPercentWidth,
+                                       AsFloat(std::min(m_nLabelsHeight, m_nVisibleHeight))});
+}
+
+void CPieChartWnd::DrawPercentSeparator(const GdiPlus::CGraphics& graphics,
+                                        const PieLabels::TColumns& columns, std::int32_t nFirstY,
+                                        std::int32_t nRowY) const
+{
+    const std::int32_t y = nRowY + m_nRowHeight + m_nRowGap / 2;
+    if (m_nVisibleHeight > y - nFirstY) {
+        const GdiPlus::CPen light = GdiPlus::NewPen(PieColors::LightenColor(m_crLabelBox, 200.0f), 1.0f);
+        graphics.DrawLine(light, {columns.fPercentX, AsFloat(y)},
+                          {columns.fPercentX + columns.fPercentWidth, AsFloat(y)});
+    }
+}
+
+GdiPlus::CFont CPieChartWnd::PercentFont() const
+{
+    return GdiPlus::NewFont(m_strLabelFontName, PieLabels::PercentFontSize(GetPieRect()),
+                            m_nLabelFontStyle);
+}
+
+void CPieChartWnd::DrawPercents(const GdiPlus::CGraphics& graphics) const
+{
+    const TRect pie = GetPieRect();
+    const PieGeometry::TFaces faces = Faces();
+    const GdiPlus::CFont font = PercentFont();
+    const GdiPlus::CSolidBrush ink = GdiPlus::NewSolidBrush(m_crLabel);
+    float start = m_fStartAngle;
+    for (const auto& [key, element] : m_mapElements) {
+        const PieGeometry::TPointF centre =
+            PieLabels::PercentCentre(pie, faces, m_nChartStyle == 2, start, element->fSweep);
+        const CString text = PercentText(*element);
+        const PieGeometry::TRectF size = graphics.Measure(text.View(), font);
+        graphics.DrawString(text.View(), font,
+                            {centre.x - size.width * 0.5f, centre.y - size.height * 0.5f, 0, 0},
+                            ink.Get());
+        start += element->fSweep;
+    }
+}
+
+// Whether a percent may stand on the label list, so that it matters which is drawn first.
+bool CPieChartWnd::PercentsReachLabels(const GdiPlus::CGraphics& graphics) const
+{
+    CString longest;
+    for (const auto& [key, element] : m_mapElements) {
+        const CString text = PercentText(*element);
+        if (text.GetLength() > longest.GetLength()) {
+            longest = text;
+        }
+    }
+    const TRect pie = GetPieRect();
+    const std::int32_t farthest = PieGeometry::CentreOf(pie).x + 2 * pie.Width() / 5;
+    const std::int32_t list = pie.right + pie.right / 10;
+    constexpr float margin = 4.0f; // the mark's edge, and digits of unequal width
+    return AsFloat(farthest) + graphics.Measure(longest.View(), PercentFont()).width * 0.5f + margin >
+           AsFloat(list);
+}
