@@ -1,0 +1,85 @@
+#include "viewer/AxisText.h"
+
+#include "viewer/CellValue.h"
+#include "viewer/PlainText.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Viewer
+{
+namespace
+{
+
+constexpr double daysOfYear = 365.2425;
+constexpr double epoch1970 = 25569.0;
+constexpr double lastUnsignedSecond = epoch1970 + 4294967295.0 / 86400.0;
+constexpr int partsOfRange = 10; // an axis without a step of its own divides its range so
+
+// A graph of usual height has this many ticks at most.
+constexpr double mostTicks = 30.0;
+
+} // namespace
+
+std::u16string NumberFormatFor(double low, double high)
+{
+    const double largest = std::max(std::abs(low), std::abs(high));
+    const double span = high - low;
+    if (!(span > 0) || !std::isfinite(span)) {
+        return u"%g";
+    }
+    const double decimals = std::ceil(-std::log10(span / mostTicks));
+    if (largest >= 1e7 || decimals > 6) {
+        const double digits = std::ceil(std::log10(largest) - std::log10(span / mostTicks));
+        return u"%." + ToText(static_cast<std::size_t>(std::clamp(digits, 1.0, 14.0))) + u"e";
+    }
+    return u"%." + ToText(static_cast<std::size_t>(std::max(decimals, 0.0))) + u"f";
+}
+
+std::u16string DateFormatFor(double low, double high)
+{
+    const double days = high - low;
+    if (days >= 15 * daysOfYear) {
+        return u"%Y";
+    }
+    if (days >= daysOfYear) {
+        return u"%Y-%m";
+    }
+    if (days >= 10) {
+        return u"%Y-%m-%d";
+    }
+    if (days >= 1) {
+        return u"%m-%d %H:%M";
+    }
+    return days >= 10.0 / (24 * 60) ? u"%H:%M" : u"%H:%M:%S";
+}
+
+bool GraphCanRoundDates(double low, double high) noexcept
+{
+    // Rounding outward moves a bound by up to its distance to the next tick, at most the span.
+    const double room = std::max(high - low, 1.0);
+    return low - room >= epoch1970 && high + room <= lastUnsignedSecond;
+}
+
+DateRange RoundDateRange(double low, double high)
+{
+    const double days = high - low;
+    if (days < 8 * daysOfYear) {
+        const double step = std::max(std::ceil(days / partsOfRange), 1.0);
+        const double start = std::floor(low);
+        const bool fits = start + step * partsOfRange >= high;
+        return {start, start + (fits ? step : step + 1) * partsOfRange};
+    }
+    constexpr double intoTheYear = 2;
+    const int first = OleToDate(low - intoTheYear).year;
+    const int last = OleToDate(high).year + 1;
+    const int step = (last - first + partsOfRange - 1) / partsOfRange;
+    // What is left over goes to both ends, with the start on a round year if it can be.
+    const int spare = step * partsOfRange - (last - first);
+    const int rounded = first - first % 5;
+    const int start = std::max(first - rounded <= spare ? rounded : first, 100);
+    return {DateToOle({start, 1, 1}) + intoTheYear,
+            DateToOle({std::min(start + step * partsOfRange, 9999), 1, 1}) + intoTheYear};
+}
+
+} // namespace Viewer
