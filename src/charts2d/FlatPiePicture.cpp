@@ -14,10 +14,15 @@ struct TBox {
     TSize Size;
 };
 
-void Add(std::vector<TFlatPieSlice>& slices, const SPieSegment& segment, TPoint start, TPoint end)
+bool IsVisible(const TFlatPieSlice& slice) noexcept
 {
-    if (start != end || segment.dPercent >= 50)
-        slices.push_back({&segment, start, end});
+    return slice.ptStart != slice.ptEnd || slice.pSegment->dPercent >= 50;
+}
+
+void Add(std::vector<TFlatPieSlice>& slices, const TFlatPieSlice& slice)
+{
+    if (IsVisible(slice))
+        slices.push_back(slice);
 }
 
 double Turned(double angle, double percent)
@@ -33,7 +38,7 @@ void Still(TFlatPiePicture& picture, const CFlatPieData& data, const TBox& box)
     for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext) {
         angle = Turned(angle, segment->dPercent);
         const TPoint end = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);
-        Add(picture.Slices, *segment, start, end);
+        Add(picture.Slices, {segment, start, end});
         start = end;
     }
 }
@@ -75,14 +80,16 @@ void Fade(TFlatPiePicture& picture, const CFlatPieData& data, const CFlatPieAnim
         if (segment->nId > animation.m_nFadeSegment) {
             const TPoint end =
                 FlatPieGeometry::ByHalves(box.Position, box.Size, Turned(angle, segment->dPercent));
-            Add(picture.Faded, *segment, fadeStart, end);
+            const TFlatPieSlice slice{segment, fadeStart, end};
+            if (IsVisible(slice))
+                picture.Fading = slice;
             return;
         }
         const TPoint from = FlatPieGeometry::Rounded(box.Position, box.Size, angle, start);
         const double endAngle = angle + FlatPieGeometry::Angle(segment->dPercent);
         const TPoint to = FlatPieGeometry::Rounded(box.Position, box.Size, endAngle, from);
         if (from != to || FlatPieGeometry::InCircle(endAngle))
-            Add(picture.Slices, *segment, from, to);
+            Add(picture.Slices, {segment, from, to});
         angle = endAngle;
         start = to;
         fadeStart = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);

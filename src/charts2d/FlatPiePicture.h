@@ -2,6 +2,7 @@
 // What one frame of the flat pie shows, in the order of drawing.
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "base/Geometry.h"
@@ -16,8 +17,8 @@ struct TFlatPieSlice {
 };
 
 struct TFlatPiePicture {
-    std::vector<TFlatPieSlice> Faded;  // drawn aside and blended in, before the others
-    std::vector<TFlatPieSlice> Slices; // drawn at full strength
+    std::optional<TFlatPieSlice> Fading; // drawn aside and blended in, before the others
+    std::vector<TFlatPieSlice> Slices;   // drawn at full strength
 };
 
 namespace FlatPiePicture

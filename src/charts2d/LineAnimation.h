@@ -22,6 +22,9 @@ struct CLineAnimation {
     // One tick, for a chart of that many segments and series.
     void Animate(std::int32_t segments, std::int32_t series, TPoint start);
 
+    // Lines start there from now on; the next frame finds the ends of those that are finished.
+    void MoveStart(TPoint start) noexcept;
+
     std::int32_t m_bAnimation = 0;
     std::int32_t m_nAnimationType = 0;
     std::int32_t m_nAnimationPercent = 0;

@@ -251,15 +251,15 @@ TEST(FlatPiePicture, FadingSliceGoesAsideAndEarlierOnesAreWhole)
     Fill(data, {25, 50, 25});
     animation.SetAnimation(1, CFlatPieAnimation::fade);
     auto picture = Compose(data, animation);
-    ASSERT_EQ(picture.Faded.size(), 1U);
-    EXPECT_EQ(picture.Faded[0], (TFlatPieSlice{data.m_pSegments, right, top}));
+    ASSERT_TRUE(picture.Fading);
+    EXPECT_EQ(*picture.Fading, (TFlatPieSlice{data.m_pSegments, right, top}));
     EXPECT_TRUE(picture.Slices.empty());
 
     animation.m_nFadeSegment = 2;
     picture = Compose(data, animation);
-    ASSERT_EQ(picture.Faded.size(), 1U);
-    EXPECT_EQ(picture.Faded[0].ptStart, bottom);
-    EXPECT_EQ(picture.Faded[0].ptEnd, right);
+    ASSERT_TRUE(picture.Fading);
+    EXPECT_EQ(picture.Fading->ptStart, bottom);
+    EXPECT_EQ(picture.Fading->ptEnd, right);
     ASSERT_EQ(picture.Slices.size(), 2U);
     EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
 }

@@ -1,0 +1,9 @@
+#pragma once
+// A refused data operation is told to the person at the screen, in a message box; the caller
+// learns nothing of it.
+
+#include "charts2d/Refusal.h"
+
+// Nothing happens for ERefusal::none. The box is modal: whoever calls this touches nothing of
+// the chart afterwards, since the host's messages run meanwhile.
+void ReportRefusal(ERefusal refusal);
