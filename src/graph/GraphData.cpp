@@ -75,8 +75,7 @@ CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve,
     CXGraphDataSerie* pCurve = &m_Curves[nCurve];
     pCurve->m_pGraph = this;
     Autoscale(nXAxis, nYAxis, nCurve);
-    if (m_hWnd != nullptr)
-        Invalidate();
+    Invalidate();
     return pCurve;
 }
 

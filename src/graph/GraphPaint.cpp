@@ -59,6 +59,12 @@ void ClipTo(CDCEx* pDC, CRect rect, CRgn& region)
 
 } // namespace
 
+void CXGraph::Invalidate(BOOL bErase)
+{
+    if (m_hWnd != nullptr)
+        CWnd::Invalidate(bErase);
+}
+
 BOOL CXGraph::OnEraseBkgnd(CDC*)
 {
     return TRUE; // every frame covers the whole client area

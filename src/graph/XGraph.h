@@ -80,6 +80,8 @@ public:
     // could be taken, whether or not the file could be written.
     bool SaveBitmap(const CString& strFile);
 
+    // A graph whose window is gone repaints nothing (the platform would repaint every window).
+    void Invalidate(BOOL bErase = TRUE);
     void DrawLegend(CDCEx* pDC, CRect& rc);
     void DrawZoomRect(CDCEx* pDC);
 
