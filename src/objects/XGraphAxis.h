@@ -13,6 +13,7 @@
 #include "framework/windowing/CheckedVector.h"
 #include "framework/windowing/GdiObjects.h"
 #include "framework/windowing/Strings.h"
+#include "objects/AxisMapping.h"
 #include "objects/XGraphObject.h"
 
 enum EAxisKind : int { akXAxis = 0, akYAxis = 1 };
@@ -128,4 +129,23 @@ public:
     void DrawCurveKey(CDCEx* pDC, CPoint point, int nKey, int nSize, COLORREF crColor, bool bSymbol);
     void DrawAxisArrow(CDCEx* pDC, CPoint point, int nDirection,
                        int nSize); // 0 left, 1 up, 2 right, 3 down
+
+    [[nodiscard]] bool IsVertical() const noexcept { return m_AxisKind == akYAxis; }
+    // The mapping of the last frame.
+    [[nodiscard]] AxisMapping::TScale GetScale(bool bLog) const;
+    [[nodiscard]] AxisMapping::TScale GetScale() const { return GetScale(m_AxisType == atLog); }
+    [[nodiscard]] CRect PlotRect() const;
+
+protected:
+    CPoint MapPoint(const TDataPoint& point, bool bLog);
+
+private:
+    void CopyFields(const CXGraphAxis& other);
+    void WidenBounds(double& fMin, double& fMax) const;
+    void ComputeStep();
+    int PixelOf(double fValue);             // this axis's own coordinate
+    [[nodiscard]] int RoomForTicks() const; // pixels along the plot, less the margins
+    void DrawAxisMarker(CDCEx* pDC, const TAxisMarker& marker, int nPixel);
+    void Store(CArchive& ar) const;
+    void Load(CArchive& ar);
 };

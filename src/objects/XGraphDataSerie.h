@@ -8,21 +8,11 @@
 #include "objects/SegmentHit.h"
 #include "objects/XGraphObject.h"
 
+#include <span>
 #include <vector>
 
-class CXGraphDataSerie : public CXGraphObject
-{
-    DECLARE_SERIAL(CXGraphDataSerie)
-
-public:
-    CXGraphDataSerie() = default;
-    // With m_bAutoDelete the copy has an array of its own, else it shares the pointer.
-    CXGraphDataSerie(const CXGraphDataSerie& other);
-    CXGraphDataSerie(CXGraphDataSerie&& other) noexcept;
-    CXGraphDataSerie& operator=(const CXGraphDataSerie& other);
-    CXGraphDataSerie& operator=(CXGraphDataSerie&& other) noexcept;
-    ~CXGraphDataSerie() override;
-
+// What a curve is made of. Copying this shares the array.
+struct TCurveFields {
     TDataPoint* m_pData = nullptr;
     int m_nCount = 0;
     int m_nReserved1 = 0;
@@ -46,6 +36,20 @@ public:
     unsigned short m_nFillCurve = 1;  // partner of the fill; 65535 for the plot's bottom edge
     std::vector<TSegment> m_Segments; // on screen after the last Draw; what the mouse can hit
     CPolynomialSolver m_Solver;       // the last polynomial fit
+};
+
+class CXGraphDataSerie : public CXGraphObject, public TCurveFields
+{
+    DECLARE_SERIAL(CXGraphDataSerie)
+
+public:
+    CXGraphDataSerie() = default;
+    // With m_bAutoDelete the copy has an array of its own, else it shares the pointer.
+    CXGraphDataSerie(const CXGraphDataSerie& other);
+    CXGraphDataSerie(CXGraphDataSerie&& other) noexcept;
+    CXGraphDataSerie& operator=(const CXGraphDataSerie& other);
+    CXGraphDataSerie& operator=(CXGraphDataSerie&& other) noexcept;
+    ~CXGraphDataSerie() override;
 
     static constexpr unsigned short kFillToBottom = 65535;
 
@@ -58,6 +62,12 @@ public:
     // Takes the caller's array without copying it; with bAutoDelete it is freed with the
     // curve. A private copy held before is freed, a caller's array never.
     void ReplaceData(TDataPoint* pData, int nCount, bool bAutoDelete) noexcept;
+
+    // The points; none where the pointer is null.
+    [[nodiscard]] std::span<const TDataPoint> Points() const noexcept;
+    // Whether x is known to be a number everywhere and never to fall. Known of the curve's
+    // private copy alone: nobody else can write to it.
+    [[nodiscard]] bool IsAscending() const noexcept;
 
     void SetFillBeneath(bool bValue, int nValue) noexcept;
     void AddSegment(CPoint from, CPoint to);
@@ -72,10 +82,15 @@ public:
     void DrawMarkers(CDCEx* pDC);
 
 private:
-    // What is known of an array that nobody else can write to.
-    bool m_bPrivateCopy = false; // m_pData was made by this curve
-    bool m_bAscending = false;   // x never falls and is always a number; false while unknown
-
+    void DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon);
+    void DrawFill(CDCEx* pDC, std::vector<TPoint>& polygon);
+    void AppendPartner(std::vector<TPoint>& polygon, int nReach) const;
+    [[nodiscard]] int PenReach() const noexcept;
+    void StoreFields(CArchive& ar) const;
+    void LoadFields(CArchive& ar);
+    void Adopt(TDataPoint* pCopy, int nCount) noexcept;
     void FreeData() noexcept;
-    void CopyLooks(const CXGraphDataSerie& other);
+
+    const TDataPoint* m_pPrivateCopy = nullptr; // the array that this curve made, if m_pData is it
+    bool m_bAscending = false;                  // of the private copy
 };

@@ -1,0 +1,177 @@
+#include "objects/AxisPainter.h"
+
+#include "base/Trunc.h"
+#include "draw/Selectors.h"
+#include "graph/XGraph.h"
+
+namespace
+{
+
+constexpr COLORREF kWhite = 0xFFFFFF;
+constexpr int kHalfStrip = 5; // of an axis's rectangle to each side of its line
+
+} // namespace
+
+int AxisPainting::PenStyle(UINT nStyle) noexcept
+{
+    return nStyle <= PS_INSIDEFRAME ? static_cast<int>(nStyle) : PS_SOLID;
+}
+
+CAxisCanvas::CAxisCanvas(const CXGraphAxis& axis, CDCEx* pDC) : m_pDC(pDC)
+{
+    if (!axis.m_bVisible) {
+        m_hidden.emplace();
+        m_hidden->CreateCompatibleDC(pDC);
+    }
+}
+
+CAxisPainter::CAxisPainter(CXGraphAxis& axis, CDCEx* pDC)
+    : m_axis(axis), m_pDC(pDC), m_rcPlot(axis.PlotRect())
+{
+}
+
+void CAxisPainter::MeasureMargins()
+{
+    const bool bVertical = m_axis.IsVertical();
+    m_axis.m_fEndMargin = (bVertical ? 2.0 : 4.0) * m_axis.m_nArcSize;
+    m_axis.m_fKeySpace = m_axis.DrawCurveKeys(m_pDC, false);
+    if (!m_axis.m_cLabel.IsEmpty()) {
+        const CSize title = m_axis.GetTitleSize(m_pDC);
+        m_axis.m_fEndMargin += bVertical ? title.cy : title.cx;
+    }
+    m_nFarEnd = bVertical ? Trunc(m_axis.m_rcArea.top + m_axis.m_fKeySpace)
+                          : Trunc(m_rcPlot.right - m_axis.m_fKeySpace);
+}
+
+void CAxisPainter::DrawBackground(bool bMarkers)
+{
+    m_axis.DrawColorRanges(m_pDC);
+    if (bMarkers)
+        m_axis.DrawAxisMarkers(m_pDC);
+    m_axis.m_fKeySpace = m_axis.DrawCurveKeys(m_pDC, true);
+    m_pDC->SetBkColor(m_pDC->m_bMono || m_axis.m_pGraph == nullptr ? kWhite
+                                                                   : m_axis.m_pGraph->m_crGraphColor);
+    m_pDC->SetBkMode(OPAQUE);
+}
+
+void CAxisPainter::DrawTitle()
+{
+    if (m_axis.m_cLabel.IsEmpty())
+        return;
+    const CSize size = m_axis.GetTitleSize(m_pDC);
+    const CFontSelector font(&m_axis.m_TitleFont, m_pDC, true);
+    const int nTick = m_axis.m_nTickSize;
+    if (!m_axis.IsVertical()) {
+        m_axis.m_fEndMargin += size.cx;
+        const int nTop = Wrap::Add(nTick, m_axis.m_nOriginY);
+        CRect rcTitle(Wrap::Subtract(m_nFarEnd, size.cx), nTop, m_nFarEnd, Wrap::Add(nTop, size.cy));
+        m_pDC->DrawText(m_axis.m_cLabel, &rcTitle, DT_LEFT);
+        return;
+    }
+    m_axis.m_fEndMargin += size.cy;
+    const bool bLeft = m_axis.m_Placement == apLeft;
+    const int nNear =
+        bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick) : Wrap::Add(nTick, m_axis.m_nOriginX);
+    CRect rcTitle(nNear, m_nFarEnd, nNear, Wrap::Add(m_nFarEnd, size.cy));
+    if (bLeft)
+        rcTitle.left = Wrap::Subtract(nNear, size.cx);
+    else
+        rcTitle.right = Wrap::Add(nNear, size.cx);
+    m_pDC->DrawText(m_axis.m_cLabel, &rcTitle, bLeft ? DT_RIGHT : DT_LEFT);
+}
+
+// A side that painting hasn't settled draws no ticks.
+bool CAxisPainter::HasTicks() const
+{
+    return !m_axis.IsVertical() || m_axis.m_Placement == apLeft || m_axis.m_Placement == apRight;
+}
+
+void CAxisPainter::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
+{
+    if (!HasTicks())
+        return;
+    // All labels are measured unscaled before the first is drawn scaled: one selection each.
+    std::vector<TLabel> labels(ticks.size());
+    {
+        const CFontSelector font(&m_axis.m_LabelFont, m_pDC, false);
+        for (std::size_t i = 0; i < ticks.size(); ++i) {
+            if (ticks[i].bLabel)
+                labels[i] = Measure(ticks[i]);
+        }
+    }
+    const CFontSelector font(&m_axis.m_LabelFont, m_pDC, true);
+    const CPenSelector pen(m_axis.m_crGridColor, 1, m_pDC, AxisPainting::PenStyle(m_axis.m_nGridStyle));
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        if (ticks[i].bLabel)
+            DrawLabel(ticks[i], labels[i]);
+        const int nOldMode = bClearGaps ? m_pDC->SetBkMode(TRANSPARENT) : 0;
+        DrawGridLine(ticks[i].fPlace);
+        if (bClearGaps)
+            m_pDC->SetBkMode(nOldMode);
+    }
+}
+
+CAxisPainter::TLabel CAxisPainter::Measure(const TTick& tick) const
+{
+    CString cText = m_axis.FormatValue(tick.fValue);
+    const CSize size = m_pDC->GetTextExtent(cText);
+    return {std::move(cText), size};
+}
+
+void CAxisPainter::DrawLabel(const TTick& tick, const TLabel& label)
+{
+    const int nTick = m_axis.m_nTickSize;
+    if (!m_axis.IsVertical()) {
+        const int nHalf = label.size.cx / 2;
+        const int nTop = Wrap::Add(nTick, m_axis.m_nOriginY);
+        CRect rcLabel(Trunc(tick.fPlace - nHalf), nTop, Trunc(tick.fPlace + nHalf),
+                      Wrap::Add(nTop, label.size.cy));
+        m_pDC->DrawText(label.cText, &rcLabel, DT_CENTER);
+        return;
+    }
+    const int nHalf = label.size.cy / 2;
+    const bool bLeft = m_axis.m_Placement == apLeft;
+    const int nNear =
+        bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick) : Wrap::Add(m_axis.m_nOriginX, nTick);
+    CRect rcLabel(nNear, Trunc(tick.fPlace - nHalf), nNear, Trunc(tick.fPlace + nHalf));
+    if (bLeft)
+        rcLabel.left = Wrap::Subtract(nNear, label.size.cx);
+    else
+        rcLabel.right = Wrap::Add(nNear, label.size.cx);
+    m_pDC->DrawText(label.cText, &rcLabel, bLeft ? DT_RIGHT : DT_LEFT);
+}
+
+void CAxisPainter::DrawGridLine(double fPlace)
+{
+    const int nPlace = Trunc(fPlace);
+    const int nTick = m_axis.m_nTickSize;
+    if (!m_axis.IsVertical()) {
+        const bool bTickOnly = !m_axis.m_bShowGrid || nPlace == m_axis.m_nOriginX;
+        m_pDC->MoveTo(nPlace, Wrap::Add(m_axis.m_nOriginY, nTick));
+        m_pDC->LineTo(nPlace, bTickOnly ? m_axis.m_nOriginY : m_axis.m_rcArea.top);
+        return;
+    }
+    const bool bLeft = m_axis.m_Placement == apLeft;
+    const bool bTickOnly = !m_axis.m_bShowGrid || nPlace == m_axis.m_nOriginY;
+    m_pDC->MoveTo(bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick) : Wrap::Add(m_axis.m_nOriginX, nTick),
+                  nPlace);
+    m_pDC->LineTo(bTickOnly ? m_axis.m_nOriginX : bLeft ? m_rcPlot.right : m_rcPlot.left, nPlace);
+}
+
+void CAxisPainter::DrawLine()
+{
+    const bool bVertical = m_axis.IsVertical();
+    const CPoint ptOrigin(m_axis.m_nOriginX, m_axis.m_nOriginY);
+    const CPoint ptEnd = bVertical ? CPoint(ptOrigin.x, m_nFarEnd) : CPoint(m_nFarEnd, ptOrigin.y);
+    {
+        const CPenSelector pen(m_axis.m_crColor, 1, m_pDC, PS_SOLID);
+        m_pDC->MoveTo(ptOrigin);
+        m_pDC->LineTo(ptEnd);
+        m_axis.DrawAxisArrow(m_pDC, ptEnd, bVertical ? 1 : 2, m_axis.m_nArcSize);
+    }
+    m_axis.m_rcObject = bVertical
+                            ? CRect(ptEnd.x - kHalfStrip, ptEnd.y, ptEnd.x + kHalfStrip, ptOrigin.y)
+                            : CRect(ptOrigin.x, ptEnd.y - kHalfStrip, ptEnd.x, ptEnd.y + kHalfStrip);
+    if (m_axis.m_bSelected)
+        m_pDC->DrawFocusRect(&m_axis.m_rcObject);
+}
