@@ -14,7 +14,7 @@ constinit HandleTable<CDC> g_DCTable;
 
 // Frees the temporary contexts when the module ends.
 struct TDCTableEnd {
-    ~TDCTableEnd() { g_DCTable.DeleteTemporaries(); }
+    ~TDCTableEnd() { g_DCTable.DeleteTemporaries(0); }
 } g_DCTableEnd;
 
 bool IsPrinterDC(HDC hDC)
@@ -44,7 +44,7 @@ CDC* CDC::FromHandle(HDC hDC)
 
 void CDC::DeleteTempMap() noexcept
 {
-    g_DCTable.DeleteTemporaries();
+    g_DCTable.DeleteTemporaries(::GetCurrentThreadId());
 }
 
 BOOL CDC::Attach(HDC hDC)

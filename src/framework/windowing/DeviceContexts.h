@@ -31,7 +31,7 @@ public:
     [[nodiscard]] BOOL IsPrinting() const noexcept { return m_bPrinting; }
     // The CDC attached to the handle last, else a temporary one that owns nothing.
     static CDC* FromHandle(HDC hDC);
-    // Frees the temporary contexts; nobody may hold one then.
+    // Frees the temporary contexts of this thread; nobody may hold one then.
     static void DeleteTempMap() noexcept;
 
     // Both handles become hDC. FALSE for null, with nothing changed.

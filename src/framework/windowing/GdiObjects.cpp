@@ -17,7 +17,7 @@ constinit HandleTable<CGdiObject> g_GdiTable;
 
 // Frees the temporary objects when the module ends.
 struct TGdiTableEnd {
-    ~TGdiTableEnd() { g_GdiTable.DeleteTemporaries(); }
+    ~TGdiTableEnd() { g_GdiTable.DeleteTemporaries(0); }
 } g_GdiTableEnd;
 
 template <class TClass> TClass* FindGdiObject(HGDIOBJ handle)

@@ -1,8 +1,8 @@
 #pragma once
 // Finds the object of a handle. Owners enter themselves; for a handle without an owner a
-// temporary object is made that lives until DeleteTemporaries. The table is a fixed array of
-// chains through the objects themselves: entering an owner allocates nothing, and objects of
-// static storage may leave it at any time of the module's end.
+// temporary object is made for the calling thread, which lives until DeleteTemporaries. The table is a
+// fixed array of chains through the objects themselves: entering an owner allocates nothing, and objects
+// of static storage may leave it at any time of the module's end.
 //
 // TObject has a member HandleTableLink<TObject> m_Link and is a friend.
 
@@ -14,7 +14,7 @@
 template <class TObject> struct HandleTableLink {
     TObject* next = nullptr;
     void* handle = nullptr; // null: not in the table
-    bool temporary = false;
+    DWORD thread = 0;       // whose temporary object it is; 0: an owner
 };
 
 template <class TObject> class HandleTable
@@ -23,7 +23,7 @@ public:
     void Enter(TObject* object, void* handle) noexcept
     {
         const Lock lock(m_Lock);
-        EnterLocked(object, handle, false);
+        EnterLocked(object, handle, 0);
     }
 
     void Leave(TObject* object) noexcept
@@ -48,31 +48,35 @@ public:
         if (!handle)
             return nullptr;
         const Lock lock(m_Lock);
+        const DWORD thread = GetCurrentThreadId();
         TClass* temporary = nullptr;
         for (TObject* object = Chain(handle); object; object = object->m_Link.next) {
-            if (object->m_Link.handle != handle)
+            const HandleTableLink<TObject>& link = object->m_Link;
+            if (link.handle != handle || (link.thread != 0 && link.thread != thread))
                 continue;
             TClass* found = dynamic_cast<TClass*>(object);
-            if (found && !object->m_Link.temporary)
+            if (found && link.thread == 0)
                 return found;
-            if (found && !temporary)
+            if (found)
                 temporary = found;
         }
         if (temporary)
             return temporary;
         TClass* made = make();
-        EnterLocked(made, handle, true);
+        EnterLocked(made, handle, thread);
         return made;
     }
 
-    // The objects' destructors must not touch their handles nor the table.
-    void DeleteTemporaries() noexcept
+    // Those of one thread, or all for 0. They leave the table before they are destroyed, so a
+    // destructor can tell by its empty link that the handle isn't its own.
+    void DeleteTemporaries(DWORD thread) noexcept
     {
         const Lock lock(m_Lock);
         for (TObject*& chain : m_Chains) {
             for (TObject** place = &chain; *place;) {
                 TObject* object = *place;
-                if (!object->m_Link.temporary) {
+                const DWORD owner = object->m_Link.thread;
+                if (owner == 0 || (thread != 0 && owner != thread)) {
                     place = &object->m_Link.next;
                     continue;
                 }
@@ -104,10 +108,10 @@ private:
         return m_Chains[(bits ^ (bits >> 8)) % ChainCount];
     }
 
-    void EnterLocked(TObject* object, void* handle, bool temporary) noexcept
+    void EnterLocked(TObject* object, void* handle, DWORD thread) noexcept
     {
         TObject*& chain = Chain(handle);
-        object->m_Link = {chain, handle, temporary};
+        object->m_Link = {chain, handle, thread};
         chain = object;
     }
 

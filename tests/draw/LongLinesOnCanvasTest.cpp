@@ -1,0 +1,126 @@
+#include "Canvas.h"
+#include "Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace
+{
+constexpr COLORREF Black = RGB(0, 0, 0);
+constexpr COLORREF White = RGB(255, 255, 255);
+} // namespace
+
+TEST(LongLinesOnCanvas, ALineToTheFarCornerKeepsItsSlope)
+{
+    Canvas canvas(100, 100);
+
+    canvas.dc.MoveTo(10, 50);
+    canvas.dc.LineTo(10 + 2000000000, 50 + 1000000000);
+
+    EXPECT_EQ(canvas.At(10, 50), Black);
+    EXPECT_EQ(canvas.At(50, 70), Black);
+    EXPECT_EQ(canvas.At(90, 90), Black);
+    EXPECT_EQ(canvas.At(50, 72), White);
+    EXPECT_EQ(canvas.At(50, 68), White);
+}
+
+TEST(LongLinesOnCanvas, ALineBackFromFarAwayKeepsItsPlace)
+{
+    Canvas canvas(100, 100);
+
+    canvas.dc.MoveTo(INT_MIN, INT_MIN);
+    canvas.dc.LineTo(90, 90);
+
+    EXPECT_EQ(canvas.At(10, 10), Black);
+    EXPECT_EQ(canvas.At(89, 89), Black);
+    EXPECT_EQ(canvas.At(90, 90), White) << "the end pixel is left out";
+    EXPECT_EQ(canvas.At(50, 53), White);
+}
+
+TEST(LongLinesOnCanvas, ALineThroughWithBothEndsFarAwayIsSeen)
+{
+    Canvas canvas(100, 100);
+
+    canvas.dc.MoveTo(-1000000000, 1000000030);
+    canvas.dc.LineTo(1000000000, -999999970);
+
+    EXPECT_EQ(canvas.At(10, 20), Black);
+    EXPECT_EQ(canvas.At(10, 24), White);
+}
+
+TEST(LongLinesOnCanvas, ThePenGoesOnFromTheTrueEnd)
+{
+    Canvas canvas(100, 100);
+
+    canvas.dc.MoveTo(0, 0);
+    canvas.dc.LineTo(2000000000, 1000000000);
+
+    EXPECT_EQ(canvas.dc.GetCurrentPosition(), CPoint(2000000000, 1000000000));
+}
+
+TEST(LongLinesOnCanvas, ALineWhollyOutsideDrawsNothing)
+{
+    Recording recording;
+
+    recording.dc.MoveTo(INT_MAX, 0);
+    recording.dc.LineTo(INT_MAX, 500);
+
+    for (const std::string& line : recording.Lines())
+        EXPECT_EQ(line.find("LineTo"), std::string::npos) << line;
+}
+
+TEST(LongLinesOnCanvas, TheDeviceSeesNothingBeyondTheLimit)
+{
+    Recording recording;
+    const POINT wedge[] = {{0, 0}, {2000000000, 1000000000}, {2000000000, -500000000}};
+
+    recording.dc.MoveTo(5, 5);
+    recording.dc.LineTo(INT_MIN, 5);
+    recording.dc.Polygon(wedge, 3);
+
+    const std::vector<std::string> lines = recording.Lines();
+    EXPECT_EQ(lines[1], "MoveTo (5,5)");
+    EXPECT_EQ(lines[2], "LineTo (-67108864,5)");
+    EXPECT_EQ(lines[4], "Polygon (67108864,-16777216) (0,0) (67108864,33554432)");
+}
+
+TEST(LongLinesOnCanvas, AProductBeyondAnIntKeepsItsSlopeWhileScaling)
+{
+    Canvas canvas(100, 100);
+    ScaleBy(canvas.dc, 6.25f, 6.25f);
+
+    canvas.dc.MoveTo(0, 0);
+    canvas.dc.LineTo(2000000000, 1000000000);
+    EXPECT_EQ(canvas.At(60, 30), Black);
+    EXPECT_EQ(canvas.At(60, 34), White);
+
+    canvas.dc.LineTo(0, 8); // and back from there, to (0, 50): the way runs at slope 1/2 less a hair
+    EXPECT_EQ(canvas.At(60, 80), Black);
+}
+
+TEST(LongLinesOnCanvas, ALongWedgeIsFilledWhereItIsSeen)
+{
+    Canvas canvas(100, 100);
+    const POINT wedge[] = {{10, 50}, {2000000010, 1000000050}, {2000000010, -499999950}};
+    ::SelectObject(canvas.dc, ::GetStockObject(BLACK_BRUSH));
+
+    canvas.dc.Polygon(wedge, 3);
+
+    EXPECT_EQ(canvas.At(50, 68), Black);
+    EXPECT_EQ(canvas.At(50, 73), White);
+    EXPECT_EQ(canvas.At(50, 42), Black);
+    EXPECT_EQ(canvas.At(50, 37), White);
+    EXPECT_EQ(canvas.At(5, 50), White);
+}
+
+TEST(LongLinesOnCanvas, APolygonAroundEverythingFillsTheCanvas)
+{
+    Canvas canvas(30, 30);
+    const POINT all[] = {{INT_MIN, INT_MIN}, {INT_MAX, INT_MIN}, {INT_MAX, INT_MAX}, {INT_MIN, INT_MAX}};
+    ::SelectObject(canvas.dc, ::GetStockObject(BLACK_BRUSH));
+
+    canvas.dc.Polygon(all, 4);
+
+    EXPECT_EQ(canvas.Picture(), std::vector<std::string>(30, std::string(30, '#')));
+}
