@@ -193,8 +193,12 @@ private:
             }
         }
         std::erase_if(m_plan.curves, [](const Curve& curve) { return curve.points.empty(); });
-        if (m_plan.curves.empty()) {
-            Refuse(u"no row has values to plot");
+        for (int axis = 0; axis < static_cast<int>(m_plan.y.size()); ++axis) {
+            const bool used = std::any_of(m_plan.curves.begin(), m_plan.curves.end(),
+                                          [&](const Curve& curve) { return curve.yAxis == axis; });
+            if (!used) {
+                Refuse(u"no row has a value to plot in column " + Quote(FirstOn(axis)->name));
+            }
         }
     }
 

@@ -1,0 +1,4 @@
+#pragma once
+// Numbers of the program's resources. Manifest 1 is in force from the start; the server's is
+// switched on when the DLL beside the program is wanted.
+#define IDR_SERVER_MANIFEST 10
