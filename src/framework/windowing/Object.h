@@ -99,7 +99,7 @@ public:                                                                         
     }                                                                                                   \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, schema, class_name::CreateObject)           \
     static const AFX_CLASSINIT init_##class_name(RUNTIME_CLASS(class_name));                            \
-    CArchive& operator>>(CArchive& ar, class_name*& pOb)                                                \
+    [[maybe_unused]] CArchive& operator>>(CArchive& ar, class_name*& pOb)                               \
     {                                                                                                   \
         pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name)));                   \
         return ar;                                                                                      \
