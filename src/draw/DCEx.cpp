@@ -33,6 +33,37 @@ private:
     HDC m_hDC;
 };
 
+bool IsRecording(HDC hDC) noexcept
+{
+    const DWORD type = ::GetObjectType(hDC);
+    return type == OBJ_ENHMETADC || type == OBJ_METADC;
+}
+
+constexpr bool Within(POINT point, LONG limit) noexcept
+{
+    return point.x >= -limit && point.x <= limit && point.y >= -limit && point.y <= limit;
+}
+
+// Of the selected pen, in pixels; 0 for one that has no simple width.
+int PenWidth(HDC hDC) noexcept
+{
+    LOGPEN pen{};
+    ::GetObject(::GetCurrentObject(hDC, OBJ_PEN), sizeof pen, &pen);
+    return pen.lopnWidth.x;
+}
+
+LongLines::TArea VisibleArea(HDC hDC, int room) noexcept
+{
+    CRect visible;
+    return ::GetClipBox(hDC, &visible) == ERROR ? LongLines::TArea{}
+                                                : LongLines::AreaAround(visible, room);
+}
+
+// Beside what is visible of a polygon: edges that are cut at both ends move by half a pixel
+// at most, others by much less.
+constexpr int PolygonRoom = 1 << 15;
+constexpr int WideLineRoom = 1 << 10;
+
 LongLines::TVertex ToVertex(CPoint point) noexcept
 {
     return {static_cast<double>(point.x), static_cast<double>(point.y)};
@@ -91,10 +122,22 @@ BOOL CDCEx::LineTo(int x, int y)
         ScalePoint(to);
 
     const CPoint from = GetCurrentPosition();
-    if (!LongLines::IsShort(from) || !LongLines::IsShort(to))
-        return LongLineTo(from, unscaled, to);
+    if (!Within(from, LongLines::TallWideLine) || !Within(to, LongLines::TallWideLine))
+        return FarLineTo(from, unscaled, to);
 
     m_ptUnscaledPen = unscaled;
+    return CDC::LineTo(to.x, to.y);
+}
+
+BOOL CDCEx::FarLineTo(CPoint from, CPoint unscaledTo, CPoint to)
+{
+    const int width = IsRecording(m_hDC) ? 0 : PenWidth(m_hDC);
+    if (width > 1)
+        return LongLineTo(from, unscaledTo, to, VisibleArea(m_hDC, WideLineRoom + width));
+    if (!LongLines::IsShort(from) || !LongLines::IsShort(to))
+        return LongLineTo(from, unscaledTo, to, {});
+
+    m_ptUnscaledPen = unscaledTo;
     return CDC::LineTo(to.x, to.y);
 }
 
@@ -106,7 +149,7 @@ LongLines::TVertex CDCEx::Vertex(CPoint unscaled, CPoint scaled) const noexcept
     return {static_cast<double>(unscaled.x) * m_fScaleX, static_cast<double>(unscaled.y) * m_fScaleY};
 }
 
-BOOL CDCEx::LongLineTo(CPoint from, CPoint unscaledTo, CPoint to)
+BOOL CDCEx::LongLineTo(CPoint from, CPoint unscaledTo, CPoint to, const LongLines::TArea& area)
 {
     // The unscaled start counts only if nobody has moved the pen past this class since.
     CPoint pen = m_ptUnscaledPen;
@@ -116,7 +159,7 @@ BOOL CDCEx::LongLineTo(CPoint from, CPoint unscaledTo, CPoint to)
     LongLines::TVertex end = Vertex(unscaledTo, to);
 
     BOOL drawn = TRUE;
-    if (LongLines::CutSegment(start, end)) {
+    if (LongLines::CutSegment(start, end, area)) {
         const CPoint cutFrom = LongLines::ToPixel(start);
         const CPoint cutTo = LongLines::ToPixel(end);
         CDC::MoveTo(cutFrom.x, cutFrom.y);
@@ -171,13 +214,17 @@ BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
             ScalePoint(point);
         points = scaled.data();
     }
-    const bool isShort = std::all_of(points, points + nCount, [](const POINT& point) {
-        return LongLines::IsShort(point.x, point.y);
-    });
-    return isShort ? CDC::Polygon(points, nCount) : LongPolygon(lpPoints, nCount);
+    // A recording has no clip box to cut to: it keeps every polygon that the platform can take.
+    const bool recording = IsRecording(m_hDC);
+    const LONG limit = recording ? LongLines::Limit : LongLines::TallPolygon;
+    if (std::all_of(points, points + nCount,
+                    [limit](const POINT& point) { return Within(point, limit); }))
+        return CDC::Polygon(points, nCount);
+    return LongPolygon(lpPoints, nCount,
+                       recording ? LongLines::TArea{} : VisibleArea(m_hDC, PolygonRoom));
 }
 
-BOOL CDCEx::LongPolygon(const POINT* lpPoints, int nCount)
+BOOL CDCEx::LongPolygon(const POINT* lpPoints, int nCount, const LongLines::TArea& area)
 {
     std::vector<LongLines::TVertex> vertices;
     vertices.reserve(static_cast<size_t>(nCount));
@@ -187,7 +234,7 @@ BOOL CDCEx::LongPolygon(const POINT* lpPoints, int nCount)
             ScalePoint(scaled);
         vertices.push_back(Vertex(*point, scaled));
     }
-    const std::vector<TPoint> pixels = LongLines::CutPolygon(vertices);
+    const std::vector<TPoint> pixels = LongLines::CutPolygon(vertices, area);
     if (pixels.size() < 2)
         return TRUE; // wholly outside
     const std::vector<CPoint> points(pixels.begin(), pixels.end());

@@ -5,7 +5,9 @@
 // m_fScaleX and m_fScaleY, in float, truncated toward zero; what CDC itself offers beyond
 // them (BitBlt, StretchBlt, TextOut ...) takes the device's own units.
 // Lines and polygons that reach beyond +-2^26 are cut along their own lines first
-// (LongLines.h), so callers may pass any pixel that a value maps to.
+// (LongLines.h), so callers may pass any pixel that a value maps to. Except in a recording,
+// polygons beyond +-2^20 and lines of wide pens beyond +-2^15 are cut closer, to the clip box
+// with some room around it: the platform's cost grows with the rows that they cover.
 
 #include "draw/LongLines.h"
 #include "framework/windowing/DeviceContexts.h"
@@ -74,8 +76,9 @@ public:
     int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) override;
 
 private:
-    BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to);
-    BOOL LongPolygon(const POINT* lpPoints, int nCount);
+    BOOL FarLineTo(CPoint from, CPoint unscaledTo, CPoint to);
+    BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to, const LongLines::TArea& area);
+    BOOL LongPolygon(const POINT* lpPoints, int nCount, const LongLines::TArea& area);
     [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;
 
     // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.

@@ -1,7 +1,6 @@
 #include "draw/LongLines.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -19,18 +18,19 @@ bool IsUsable(TVertex vertex)
     return std::fabs(vertex.x) <= Farthest && std::fabs(vertex.y) <= Farthest;
 }
 
-// One of the four bounds, as the half plane in which sign * coordinate <= Edge.
+// One side of an area, as the half plane in which sign * coordinate <= limit.
 struct TBound {
     double TVertex::*coordinate;
     double TVertex::*other;
     double sign;
+    double limit;
 
-    bool Holds(TVertex vertex) const { return sign * (vertex.*coordinate) <= Edge; }
+    bool Holds(TVertex vertex) const { return sign * (vertex.*coordinate) <= limit; }
 
     // Where the line from inside to outside meets the bound.
     TVertex Cut(TVertex inside, TVertex outside) const
     {
-        const double bound = sign * Edge;
+        const double bound = sign * limit;
         const double part = (bound - inside.*coordinate) / (outside.*coordinate - inside.*coordinate);
         TVertex cut;
         cut.*coordinate = bound;
@@ -38,11 +38,6 @@ struct TBound {
         return cut;
     }
 };
-
-constexpr std::array<TBound, 4> Bounds{{{&TVertex::x, &TVertex::y, -1.0},
-                                        {&TVertex::x, &TVertex::y, 1.0},
-                                        {&TVertex::y, &TVertex::x, -1.0},
-                                        {&TVertex::y, &TVertex::x, 1.0}}};
 
 // The parameters between which the segment lies inside the square.
 struct TSpan {
@@ -62,11 +57,6 @@ struct TSpan {
         return enter <= leave;
     }
 };
-
-TVertex At(TVertex from, double stepX, double stepY, double t)
-{
-    return {std::clamp(from.x + t * stepX, -Edge, Edge), std::clamp(from.y + t * stepY, -Edge, Edge)};
-}
 
 std::vector<TVertex> CutBy(const TBound& bound, const std::vector<TVertex>& polygon)
 {
@@ -97,7 +87,7 @@ bool AreShort(std::span<const TPoint> points) noexcept
     return std::all_of(points.begin(), points.end(), [](TPoint point) { return IsShort(point); });
 }
 
-bool CutSegment(TVertex& from, TVertex& to) noexcept
+bool CutSegment(TVertex& from, TVertex& to, const TArea& area) noexcept
 {
     if (!IsUsable(from) || !IsUsable(to))
         return false;
@@ -105,15 +95,19 @@ bool CutSegment(TVertex& from, TVertex& to) noexcept
     const double stepX = to.x - from.x;
     const double stepY = to.y - from.y;
     TSpan span;
-    if (!span.Narrow(stepX, Edge - from.x) || !span.Narrow(-stepX, from.x + Edge) ||
-        !span.Narrow(stepY, Edge - from.y) || !span.Narrow(-stepY, from.y + Edge))
+    if (!span.Narrow(stepX, area.right - from.x) || !span.Narrow(-stepX, from.x - area.left) ||
+        !span.Narrow(stepY, area.bottom - from.y) || !span.Narrow(-stepY, from.y - area.top))
         return false;
 
     const TVertex start = from;
+    const auto at = [&](double part) {
+        return TVertex{std::clamp(start.x + part * stepX, area.left, area.right),
+                       std::clamp(start.y + part * stepY, area.top, area.bottom)};
+    };
     if (span.enter > 0.0)
-        from = At(start, stepX, stepY, span.enter);
+        from = at(span.enter);
     if (span.leave < 1.0)
-        to = At(start, stepX, stepY, span.leave);
+        to = at(span.leave);
     return true;
 }
 
@@ -128,12 +122,24 @@ bool CutSegment(TPoint& from, TPoint& to) noexcept
     return true;
 }
 
-std::vector<TPoint> CutPolygon(std::span<const TVertex> polygon)
+TArea AreaAround(const TRect& visible, std::int32_t room) noexcept
+{
+    const auto inSquare = [](double coordinate) { return std::clamp(coordinate, -Edge, Edge); };
+    const double margin = room;
+    return {inSquare(visible.left - margin), inSquare(visible.top - margin),
+            inSquare(visible.right + margin), inSquare(visible.bottom + margin)};
+}
+
+std::vector<TPoint> CutPolygon(std::span<const TVertex> polygon, const TArea& area)
 {
     std::vector<TVertex> kept;
     kept.reserve(polygon.size());
     std::copy_if(polygon.begin(), polygon.end(), std::back_inserter(kept), IsUsable);
-    for (const TBound& bound : Bounds)
+    const TBound bounds[] = {{&TVertex::x, &TVertex::y, -1.0, -area.left},
+                             {&TVertex::x, &TVertex::y, 1.0, area.right},
+                             {&TVertex::y, &TVertex::x, -1.0, -area.top},
+                             {&TVertex::y, &TVertex::x, 1.0, area.bottom}};
+    for (const TBound& bound : bounds)
         kept = CutBy(bound, kept);
 
     std::vector<TPoint> pixels(kept.size());
@@ -141,12 +147,12 @@ std::vector<TPoint> CutPolygon(std::span<const TVertex> polygon)
     return pixels;
 }
 
-std::vector<TPoint> CutPolygon(std::span<const TPoint> polygon)
+std::vector<TPoint> CutPolygon(std::span<const TPoint> polygon, const TArea& area)
 {
     std::vector<TVertex> vertices(polygon.size());
     std::transform(polygon.begin(), polygon.end(), vertices.begin(), [](TPoint point) {
         return TVertex{static_cast<double>(point.x), static_cast<double>(point.y)};
     });
-    return CutPolygon(vertices);
+    return CutPolygon(vertices, area);
 }
 } // namespace LongLines

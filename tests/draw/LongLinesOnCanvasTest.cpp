@@ -1,5 +1,6 @@
 #include "Canvas.h"
 #include "Recording.h"
+#include "draw/Selectors.h"
 
 #include <gtest/gtest.h>
 
@@ -112,6 +113,22 @@ TEST(LongLinesOnCanvas, ALongWedgeIsFilledWhereItIsSeen)
     EXPECT_EQ(canvas.At(50, 42), Black);
     EXPECT_EQ(canvas.At(50, 37), White);
     EXPECT_EQ(canvas.At(5, 50), White);
+}
+
+TEST(LongLinesOnCanvas, AWidePenKeepsTheSlopeToo)
+{
+    Canvas canvas(100, 100);
+    const CPenSelector pen(Black, 5, &canvas.dc);
+
+    canvas.dc.MoveTo(-1000000, -2000000);
+    canvas.dc.LineTo(1000040, 2000000); // through (20, 0), two down in one right
+    EXPECT_EQ(canvas.dc.GetCurrentPosition(), CPoint(1000040, 2000000));
+
+    for (int y = 0; y < 100; y += 10) {
+        EXPECT_EQ(canvas.At(20 + y / 2, y), Black) << y;
+        EXPECT_EQ(canvas.At(26 + y / 2, y), White) << y;
+        EXPECT_EQ(canvas.At(14 + y / 2, y), White) << y;
+    }
 }
 
 TEST(LongLinesOnCanvas, APolygonAroundEverythingFillsTheCanvas)

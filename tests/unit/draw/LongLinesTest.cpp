@@ -178,6 +178,36 @@ TEST(LongLines, ACutPolygonKeepsItsEdgesOnTheCanvas)
     EXPECT_EQ(cut, expected);
 }
 
+TEST(LongLines, APolygonCanBeCutToTheSurroundingsOfWhatIsVisible)
+{
+    const LongLines::TArea area = LongLines::AreaAround(TRect{0, 0, 800, 600}, 32768);
+    EXPECT_EQ(area.left, -32768.0);
+    EXPECT_EQ(area.bottom, 33368.0);
+    const std::vector<TPoint> wedge{{0, 0}, {1 << 25, 1 << 24}, {1 << 25, -(1 << 23)}};
+
+    const std::vector<TPoint> expected{{33568, -8392}, {0, 0}, {33568, 16784}};
+    EXPECT_EQ(CutPolygon(std::span<const TPoint>(wedge), area), expected);
+}
+
+TEST(LongLines, ASegmentCanBeCutToTheSurroundingsOfWhatIsVisible)
+{
+    TVertex from{0, 0};
+    TVertex to{-4000, 8000};
+
+    ASSERT_TRUE(CutSegment(from, to, LongLines::AreaAround(TRect{0, 0, 800, 600}, 1000)));
+
+    EXPECT_EQ(from, (TVertex{0, 0}));
+    EXPECT_EQ(to, (TVertex{-800, 1600}));
+}
+
+TEST(LongLines, TheSurroundingsStayInTheSquare)
+{
+    const LongLines::TArea area = LongLines::AreaAround(TRect{SmallestInt, 0, LargestInt, 10}, 5);
+
+    EXPECT_EQ(area.left, -double(Limit));
+    EXPECT_EQ(area.right, double(Limit));
+}
+
 TEST(LongLines, APolygonVertexThatIsNotANumberIsLeftOut)
 {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
