@@ -1,6 +1,7 @@
 #!/bin/bash
-# Builds and runs vantoplex-bench.exe: medians, and ratios to the plain loops of the same run.
-#   scripts/bench.sh [ARGUMENTS OF THE PROGRAM]
+# Times whole frames of the XY graph under Wine and prints medians and their ratios to plain
+# loops over the same points (bench/main.cpp tells of the columns). Options go to the program:
+#   scripts/bench.sh --most 1000000 --runs 11
 set -euo pipefail
 cd "$(dirname "$0")/.."
 export VANTOPLEX_BUILD="${VANTOPLEX_BUILD:-$PWD/build}"
