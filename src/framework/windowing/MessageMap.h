@@ -213,8 +213,9 @@ bool Thunk(CCmdTarget* target, const AFX_MSG_ARGS& args)
     {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AFX_MSG_FN(Command, memberFxn)},
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                          \
     {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AFX_MSG_FN(CommandEx, memberFxn)},
+// Codes of notifications are compared by their low halves, which differ.
 #define ON_NOTIFY(code, id, memberFxn)                                                                  \
-    {WM_NOTIFY, static_cast<UINT>(code), id, id, AFX_MSG_FN(Notify, memberFxn)},
+    {WM_NOTIFY, static_cast<WORD>(code), id, id, AFX_MSG_FN(Notify, memberFxn)},
 #define ON_MESSAGE(message, memberFxn) AFX_MSG_ENTRY(message, Message, memberFxn)
 
 #define ON_WM_CREATE() AFX_MSG_ENTRY(WM_CREATE, Create, OnCreate)

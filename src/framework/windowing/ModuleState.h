@@ -98,4 +98,6 @@ private:
     bool m_bValidActCtxCookie = false;
 };
 
-#define AFX_MANAGE_STATE(pModuleState) AFX_MAINTAIN_STATE2 _ctlState(pModuleState)
+#define AFX_STATE_NAME2(line) ctlState##line
+#define AFX_STATE_NAME(line) AFX_STATE_NAME2(line)
+#define AFX_MANAGE_STATE(pModuleState) const AFX_MAINTAIN_STATE2 AFX_STATE_NAME(__LINE__)(pModuleState)
