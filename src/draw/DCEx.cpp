@@ -202,6 +202,25 @@ BOOL CDCEx::Rectangle(int x1, int y1, int x2, int y2)
     return CDC::Rectangle(&rect);
 }
 
+BOOL CDCEx::Polyline(const POINT* lpPoints, int nCount)
+{
+    if (!lpPoints || nCount < 2)
+        return FALSE;
+    const auto isNear = [](const POINT& point) { return Within(point, LongLines::TallWideLine); };
+    if (!m_bScaling && std::all_of(lpPoints, lpPoints + nCount, isNear))
+        return CDC::Polyline(lpPoints, nCount);
+
+    const CPoint position = GetCurrentPosition();
+    const CPoint unscaledPen = m_ptUnscaledPen;
+    MoveTo(lpPoints[0]);
+    BOOL drawn = TRUE;
+    for (int i = 1; i < nCount; ++i)
+        drawn = LineTo(lpPoints[i]) && drawn;
+    CDC::MoveTo(position.x, position.y);
+    m_ptUnscaledPen = unscaledPen;
+    return drawn;
+}
+
 BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
 {
     if (!lpPoints || nCount < 0)

@@ -45,6 +45,8 @@ public:
     {
         return Rectangle(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
     }
+    // As MoveTo and LineTo along the points; the pen stays where it was.
+    BOOL Polyline(const POINT* lpPoints, int nCount);
     // Allocates only when scaling, or for points beyond the limit.
     BOOL Polygon(const POINT* lpPoints, int nCount);
     // The text's height. While scaling a copy of the rectangle is scaled; with DT_CALCRECT

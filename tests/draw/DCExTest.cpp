@@ -100,6 +100,20 @@ TEST(DCEx, EveryWrappedOperationMultipliesItsCoordinates)
                      "BitBlt (2,6) (58,114)", "Fill (2,6) (60,120)", "Fill (2,6) (8,18)"}));
 }
 
+TEST(DCEx, PolylineIsScaledLikeItsLines)
+{
+    Recording recording;
+    ScaleBy(recording.dc, 2.0f, 3.0f);
+    const POINT points[] = {{1, 1}, {2, 1}, {2, 2}};
+
+    recording.dc.Polyline(points, 3);
+
+    const Lines lines = recording.Lines();
+    ASSERT_GE(lines.size(), 3u);
+    EXPECT_EQ(Lines(lines.begin(), lines.begin() + 3),
+              (Lines{"MoveTo (2,3)", "LineTo (4,3)", "LineTo (4,6)"}));
+}
+
 TEST(DCEx, CallersRectanglesStayUnscaled)
 {
     Canvas canvas(40, 40);

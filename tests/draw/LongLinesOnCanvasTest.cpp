@@ -100,6 +100,24 @@ TEST(LongLinesOnCanvas, AProductBeyondAnIntKeepsItsSlopeWhileScaling)
     EXPECT_EQ(canvas.At(60, 80), Black);
 }
 
+TEST(LongLinesOnCanvas, APolylineRunsOnAndLeavesThePenWhereItWas)
+{
+    Canvas canvas(100, 100);
+    const CPenSelector pen(Black, 3, &canvas.dc);
+    canvas.dc.MoveTo(7, 8);
+    const POINT points[] = {{10, 10}, {40, 10}, {2000000040, 1000000010}, {50, 1000000010}, {50, 90}};
+
+    EXPECT_TRUE(canvas.dc.Polyline(points, 5));
+
+    EXPECT_EQ(canvas.At(25, 10), Black);
+    EXPECT_EQ(canvas.At(80, 30), Black);
+    EXPECT_EQ(canvas.At(50, 95), Black);
+    EXPECT_EQ(canvas.At(50, 80), White);
+    EXPECT_EQ(canvas.dc.GetCurrentPosition(), CPoint(7, 8));
+    EXPECT_FALSE(canvas.dc.Polyline(points, 1));
+    EXPECT_FALSE(canvas.dc.Polyline(nullptr, 5));
+}
+
 TEST(LongLinesOnCanvas, ALongWedgeIsFilledWhereItIsSeen)
 {
     Canvas canvas(100, 100);

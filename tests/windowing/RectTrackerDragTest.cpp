@@ -24,6 +24,13 @@ public:
     }
     ~ShownWindow() override { DestroyWindow(); }
 
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        translated += pMsg->message == WM_KEYDOWN ? 1 : 0;
+        return FALSE;
+    }
+    int translated = 0;
+
     std::vector<COLORREF> Pixels()
     {
         CClientDC dc(this);
@@ -48,7 +55,6 @@ public:
     void DrawTrackerRect(LPCRECT lpRect, CWnd* pWndClipTo, CDC* pDC, CWnd* pWnd) override
     {
         outlines.push_back(*lpRect);
-        tracking = tracking || IsTracking();
         finalErase = m_bFinalErase != FALSE;
         CRectTracker::DrawTrackerRect(lpRect, pWndClipTo, pDC, pWnd);
         CClientDC dc(pWnd);
@@ -60,7 +66,6 @@ public:
     std::vector<CRect> outlines;
     std::vector<CRect> changedFrom;
     std::vector<bool> seen;
-    bool tracking = false;
     bool finalErase = false;
 };
 
@@ -71,11 +76,7 @@ protected:
     void Release(int x, int y) { window.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y)); }
     void Key(WPARAM key) { window.PostMessage(WM_KEYDOWN, key, 1); }
 
-    void TearDown() override
-    {
-        EXPECT_EQ(::GetCapture(), nullptr);
-        EXPECT_FALSE(CRectTracker::IsTracking());
-    }
+    void TearDown() override { EXPECT_EQ(::GetCapture(), nullptr); }
 
     ShownWindow window;
     WatchedTracker tracker;
@@ -190,6 +191,21 @@ TEST_F(RectTrackerDrag, OtherKeysDoNothing)
     EXPECT_EQ(tracker.m_rect, CRect(22, 30, 82, 70));
 }
 
+TEST_F(RectTrackerDrag, WindowsDoNotTranslateTheDragsMessages)
+{
+    Key(VK_DELETE);
+    Release(52, 50);
+
+    EXPECT_TRUE(tracker.Track(&window, CPoint(50, 50)));
+    EXPECT_EQ(window.translated, 0);
+
+    Key(VK_DELETE); // to see that they do in any other loop
+    MSG message;
+    while (::PeekMessage(&message, window, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE)) {
+    }
+    EXPECT_EQ(window.translated, 1);
+}
+
 TEST_F(RectTrackerDrag, SomebodyElsesCaptureIsRespected)
 {
     ShownWindow other;
@@ -241,7 +257,6 @@ TEST_F(RectTrackerDrag, TheOutlineIsDrawnAndRemovedInPairs)
     EXPECT_EQ(tracker.outlines, (std::vector<CRect>{first, first, second, second}));
     EXPECT_EQ(tracker.seen, (std::vector<bool>{true, false, true, false}));
     EXPECT_EQ(tracker.changedFrom, (std::vector<CRect>{Start, first}));
-    EXPECT_TRUE(tracker.tracking);
     EXPECT_TRUE(tracker.finalErase);
     EXPECT_EQ(window.Pixels(), before) << "no trace is left";
 }

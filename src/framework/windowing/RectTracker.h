@@ -53,9 +53,6 @@ public:
     // if the point hits nothing, or the drag was cancelled, or ended where it began, and
     // m_rect is then as before. bAllowInvert lets a handle be dragged past the opposite one.
     BOOL Track(CWnd* pWnd, CPoint point, BOOL bAllowInvert = FALSE, CWnd* pWndClipTo = nullptr);
-    // A drag runs on this thread. Whoever sees messages before the drag's loop does must not
-    // destroy the tracker then.
-    [[nodiscard]] static bool IsTracking() noexcept;
     [[nodiscard]] int HitTest(CPoint point) const;
     // The handle as it lies on screen, for a rectangle dragged inside out.
     [[nodiscard]] int NormalizeHit(int nHandle) const;

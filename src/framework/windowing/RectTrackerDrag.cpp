@@ -2,18 +2,23 @@
 
 #include "framework/windowing/DeviceContexts.h"
 #include "framework/windowing/RectTracker.h"
+#include "framework/windowing/ThreadState.h"
 #include "framework/windowing/Window.h"
+
+#include <utility>
 
 namespace
 {
-thread_local int t_drags = 0;
-
-struct TDragMark {
-    TDragMark() { ++t_drags; }
-    ~TDragMark() { --t_drags; }
-    TDragMark(const TDragMark&) = delete;
-    TDragMark& operator=(const TDragMark&) = delete;
-};
+// Fetches without the windows' PreTranslateMessage, as the drag's messages are its own: a key
+// that one of them takes could destroy the object under the tracker.
+bool Fetch(MSG& message)
+{
+    bool& pumping = AfxGetThreadState().bPumping;
+    const bool before = std::exchange(pumping, true);
+    const bool fetched = ::GetMessage(&message, nullptr, 0, 0) > 0;
+    pumping = before;
+    return fetched;
+}
 
 // Gives the capture back on every way out, if it is still ours.
 class CCapture
@@ -63,11 +68,6 @@ struct CRectTracker::TDrag {
     bool outlined = false;
     bool cancelled = false;
 };
-
-bool CRectTracker::IsTracking() noexcept
-{
-    return t_drags != 0;
-}
 
 BOOL CRectTracker::Track(CWnd* pWnd, CPoint point, BOOL bAllowInvert, CWnd* pWndClipTo)
 {
@@ -153,13 +153,12 @@ BOOL CRectTracker::TrackHandle(int nHandle, CWnd* pWnd, CPoint point, CWnd* pWnd
     if (pWndClipTo)
         pWndClipTo->UpdateWindow();
 
-    const TDragMark mark;
     const CCapture capture(*pWnd);
     CDragDC dc(pWndClipTo ? *pWndClipTo : *pWnd);
     TDrag drag{nHandle, pWnd, pWndClipTo, &dc, point, m_rect, m_rect};
     MSG message;
     for (bool over = false; !over;) {
-        if (!::GetMessage(&message, nullptr, 0, 0)) {
+        if (!Fetch(message)) {
             ::PostQuitMessage(static_cast<int>(message.wParam)); // for the loop outside
             drag.cancelled = true;
             break;
