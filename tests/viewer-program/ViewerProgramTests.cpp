@@ -1,0 +1,229 @@
+#include "viewer-program/ViewerRun.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+using ViewerRun::Beside;
+using ViewerRun::Pixels;
+using ViewerRun::Process;
+using ViewerRun::Result;
+using ViewerRun::Run;
+using ViewerRun::TemporaryFile;
+
+namespace
+{
+
+constexpr COLORREF firstCurve = RGB(0x1F, 0x5F, 0xB4);
+constexpr COLORREF secondCurve = RGB(0xD6, 0x27, 0x28);
+
+constexpr std::string_view weather = "date,temp,wind\n"
+                                     "2012-01-01,12.8,4.7\n"
+                                     "2012-01-02,10.6,\n"
+                                     "2012-01-03,11.7,2.3\n"
+                                     "2012-01-04,12.2,4.7\n";
+
+std::wstring Quoted(const std::wstring& path)
+{
+    return L"\"" + path + L"\"";
+}
+
+bool Contains(const std::string& text, std::string_view part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+TEST(ViewerProgram, HelpNamesTheOptionsAndEndsWithZero)
+{
+    const Result result = Run(L"--help");
+
+    EXPECT_EQ(0u, result.exitCode);
+    for (const char* option : {"--x", "--y", "--y2", "--png", "--size", "--registered", "Exit codes"}) {
+        EXPECT_TRUE(Contains(result.output, option)) << option;
+    }
+}
+
+TEST(ViewerProgram, AnUnknownOptionEndsWithTwo)
+{
+    const Result result = Run(L"--nonsense");
+
+    EXPECT_EQ(2u, result.exitCode);
+    EXPECT_TRUE(Contains(result.output, "--nonsense")) << result.output;
+}
+
+TEST(ViewerProgram, AFileThatIsNotThereEndsWithOne)
+{
+    const Result result = Run(L"no-such-file.csv --png x.png");
+
+    EXPECT_EQ(1u, result.exitCode);
+    EXPECT_TRUE(Contains(result.output, "no-such-file.csv")) << result.output;
+}
+
+TEST(ViewerProgram, AFileWithoutNumbersEndsWithOne)
+{
+    const TemporaryFile words(L"words.csv", "a,b\nx,y\n");
+
+    const Result result = Run(Quoted(words.Path()) + L" --png x.png");
+
+    EXPECT_EQ(1u, result.exitCode);
+    EXPECT_TRUE(Contains(result.output, "no column holds numbers")) << result.output;
+}
+
+TEST(ViewerProgram, DrawsAPictureOfTheSizeAskedForAndTellsWhatItSkipped)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile picture(L"weather.png");
+
+    const Result result = Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
+                              L" --size 500x300 --y temp --y2 wind");
+
+    ASSERT_EQ(0u, result.exitCode) << result.output;
+    EXPECT_TRUE(Contains(result.output, "temp: 4 points\n")) << result.output;
+    EXPECT_TRUE(Contains(result.output, "wind: 3 points, 1 row skipped (line 3)")) << result.output;
+    const Pixels pixels(picture.Path());
+    EXPECT_EQ(500, pixels.Width());
+    EXPECT_EQ(300, pixels.Height());
+    EXPECT_GT(pixels.ColumnsWith(firstCurve).count, 100);
+    EXPECT_GT(pixels.ColumnsWith(secondCurve).count, 100);
+}
+
+TEST(ViewerProgram, DrawsDatesBefore1970AcrossTheWholePlot)
+{
+    const TemporaryFile data(L"old.csv", "date,v\n1958-03-01,315\n1980-01-01,338\n2020-04-01,416\n");
+    const TemporaryFile picture(L"old.png");
+
+    const Result result =
+        Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) + L" --size 800x400 --no-legend");
+
+    ASSERT_EQ(0u, result.exitCode) << result.output;
+    const Pixels::Columns columns = Pixels(picture.Path()).ColumnsWith(firstCurve);
+    EXPECT_GT(columns.last - columns.first, 500);
+}
+
+TEST(ViewerProgram, DrawsPicturesLargerThanTheScreen)
+{
+    const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");
+    const TemporaryFile picture(L"line.png");
+    const int width = GetSystemMetrics(SM_CXSCREEN) + 400;
+
+    const Result result = Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
+                              L" --no-legend --size " + std::to_wstring(width) + L"x200");
+
+    ASSERT_EQ(0u, result.exitCode) << result.output;
+    const Pixels pixels(picture.Path());
+    EXPECT_EQ(width, pixels.Width());
+    EXPECT_GT(pixels.ColumnsWith(firstCurve).last, GetSystemMetrics(SM_CXSCREEN));
+}
+
+TEST(ViewerProgram, APictureThatCannotBeWrittenEndsWithFour)
+{
+    const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");
+
+    const Result result = Run(Quoted(data.Path()) + L" --png C:\\no\\such\\folder\\x.png");
+
+    EXPECT_EQ(4u, result.exitCode);
+    EXPECT_TRUE(Contains(result.output, "can't write")) << result.output;
+}
+
+std::optional<DWORD> Register(const wchar_t* options)
+{
+    std::wstring command = L"regsvr32 " + std::wstring(options) + L" " + Beside(L"Vantoplex.dll");
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &process)) {
+        return std::nullopt;
+    }
+    WaitForSingleObject(process.hProcess, 60'000);
+    DWORD code = 1;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+TEST(ViewerProgram, UsesTheRegisteredServerOnlyWhenAsked)
+{
+    const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");
+    const TemporaryFile picture(L"line.png");
+    const std::wstring arguments =
+        Quoted(data.Path()) + L" --registered --png " + Quoted(picture.Path());
+
+    ASSERT_EQ(0u, Register(L"/s"));
+    const Result registered = Run(arguments);
+    ASSERT_EQ(0u, Register(L"/s /u"));
+    const Result unregistered = Run(arguments);
+
+    EXPECT_EQ(0u, registered.exitCode) << registered.output;
+    EXPECT_EQ(3u, unregistered.exitCode);
+    EXPECT_TRUE(Contains(unregistered.output, "regsvr32")) << unregistered.output;
+}
+
+struct Search {
+    DWORD process;
+    HWND found;
+};
+
+HWND FindFrame(DWORD process)
+{
+    Search search = {process, nullptr};
+    EnumWindows(
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& sought = *reinterpret_cast<Search*>(parameter);
+            DWORD owner = 0;
+            GetWindowThreadProcessId(window, &owner);
+            wchar_t name[32] = L"";
+            GetClassNameW(window, name, 32);
+            if (owner == sought.process && IsWindowVisible(window) &&
+                std::wstring(name) == L"VantoplexViewer") {
+                sought.found = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+// A time limit for a window that never comes, not a measure of speed.
+HWND WaitForFrame(DWORD process)
+{
+    HWND frame = nullptr;
+    for (int turn = 0; turn < 600 && !frame; ++turn) {
+        frame = FindFrame(process);
+        if (!frame) {
+            Sleep(100);
+        }
+    }
+    return frame;
+}
+
+TEST(ViewerProgram, TheGraphFillsTheWindowAndResizesWithIt)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(Quoted(data.Path()));
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND graph = GetDlgItem(frame, 100);
+    ASSERT_NE(nullptr, graph);
+
+    for (const SIZE size : {SIZE{700, 500}, SIZE{400, 300}, SIZE{1000, 700}}) {
+        SetWindowPos(frame, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        RECT client{};
+        GetClientRect(frame, &client);
+        RECT place{};
+        GetWindowRect(graph, &place);
+        MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
+        RECT status{};
+        GetWindowRect(FindWindowExW(frame, nullptr, L"msctls_statusbar32", nullptr), &status);
+        EXPECT_EQ(0, place.left);
+        EXPECT_EQ(0, place.top);
+        EXPECT_EQ(client.right, place.right);
+        EXPECT_EQ(client.bottom - (status.bottom - status.top), place.bottom);
+    }
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+} // namespace
