@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <map>
 #include <string>
 
 #include <windows.h>
@@ -10,24 +11,65 @@
 namespace
 {
 
+constexpr WCHAR ChildVariable[] = L"VANTOPLEX_CHECKED_VECTOR";
+constexpr DWORD Survived = 7;
+
 void ExitWith42(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t)
 {
     ::TerminateProcess(::GetCurrentProcess(), 42);
 }
 
-// Runs one of the disabled tests below in a process of its own and gives its exit code.
-DWORD ExitCodeOf(const std::wstring& test)
+void Ignore(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t) {}
+
+// What a child process does; each of these should be its end.
+const std::map<std::wstring, void (*)()>& Bodies()
+{
+    using TNumbers = CCheckedVector<int>;
+    static const std::map<std::wstring, void (*)()> bodies = {
+        {L"index", [] { TNumbers(3)[3] = 1; }},
+        {L"negative", [] { TNumbers(3)[static_cast<size_t>(-1)] = 1; }},
+        {L"at", [] { TNumbers(3).at(3) = 1; }},
+        {L"front", [] { TNumbers().front() = 1; }},
+        {L"back", [] { TNumbers().back() = 1; }},
+        {L"pop", [] { TNumbers().pop_back(); }},
+        {L"handler",
+         [] {
+             _set_invalid_parameter_handler(&ExitWith42);
+             TNumbers()[0] = 1;
+         }},
+        {L"ignored",
+         [] {
+             _set_invalid_parameter_handler(&Ignore);
+             TNumbers()[0] = 1;
+         }},
+        {L"inside", [] { TNumbers(3)[2] = 1; }},
+    };
+    return bodies;
+}
+
+// In a child the body runs before the tests would begin.
+const bool g_isParent = [] {
+    WCHAR name[32];
+    if (!::GetEnvironmentVariableW(ChildVariable, name, 32))
+        return true;
+    Bodies().at(name)();
+    ::TerminateProcess(::GetCurrentProcess(), Survived);
+    return false;
+}();
+
+// The exit code of a process that runs that body.
+DWORD ExitCodeOf(const WCHAR* body)
 {
     WCHAR program[MAX_PATH];
     ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-    std::wstring command = L"\"" + std::wstring(program) +
-                           L"\" --gtest_also_run_disabled_tests --gtest_filter=" +
-                           L"CheckedVectorChild.DISABLED_" + test;
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(program, command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                          nullptr, &start, &process))
+    ::SetEnvironmentVariableW(ChildVariable, body);
+    const BOOL started = ::CreateProcessW(program, nullptr, nullptr, nullptr, FALSE, CREATE_NO_WINDOW,
+                                          nullptr, nullptr, &start, &process);
+    ::SetEnvironmentVariableW(ChildVariable, nullptr);
+    if (!started)
         return 0;
     ::WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;
@@ -51,71 +93,21 @@ TEST(CheckedVector, AccessInsideIsThatOfAVector)
     EXPECT_EQ(read.back(), 7);
     numbers.pop_back();
     EXPECT_EQ(numbers.size(), 3u);
+    EXPECT_EQ(ExitCodeOf(L"inside"), Survived);
 }
 
 TEST(CheckedVector, IndexOutsideEndsTheProcessAtOnce)
 {
-    EXPECT_EQ(ExitCodeOf(L"Index"), 0xC0000417u);
-    EXPECT_EQ(ExitCodeOf(L"NegativeIndex"), 0xC0000417u);
-    EXPECT_EQ(ExitCodeOf(L"FrontOfEmpty"), 0xC0000417u);
-    EXPECT_EQ(ExitCodeOf(L"BackOfEmpty"), 0xC0000417u);
-    EXPECT_EQ(ExitCodeOf(L"PopOfEmpty"), 0xC0000417u);
+    for (const WCHAR* body : {L"index", L"negative", L"at", L"front", L"back", L"pop"})
+        EXPECT_EQ(ExitCodeOf(body), 0xC0000417u) << testing::PrintToString(std::wstring(body));
 }
 
 TEST(CheckedVector, InstalledHandlerIsCalledFirst)
 {
-    EXPECT_EQ(ExitCodeOf(L"Handler"), 42u);
+    EXPECT_EQ(ExitCodeOf(L"handler"), 42u);
 }
 
 TEST(CheckedVector, HandlerThatReturnsDoesNotSaveTheProcess)
 {
-    EXPECT_EQ(ExitCodeOf(L"QuietHandler"), 0xC0000417u);
-}
-
-// The bodies of the child processes.
-
-TEST(CheckedVectorChild, DISABLED_Index)
-{
-    CCheckedVector<int> numbers{1};
-    numbers[1] = 2;
-}
-
-TEST(CheckedVectorChild, DISABLED_NegativeIndex)
-{
-    const CCheckedVector<int> numbers{1};
-    const int index = -1;
-    std::exit(numbers[static_cast<size_t>(index)]);
-}
-
-TEST(CheckedVectorChild, DISABLED_FrontOfEmpty)
-{
-    CCheckedVector<int> numbers;
-    std::exit(numbers.front());
-}
-
-TEST(CheckedVectorChild, DISABLED_BackOfEmpty)
-{
-    CCheckedVector<int> numbers;
-    std::exit(numbers.back());
-}
-
-TEST(CheckedVectorChild, DISABLED_PopOfEmpty)
-{
-    CCheckedVector<int> numbers;
-    numbers.pop_back();
-}
-
-TEST(CheckedVectorChild, DISABLED_Handler)
-{
-    _set_invalid_parameter_handler(&ExitWith42);
-    CCheckedVector<int> numbers;
-    std::exit(numbers[0]);
-}
-
-TEST(CheckedVectorChild, DISABLED_QuietHandler)
-{
-    _set_invalid_parameter_handler(
-        [](const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t) {});
-    CCheckedVector<int> numbers;
-    std::exit(numbers[0]);
+    EXPECT_EQ(ExitCodeOf(L"ignored"), 0xC0000417u);
 }

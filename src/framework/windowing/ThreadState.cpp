@@ -1,6 +1,7 @@
 #include "framework/windowing/ThreadState.h"
 
 #include <new>
+#include <utility>
 
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/Window.h"
@@ -14,37 +15,28 @@ void CALLBACK FreeThreadState(void* state) noexcept
 }
 
 // The system's own per-thread slot rather than the compiler's: it ends with the thread in a
-// library as well as in a program, and when the library goes, for all threads at once.
+// library as well as in a program, and when the library goes, for all threads at once. The index
+// has no destructor, for statics that go after the slot still ask.
+constinit DWORD g_slotIndex = FLS_OUT_OF_INDEXES;
+
 class CThreadSlot
 {
 public:
-    CThreadSlot() noexcept : m_index(::FlsAlloc(&FreeThreadState)) {}
+    CThreadSlot() noexcept { g_slotIndex = ::FlsAlloc(&FreeThreadState); }
     CThreadSlot(const CThreadSlot&) = delete;
     CThreadSlot& operator=(const CThreadSlot&) = delete;
     ~CThreadSlot()
     {
-        if (IsValid())
-            ::FlsFree(m_index);
+        const DWORD index = std::exchange(g_slotIndex, FLS_OUT_OF_INDEXES);
+        if (index != FLS_OUT_OF_INDEXES)
+            ::FlsFree(index);
     }
-
-    [[nodiscard]] bool IsValid() const noexcept { return m_index != FLS_OUT_OF_INDEXES; }
-    [[nodiscard]] AFX_THREAD_STATE* Get() const noexcept
-    {
-        return IsValid() ? static_cast<AFX_THREAD_STATE*>(::FlsGetValue(m_index)) : nullptr;
-    }
-    [[nodiscard]] bool Set(AFX_THREAD_STATE* state) const noexcept
-    {
-        return IsValid() && ::FlsSetValue(m_index, state);
-    }
-
-private:
-    DWORD m_index;
 };
 
-const CThreadSlot& Slot() noexcept
+DWORD SlotIndex() noexcept
 {
     static const CThreadSlot slot;
-    return slot;
+    return g_slotIndex;
 }
 
 } // namespace
@@ -53,9 +45,10 @@ AFX_THREAD_STATE* AfxFindThreadState() noexcept
 {
     // Reading the slot clears the last error, which callers in between may still want.
     const DWORD error = ::GetLastError();
-    AFX_THREAD_STATE* const state = Slot().Get();
+    const DWORD index = SlotIndex();
+    void* const state = index == FLS_OUT_OF_INDEXES ? nullptr : ::FlsGetValue(index);
     ::SetLastError(error);
-    return state;
+    return static_cast<AFX_THREAD_STATE*>(state);
 }
 
 AFX_THREAD_STATE& AfxGetThreadState()
@@ -63,7 +56,8 @@ AFX_THREAD_STATE& AfxGetThreadState()
     if (AFX_THREAD_STATE* const state = AfxFindThreadState())
         return *state;
     std::unique_ptr<AFX_THREAD_STATE> state(new (std::nothrow) AFX_THREAD_STATE);
-    if (!state || !Slot().Set(state.get()))
+    const DWORD index = SlotIndex();
+    if (!state || index == FLS_OUT_OF_INDEXES || !::FlsSetValue(index, state.get()))
         AfxThrowMemoryException();
     return *state.release();
 }
