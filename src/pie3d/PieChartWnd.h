@@ -11,7 +11,7 @@
 // Values and amounts must be finite. An item is the address of an element and is good until
 // the element is removed.
 
-#include "framework/windowing/Controls.h"
+#include "framework/windowing/ScrollBar.h"
 #include "framework/windowing/Strings.h"
 #include "framework/windowing/Window.h"
 #include "pie3d/GdiPlus.h"

@@ -32,11 +32,13 @@ double Unwound(double radians, double target) noexcept
 // An ellipse by its parameter: the angle on the circle that it was stretched from.
 struct TEllipse {
     explicit TEllipse(const TRectF& rc) noexcept
-        : halfWidth(std::abs(rc.width) / 2), halfHeight(std::abs(rc.height) / 2),
-          // Coordinates are floats: what is short grows with the distance from zero.
-          shortest(std::max({0.1, 2e-4 * std::abs(rc.x), 2e-4 * std::abs(rc.x + rc.width),
-                             2e-4 * std::abs(rc.y), 2e-4 * std::abs(rc.y + rc.height)}))
+        : halfWidth(std::abs(rc.width) / 2), halfHeight(std::abs(rc.height) / 2)
     {
+        // Coordinates are floats, which are the coarser the farther they lie from zero.
+        const float farthest = std::max({std::abs(rc.x), std::abs(rc.x + rc.width), std::abs(rc.y),
+                                         std::abs(rc.y + rc.height), 500.0f});
+        flattest = farthest * 4e-7;
+        shortest = farthest * 2e-4;
     }
 
     [[nodiscard]] double Parameter(float degrees) const noexcept
@@ -53,14 +55,27 @@ struct TEllipse {
         return Unwound(angle, parameter) * 180.0 / std::numbers::pi;
     }
 
-    [[nodiscard]] bool IsShort(double from, double to) const noexcept
+    // Whether the arc has hardly a length, or differs from its chord by what floats cannot tell.
+    [[nodiscard]] bool IsSliver(double from, double to) const noexcept
     {
-        return std::hypot(halfWidth * (std::cos(to) - std::cos(from)),
-                          halfHeight * (std::sin(to) - std::sin(from))) < shortest;
+        const double chord = std::hypot(halfWidth * (std::cos(to) - std::cos(from)),
+                                        halfHeight * (std::sin(to) - std::sin(from)));
+        const double rise = 1 - std::cos((to - from) / 2);
+        const double middle = (from + to) / 2;
+        return rise * std::hypot(halfWidth * std::cos(middle), halfHeight * std::sin(middle)) <
+                   flattest ||
+               chord < shortest;
+    }
+
+    // A step of the parameter that the angles, which are floats, can tell.
+    [[nodiscard]] double SmallStep() const noexcept
+    {
+        return 1e-5 * std::max(halfWidth / halfHeight, halfHeight / halfWidth);
     }
 
     double halfWidth;
     double halfHeight;
+    double flattest;
     double shortest;
 };
 
@@ -223,18 +238,20 @@ bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
         return false;
     }
     const TEllipse ellipse(rc);
+    if (std::min(ellipse.halfWidth, ellipse.halfHeight) < 0.5) {
+        return false;
+    }
     const double from = ellipse.Parameter(fStart);
     const double to = ellipse.Parameter(fStart + fSweep);
-    if (std::abs(fSweep) < 180.0f && ellipse.IsShort(from, to)) {
+    if (std::abs(fSweep) < 180.0f && ellipse.IsSliver(from, to)) {
         return false;
     }
     constexpr double quarter = std::numbers::pi / 2;
     const double quarters = std::round(std::abs(to - from) / quarter);
     const double nearest = from + std::copysign(quarters * quarter, to - from);
-    if (quarters > 0 && ellipse.IsShort(nearest, to)) {
-        constexpr double justShort = 1e-5;
-        fSweep =
-            static_cast<float>(ellipse.Angle(nearest - std::copysign(justShort, to - from)) - fStart);
+    const double step = ellipse.SmallStep();
+    if (quarters > 0 && (ellipse.IsSliver(nearest, to) || std::abs(nearest - to) < step)) {
+        fSweep = static_cast<float>(ellipse.Angle(nearest - std::copysign(step, to - from)) - fStart);
     }
     return true;
 }

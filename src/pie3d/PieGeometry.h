@@ -84,9 +84,9 @@ constexpr float fThinnestSweep = 0.001f;
 [[nodiscard]] bool DrawableAngles(float& fStart, float& fSweep) noexcept;
 
 // The same for an outline on the ellipse in rc. The library splits an arc into quarters of
-// the ellipse, and some versions do not survive to stroke a piece that is far shorter than a
-// pixel. So the sweep ends just short of a quarter where it would reach beyond it by less
-// than that; false if the whole arc is so short.
+// the ellipse, and some versions do not survive to stroke a piece that is as good as straight.
+// So the sweep ends just short of a quarter where it would reach beyond it by so little;
+// false if the whole arc is so short, or the ellipse less than a pixel high.
 [[nodiscard]] bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept;
 
 } // namespace PieGeometry

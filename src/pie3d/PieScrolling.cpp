@@ -53,7 +53,12 @@ void CPieChartWnd::UpdateScrollBar()
     info.nMin = 0;
     info.nMax = m_nLabelsHeight;
     info.nPage = static_cast<UINT>(pieHeight);
-    m_wndScrollBar.SetScrollInfo(&info, TRUE);
+    // Redrawn with the window's next painting: at once would cost more than all the rest of an
+    // insertion.
+    m_wndScrollBar.SetScrollInfo(&info, FALSE);
+    if (m_wndScrollBar.m_hWnd != nullptr) {
+        m_wndScrollBar.Invalidate();
+    }
     m_wndScrollBar.ShowScrollBar(m_nLabelsHeight > pieHeight);
 }
 

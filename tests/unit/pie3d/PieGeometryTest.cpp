@@ -277,9 +277,13 @@ TEST(PieOutline, QuartersOfAFlatEllipseAreThoseOfItsCircle)
     EXPECT_EQ(Outlined(flat, 26.56505f, 90.0f), 90.0f);
 }
 
-TEST(PieOutline, ArcsFarShorterThanAPixelHaveNone)
+TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
 {
-    EXPECT_EQ(Outlined(rcEllipse, 10.0f, 0.02f), 0.0f);         // 235 * 0.02 / 57.3 = 0.08
-    EXPECT_NE(Outlined(rcEllipse, 10.0f, 0.03f), 0.0f);         // 0.12
-    EXPECT_EQ(Outlined({30, 300, 470, 20}, 90.0f, 0.5f), 0.0f); // 10 * 0.5 / 57.3 = 0.09
+    // rise 570 * 4e-7 = 2.3e-4; 235 * (1 - cos(half)) reaches it at a sweep of 0.16 degrees
+    EXPECT_EQ(Outlined(rcEllipse, 10.0f, 0.15f), 0.0f);
+    EXPECT_EQ(Outlined(rcEllipse, 10.0f, -0.15f), 0.0f);
+    EXPECT_NE(Outlined(rcEllipse, 10.0f, 0.17f), 0.0f);
+    EXPECT_EQ(Outlined({30, 300, 470, 20}, 85.0f, 10.0f), 0.0f); // 10 * (1 - cos) of a half degree
+    EXPECT_EQ(Outlined({30, 300, 470, 0.9f}, 0.0f, 200.0f), 0.0f);
+    EXPECT_EQ(Outlined({30, 300, 470, 0}, 0.0f, 200.0f), 0.0f);
 }
