@@ -202,3 +202,16 @@ TEST(ThreadState, EndsWithItsThread)
     }).join();
     EXPECT_TRUE(::IsWindow(handle));
 }
+
+TEST(ThreadState, WindowsThatOutliveTheModuleAreLeftWithoutItsProcedure)
+{
+    const CHostWindow host;
+    CWnd child;
+    ASSERT_TRUE(child.Create(nullptr, nullptr, 0, {0, 0, 10, 10}, host, 1));
+    const HWND handle = child.m_hWnd;
+    AfxGetThreadState().windows.DisarmWindows();
+    EXPECT_EQ(::GetWindowLongPtrW(handle, GWLP_WNDPROC), reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
+    EXPECT_TRUE(child.DestroyWindow());
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    EXPECT_EQ(AfxDllCanUnloadNow(), S_OK);
+}

@@ -5,6 +5,7 @@
 
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/Window.h"
+#include "framework/windowing/WindowEntry.h"
 
 namespace
 {
@@ -68,6 +69,7 @@ AFX_THREAD_STATE::~AFX_THREAD_STATE()
         ::UnhookWindowsHookEx(hCreateHook);
     if (hMessageHook)
         ::UnhookWindowsHookEx(hMessageHook);
+    windows.DisarmWindows();
 }
 
 CWndMap::CWndMap() = default;
@@ -93,6 +95,15 @@ CWnd* CWndMap::FromHandle(HWND hWnd, bool inScope)
     CWnd* const result = made.get();
     m_temporary.emplace(hWnd, TTemporary{std::move(made), inScope});
     return result;
+}
+
+void CWndMap::DisarmWindows() const noexcept
+{
+    for (const auto& entry : m_permanent) {
+        if (AFX_WND_ENTRY::HasOurProcedure(entry.first))
+            ::SetWindowLongPtrW(entry.first, GWLP_WNDPROC,
+                                reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
+    }
 }
 
 void CWndMap::FreeTemporary(bool all) noexcept

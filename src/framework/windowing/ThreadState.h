@@ -29,6 +29,9 @@ public:
     [[nodiscard]] CWnd* FromHandle(HWND hWnd, bool inScope);
     // Frees the temporary objects made inside of a scope; with `all`, the others too.
     void FreeTemporary(bool all) noexcept;
+    // Takes our procedure out of the windows that are left, which live on without their objects:
+    // a host may unload the module too early.
+    void DisarmWindows() const noexcept;
     [[nodiscard]] size_t GetTemporaryCount() const noexcept { return m_temporary.size(); }
 
 private:
