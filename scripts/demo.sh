@@ -20,11 +20,11 @@ draw() { # PICTURE CSV OPTIONS...
 }
 
 draw co2.png co2-concentration.csv --x Date --y CO2 --y "adjusted CO2"
-draw weather.png seattle-weather.csv --x date --y temp_max --y2 wind
+draw weather.png seattle-weather.csv --x date --y temp_max --y2 precipitation
 draw electricity.png iowa-electricity.csv --x year --y net_generation --group source
 echo "Pictures: $demo/co2.png, $demo/weather.png, $demo/electricity.png"
 
 if [ -n "${DISPLAY:-}" ] && [ "${1:-}" != --no-window ]; then
   echo "Close the window to end."
-  VANTOPLEX_DISPLAY=own scripts/run-wine.sh -t 86400 "$viewer" docs/data/seattle-weather.csv --y temp_max --y2 wind
+  VANTOPLEX_DISPLAY=own scripts/run-wine.sh -t 86400 "$viewer" docs/data/seattle-weather.csv --y temp_max --y2 precipitation
 fi

@@ -14,6 +14,8 @@ namespace
 constexpr double daysOfYear = 365.2425;
 constexpr double epoch1970 = 25569.0;
 constexpr double lastUnsignedSecond = epoch1970 + 4294967295.0 / 86400.0;
+// From this span on, ticks stand on whole years and their labels name nothing else.
+constexpr double yearsAlone = 8 * daysOfYear;
 constexpr int partsOfRange = 10; // an axis without a step of its own divides its range so
 
 // A graph of usual height has this many ticks at most.
@@ -39,7 +41,7 @@ std::u16string NumberFormatFor(double low, double high)
 std::u16string DateFormatFor(double low, double high)
 {
     const double days = high - low;
-    if (days >= 15 * daysOfYear) {
+    if (days >= yearsAlone) {
         return u"%Y";
     }
     if (days >= daysOfYear) {
@@ -54,8 +56,11 @@ std::u16string DateFormatFor(double low, double high)
     return days >= 10.0 / (24 * 60) ? u"%H:%M" : u"%H:%M:%S";
 }
 
-bool GraphCanRoundDates(double low, double high) noexcept
+bool GraphRoundsDatesWell(double low, double high) noexcept
 {
+    if (high - low >= yearsAlone) {
+        return false;
+    }
     // Rounding outward moves a bound by up to its distance to the next tick, at most the span.
     const double room = std::max(high - low, 1.0);
     return low - room >= epoch1970 && high + room <= lastUnsignedSecond;
@@ -64,7 +69,7 @@ bool GraphCanRoundDates(double low, double high) noexcept
 DateRange RoundDateRange(double low, double high)
 {
     const double days = high - low;
-    if (days < 8 * daysOfYear) {
+    if (days < yearsAlone) {
         const double step = std::max(std::ceil(days / partsOfRange), 1.0);
         const double start = std::floor(low);
         const bool fits = start + step * partsOfRange >= high;

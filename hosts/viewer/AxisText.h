@@ -13,9 +13,10 @@ namespace Viewer
 // down to seconds within minutes.
 [[nodiscard]] std::u16string DateFormatFor(double low, double high);
 
-// The graph rounds date axes on a grid of unsigned seconds since 1970. True if low to high lies
-// where that works.
-[[nodiscard]] bool GraphCanRoundDates(double low, double high) noexcept;
+// Whether the graph rounds the range of such a date axis well. It does so on a grid of unsigned
+// seconds since 1970, in steps of weeks where years would be meant, so years drift through the
+// calendar.
+[[nodiscard]] bool GraphRoundsDatesWell(double low, double high) noexcept;
 
 struct DateRange {
     double low;
@@ -23,7 +24,7 @@ struct DateRange {
 };
 
 // A range around the dates low to high whose tenths are whole years (or days, within a few years),
-// for axes that the graph can't round. Two days are added to the start of years, so that a tick
+// for axes that the graph doesn't round well. Two days are added to the start of years, so that a tick
 // that leap years shift by a day stays in its year.
 [[nodiscard]] DateRange RoundDateRange(double low, double high);
 

@@ -256,7 +256,7 @@ private:
         }
         axis.format =
             axis.date ? DateFormatFor(axis.low, axis.high) : NumberFormatFor(axis.low, axis.high);
-        if (axis.date && !GraphCanRoundDates(axis.low, axis.high)) {
+        if (axis.date && !GraphRoundsDatesWell(axis.low, axis.high)) {
             const DateRange range = RoundDateRange(axis.low, axis.high);
             axis.autoScale = false;
             axis.low = range.low;

@@ -9,7 +9,7 @@
 
 using Viewer::DateFormatFor;
 using Viewer::DateToOle;
-using Viewer::GraphCanRoundDates;
+using Viewer::GraphRoundsDatesWell;
 using Viewer::NumberFormatFor;
 using Viewer::RoundDateRange;
 
@@ -49,12 +49,13 @@ TEST(AxisText, DatesAreShownByTheirSpan)
     EXPECT_EQ(u"%H:%M:%S", DateFormatFor(day, day + 0.001));
 }
 
-TEST(AxisText, TheGraphRoundsDatesWithinUnsignedSecondsSince1970)
+TEST(AxisText, TheGraphRoundsSpansOfFewYearsWithinUnsignedSecondsSince1970)
 {
-    EXPECT_TRUE(GraphCanRoundDates(DateToOle({2012, 1, 1}), DateToOle({2015, 12, 31})));
-    EXPECT_FALSE(GraphCanRoundDates(DateToOle({1958, 3, 1}), DateToOle({2020, 4, 1})));
-    EXPECT_FALSE(GraphCanRoundDates(DateToOle({1970, 1, 2}), DateToOle({1990, 1, 1})));
-    EXPECT_FALSE(GraphCanRoundDates(DateToOle({2090, 1, 1}), DateToOle({2106, 3, 1})));
+    EXPECT_TRUE(GraphRoundsDatesWell(DateToOle({2012, 1, 1}), DateToOle({2015, 12, 31})));
+    EXPECT_FALSE(GraphRoundsDatesWell(DateToOle({1958, 3, 1}), DateToOle({2020, 4, 1})));
+    EXPECT_FALSE(GraphRoundsDatesWell(DateToOle({2001, 1, 1}), DateToOle({2017, 1, 1})));
+    EXPECT_FALSE(GraphRoundsDatesWell(DateToOle({1970, 1, 2}), DateToOle({1972, 1, 1})));
+    EXPECT_FALSE(GraphRoundsDatesWell(DateToOle({2104, 1, 1}), DateToOle({2106, 3, 1})));
 }
 
 TEST(AxisText, DecadesGetARangeOfWholeYears)
