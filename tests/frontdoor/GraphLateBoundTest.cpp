@@ -3,7 +3,7 @@
 
 #include "GraphHost.h"
 
-#include <map>
+#include <algorithm>
 #include <set>
 
 namespace
@@ -48,12 +48,15 @@ protected:
         return id;
     }
     // Arguments stand in reverse in a call.
-    HRESULT Invoke(DISPID id, std::vector<VARIANT> arguments, VARIANT* pResult = nullptr)
+    // The method's own refusal comes as an exception.
+    HRESULT Invoke(DISPID id, std::vector<VARIANT> arguments)
     {
         std::reverse(arguments.begin(), arguments.end());
         DISPPARAMS parameters = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
-        return dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, pResult, nullptr,
-                                nullptr);
+        EXCEPINFO exception = {};
+        const HRESULT result = dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                                                nullptr, &exception, nullptr);
+        return result == DISP_E_EXCEPTION ? exception.scode : result;
     }
     static VARIANT Number(LONG nValue)
     {
@@ -93,7 +96,8 @@ protected:
             slot.value.bstrVal = ::SysAllocString(L"");
             return true;
         case VT_USERDEFINED:
-            return KindOf(type.hreftype) == TKIND_ENUM && (slot.value = Number(0), true);
+            slot.value = Number(0);
+            return KindOf(type.hreftype) == TKIND_ENUM || IsNumber(type.hreftype);
         case VT_PTR:
             return FillPointer(*type.lptdesc, slot);
         default:
@@ -105,9 +109,11 @@ protected:
         switch (type.vt) {
         case VT_I4:
         case VT_INT:
+            slot.value = Reference(VT_I4, &slot.number);
+            return true;
         case VT_UI4:
         case VT_UINT:
-            slot.value = Reference(type.vt, &slot.number);
+            slot.value = Reference(VT_UI4, &slot.number);
             return true;
         case VT_R8:
             slot.value = Reference(VT_R8, &slot.real);
@@ -139,16 +145,28 @@ protected:
     static bool IsObject(TYPEKIND kind) { return kind == TKIND_DISPATCH || kind == TKIND_INTERFACE; }
     TYPEKIND KindOf(HREFTYPE reference)
     {
+        TYPEKIND kind = TKIND_MAX;
+        WithAttributes(reference, [&](const TYPEATTR& attributes) { kind = attributes.typekind; });
+        return kind;
+    }
+    // Another name for a number: what a message carries.
+    bool IsNumber(HREFTYPE reference)
+    {
+        bool bNumber = false;
+        WithAttributes(reference, [&](const TYPEATTR& attributes) {
+            bNumber = attributes.typekind == TKIND_ALIAS &&
+                      (attributes.tdescAlias.vt == VT_UI8 || attributes.tdescAlias.vt == VT_I8);
+        });
+        return bNumber;
+    }
+    void WithAttributes(HREFTYPE reference, const std::function<void(const TYPEATTR&)>& visit)
+    {
         Holder<ITypeInfo> target;
         TYPEATTR* pAttributes = nullptr;
         if (FAILED(info->GetRefTypeInfo(reference, target.Out())) || FAILED(target->GetTypeAttr(&pAttributes)))
-            return TKIND_MAX;
-        TYPEKIND kind = pAttributes->typekind;
-        if (kind == TKIND_ALIAS && pAttributes->tdescAlias.vt == VT_USERDEFINED) {
-            kind = TKIND_MAX; // the aliases of this library name records
-        }
+            return;
+        visit(*pAttributes);
         target->ReleaseTypeAttr(pAttributes);
-        return kind;
     }
 
     Holder<IDispatch> dispatch;
@@ -160,8 +178,8 @@ protected:
 TEST_F(LateBound, ValuesTravelInBothDirections)
 {
     EXPECT_EQ(Invoke(IdOf(L"SetSnapRange"), {Number(23)}), S_OK);
-    int nRange = 0;
-    EXPECT_EQ(Invoke(IdOf(L"GetSnapRange"), {Reference(VT_INT, &nRange)}), S_OK);
+    LONG nRange = 0;
+    EXPECT_EQ(Invoke(IdOf(L"GetSnapRange"), {Reference(VT_I4, &nRange)}), S_OK);
     EXPECT_EQ(nRange, 23);
     ULONG color = 0;
     EXPECT_EQ(Invoke(IdOf(L"SetBackColor"), {Number(0x123456)}), S_OK);

@@ -2,8 +2,6 @@
 
 #include "GraphHost.h"
 
-#include <map>
-
 namespace
 {
 
