@@ -19,6 +19,7 @@ namespace
 constexpr COLORREF kBlack = 0x000000;
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr UINT kSolidFill = 6;
+constexpr int kLargestKey = 32767; // more than any plot; the platform's cost grows with the size
 
 // The background mode, put back at the end.
 class CModeKeeper
@@ -175,6 +176,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
 void CXGraphAxis::DrawCurveKey(CDCEx* pDC, CPoint point, int nKey, int nSize, COLORREF crColor,
                                bool bSymbol)
 {
+    nSize = std::clamp(nSize, -kLargestKey, kLargestKey);
     if (bSymbol) {
         if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(m_pGraph->m_pfnMarker)))
             m_pGraph->m_pfnMarker[nKey](point, nSize, crColor, false, pDC);

@@ -7,7 +7,6 @@
 #include "objects/XGraphDataSerie.h"
 
 #include "draw/DCEx.h"
-#include "draw/LongLines.h"
 #include "draw/Selectors.h"
 #include "graph/XGraph.h"
 #include "objects/AxisPainter.h"
@@ -16,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 
 namespace
@@ -45,9 +45,10 @@ TRect Grown(const CRect& rect, std::int64_t nBy) noexcept
     return {cut(rect.left - nBy), cut(rect.top - nBy), cut(rect.right + nBy), cut(rect.bottom + nBy)};
 }
 
+// Joined lines are drawn at once; a pen with a pattern has to begin it anew at each line.
 void DrawPolyline(CDCEx* pDC, std::span<const TPoint> points, bool bJoin)
 {
-    if (bJoin && !pDC->m_bScaling && LongLines::AreShort(points)) {
+    if (bJoin) {
         pDC->Polyline(AsPoints(points), static_cast<int>(points.size()));
         return;
     }
@@ -123,12 +124,18 @@ private:
 
 } // namespace
 
-// Pixels by which the pen reaches beyond the points: half its width, the whole of it for the
-// corners that it rounds, and the radius of a dot.
+// Beyond this a pen or a dot covers the plot in any case, while the platform's cost grows on.
+int CXGraphDataSerie::LineSize() const noexcept
+{
+    constexpr int nLargest = 32767;
+    return std::clamp(m_nLineSize, -nLargest, nLargest);
+}
+
+// Pixels by which a stroke reaches beyond the points: the radius of a dot and half the pen's
+// width, with room to spare.
 int CXGraphDataSerie::PenReach() const noexcept
 {
-    const std::int64_t nWidth = m_nLineSize < 0 ? -static_cast<std::int64_t>(m_nLineSize) : m_nLineSize;
-    return static_cast<int>(std::min<std::int64_t>(2 * nWidth + 2, INT32_MAX));
+    return 2 * std::abs(LineSize()) + 2;
 }
 
 void CXGraphDataSerie::Draw(CDCEx* pDC)
@@ -137,7 +144,7 @@ void CXGraphDataSerie::Draw(CDCEx* pDC)
     if (m_pGraph == nullptr || Points().empty())
         return;
     const COLORREF crLine = pDC->m_bMono ? kBlack : m_bSelected ? m_crColor ^ 0xFFFFFF : m_crColor;
-    const CPenSelector pen(crLine, m_nLineSize, pDC, AxisPainting::PenStyle(m_nLineStyle));
+    const CPenSelector pen(crLine, LineSize(), pDC, AxisPainting::PenStyle(m_nLineStyle));
     std::vector<TPoint> polygon;
     DrawShape(pDC, polygon);
     if (m_bFillBeneath)
@@ -164,14 +171,14 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
     if (m_bFillBeneath)
         chain.Append(curve.PixelAt(0));
     if (m_nType == gtScatter)
-        DrawDot(pDC, reach, curve.PixelAt(0), m_nLineSize);
+        DrawDot(pDC, reach, curve.PixelAt(0), LineSize());
     const auto ends = WalkVisibleSegments(curve, {reach.left, reach.right}, [&](TPoint from, TPoint to) {
         if (IsInside(plot, from) || IsInside(plot, to))
             m_Segments.push_back({from, to});
         if (m_nType == gtLine)
             lines.Add(from, to);
         else if (m_nType == gtScatter)
-            DrawDot(pDC, reach, to, m_nLineSize);
+            DrawDot(pDC, reach, to, LineSize());
         if (m_bFillBeneath) {
             chain.Append(from);
             chain.Append(to);

@@ -85,6 +85,7 @@ private:
     void DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon);
     void DrawFill(CDCEx* pDC, std::vector<TPoint>& polygon);
     void AppendPartner(std::vector<TPoint>& polygon, int nReach) const;
+    [[nodiscard]] int LineSize() const noexcept; // as drawn
     [[nodiscard]] int PenReach() const noexcept;
     void StoreFields(CArchive& ar) const;
     void LoadFields(CArchive& ar);
