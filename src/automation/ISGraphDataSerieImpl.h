@@ -24,15 +24,47 @@ public:
         return *pRef != nullptr ? S_OK : S_FALSE;
     }
 
-    // Trends and averages come with the analyses of the curve.
-    STDMETHOD(GetLinearTrend)(TDataPoint**, long) override { return E_NOTIMPL; }
-    STDMETHOD(GetCubicTrend)(TDataPoint**, long) override { return E_NOTIMPL; }
-    STDMETHOD(GetPolynomialTrend)(TDataPoint**, int, int) override { return E_NOTIMPL; }
-    STDMETHOD(GetSimpleMovingAverage)(TDataPoint**, int) override { return E_NOTIMPL; }
-    STDMETHOD(GetExponentialMovingAverage)(TDataPoint**, int) override { return E_NOTIMPL; }
-    STDMETHOD(GetLinearMovingAverage)(TDataPoint**, int) override { return E_NOTIMPL; }
-    STDMETHOD(GetTriangularMovingAverage)(TDataPoint**, int) override { return E_NOTIMPL; }
-    STDMETHOD(GetSineWeightedMovingAverage)(TDataPoint**, int) override { return E_NOTIMPL; }
+    // Each hands out a new array: GetCount + nPoints points of a trend, GetCount points of a
+    // moving average. The caller owns it and frees it with CoTaskMemFree. *pRef is null where
+    // there is none: no point at all, or a polynomial that can't be fitted.
+    STDMETHOD(GetLinearTrend)(TDataPoint** pRef, long nPoints) override
+    {
+        return HandOut(pRef, [=](CXGraphDataSerie& curve) { return curve.GetLinearTrend(nPoints); });
+    }
+    STDMETHOD(GetCubicTrend)(TDataPoint** pRef, long nPoints) override
+    {
+        return HandOut(pRef, [=](CXGraphDataSerie& curve) { return curve.GetCubicTrend(nPoints); });
+    }
+    STDMETHOD(GetPolynomialTrend)(TDataPoint** pRef, int nDegree, int nPoints) override
+    {
+        return HandOut(
+            pRef, [=](CXGraphDataSerie& curve) { return curve.GetPolynomialTrend(nDegree, nPoints); });
+    }
+    STDMETHOD(GetSimpleMovingAverage)(TDataPoint** pRef, int span) override
+    {
+        return HandOut(pRef,
+                       [=](CXGraphDataSerie& curve) { return curve.GetSimpleMovingAverage(span); });
+    }
+    STDMETHOD(GetExponentialMovingAverage)(TDataPoint** pRef, int span) override
+    {
+        return HandOut(pRef,
+                       [=](CXGraphDataSerie& curve) { return curve.GetExponentialMovingAverage(span); });
+    }
+    STDMETHOD(GetLinearMovingAverage)(TDataPoint** pRef, int span) override
+    {
+        return HandOut(pRef,
+                       [=](CXGraphDataSerie& curve) { return curve.GetLinearMovingAverage(span); });
+    }
+    STDMETHOD(GetTriangularMovingAverage)(TDataPoint** pRef, int span) override
+    {
+        return HandOut(pRef,
+                       [=](CXGraphDataSerie& curve) { return curve.GetTriangularMovingAverage(span); });
+    }
+    // A cubic trend, whatever its name says: GetCount + span points.
+    STDMETHOD(GetSineWeightedMovingAverage)(TDataPoint** pRef, int span) override
+    {
+        return HandOut(pRef, [=](CXGraphDataSerie& curve) { return curve.GetCubicTrend(span); });
+    }
 
     STDMETHOD(SetLineSize)(int nValue) override
     {
@@ -58,7 +90,10 @@ public:
     {
         return NativeFields::StoreFlag(Native(), &CXGraphDataSerie::m_bShowMarker, bValue);
     }
-    STDMETHOD(SetFillColor)(ULONG color) override { return NativeFields::Store(Native(), &CXGraphDataSerie::m_crFillColor, color); }
+    STDMETHOD(SetFillColor)(ULONG color) override
+    {
+        return NativeFields::Store(Native(), &CXGraphDataSerie::m_crFillColor, color);
+    }
     // Cut to 16 bits.
     STDMETHOD(SetFillCurve)(int nValue) override
     {
@@ -159,6 +194,19 @@ public:
     STDMETHOD(SetLineStyle)(UINT nValue) override
     {
         return NativeFields::Store(Native(), &CXGraphDataSerie::m_nLineStyle, nValue);
+    }
+
+private:
+    template <class Make> HRESULT HandOut(TDataPoint** pRef, Make make)
+    {
+        AFX_MANAGE_STATE(AfxGetStaticModuleState());
+        CXGraphDataSerie* pCurve = Native();
+        if (pCurve == nullptr)
+            return S_OK;
+        if (pRef == nullptr)
+            return S_FALSE;
+        *pRef = make(*pCurve);
+        return S_OK;
     }
 
 protected:

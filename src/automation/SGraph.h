@@ -20,8 +20,9 @@ public:
     END_COM_MAP()
 
     // Data, axes, curves
-    STDMETHOD(SetData)(ISGraphDataSerie** pSerie, TDataPoint* pValues, long nCount, int nCurve, int nXAxis,
-                       int nYAxis, long bAutoDelete) override;
+    STDMETHOD(SetData)
+    (ISGraphDataSerie** pSerie, TDataPoint* pValues, long nCount, int nCurve, int nXAxis, int nYAxis,
+     long bAutoDelete) override;
     STDMETHOD(GetXAxis)(ISGraphAxis** pGraphAxis, int nAxis) override;
     STDMETHOD(GetYAxis)(ISGraphAxis** pGraphAxis, int nAxis) override;
     STDMETHOD(GetCurve)(ISGraphDataSerie** pGraphAxis, int nCurve) override;
@@ -98,6 +99,9 @@ public:
     STDMETHOD(GetXGraphMsgInfo)(XGRAPH_MSG nMsg, BSTR bstrCaption) override;
     STDMETHOD(GetXGraphPersistInfo)(XGRAPH_PERSIST nMsg, BSTR bstrCaption) override;
     STDMETHOD(GetXGraphXgcInfo)(XGRAPH_XGC nMsg, BSTR bstrCaption) override;
+
+    HRESULT Run(void (CXGraph::*operation)());
+    HRESULT AddTrend(ISGraphDataSerie* pSerie, void (CXGraph::*add)(CXGraphDataSerie*));
 
     CXGraph* m_pNative = nullptr; // not owned: the module frees it at its end
 };

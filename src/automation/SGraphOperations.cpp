@@ -1,76 +1,74 @@
-// What the mouse and the keys do, the cursor, files and trends: the native side of these comes
-// with the interaction of the graph, and until then they say so.
+// What the mouse and the keys do, the cursor, trends and files.
 
 #include "automation/SGraph.h"
 
-STDMETHODIMP CSGraph::InsertDataNotation(int, int)
+STDMETHODIMP CSGraph::InsertDataNotation(int nCurve, int nIndex)
 {
-    return E_NOTIMPL;
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    m_pNative->InsertDataNotation(nCurve, nIndex);
+    return S_OK;
 }
 
-STDMETHODIMP CSGraph::AddLinearTrend(ISGraphDataSerie*)
+// The curve is taken from the handle that the wrapper delivers, whatever that is; the graph adds
+// no trend of what is none of its curves.
+HRESULT CSGraph::AddTrend(ISGraphDataSerie* pSerie, void (CXGraph::*add)(CXGraphDataSerie*))
 {
-    return E_NOTIMPL;
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    if (pSerie == nullptr)
+        return S_FALSE;
+    UINT* pHandle = nullptr;
+    pSerie->GetObjectHandle(&pHandle);
+    if (pHandle == nullptr)
+        return S_FALSE;
+    (m_pNative->*add)(reinterpret_cast<CXGraphDataSerie*>(pHandle));
+    return S_OK;
 }
 
-STDMETHODIMP CSGraph::AddCubicTrend(ISGraphDataSerie*)
+STDMETHODIMP CSGraph::AddLinearTrend(ISGraphDataSerie* pSerie)
 {
-    return E_NOTIMPL;
+    return AddTrend(pSerie, &CXGraph::AddLinearTrend);
+}
+
+STDMETHODIMP CSGraph::AddCubicTrend(ISGraphDataSerie* pSerie)
+{
+    return AddTrend(pSerie, &CXGraph::AddCubicTrend);
+}
+
+HRESULT CSGraph::Run(void (CXGraph::*operation)())
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    (m_pNative->*operation)();
+    return S_OK;
 }
 
 STDMETHODIMP CSGraph::Edit()
 {
-    return E_NOTIMPL;
+    return Run(&CXGraph::Edit);
 }
 
 STDMETHODIMP CSGraph::Zoom()
 {
-    return E_NOTIMPL;
+    return Run(&CXGraph::Zoom);
 }
 
 STDMETHODIMP CSGraph::ResetZoom()
 {
-    return E_NOTIMPL;
+    return Run(&CXGraph::ResetZoom);
 }
 
 STDMETHODIMP CSGraph::Pan()
 {
-    return E_NOTIMPL;
+    return Run(&CXGraph::Pan);
 }
 
 STDMETHODIMP CSGraph::NoOp()
 {
-    return E_NOTIMPL;
+    return Run(&CXGraph::NoOp);
 }
 
 STDMETHODIMP CSGraph::Measure()
 {
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP CSGraph::GetZoomDepth(int*)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP CSGraph::GetCursorAbsolute(int, TDataPoint*)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP CSGraph::SetCursorAbsolute(int, TDataPoint*, long)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP CSGraph::Save(BSTR, UINT)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP CSGraph::Load(BSTR)
-{
-    return E_NOTIMPL;
+    return Run(&CXGraph::Measure);
 }
 
 // Has no effect by design: hosts enter the cursor's mode by the graph's command.
@@ -78,4 +76,43 @@ STDMETHODIMP CSGraph::Cursor()
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     return S_OK;
+}
+
+STDMETHODIMP CSGraph::GetZoomDepth(int* pnValue)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    if (pnValue == nullptr)
+        return S_FALSE;
+    *pnValue = m_pNative->GetZoomDepth();
+    return S_OK;
+}
+
+STDMETHODIMP CSGraph::GetCursorAbsolute(int nCurve, TDataPoint* pPoint)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    if (pPoint == nullptr)
+        return S_FALSE;
+    *pPoint = m_pNative->GetCursorAbsolute(nCurve);
+    return S_OK;
+}
+
+STDMETHODIMP CSGraph::SetCursorAbsolute(int nCurve, TDataPoint* pPoint, long bForceVisible)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    if (pPoint == nullptr)
+        return S_FALSE;
+    m_pNative->SetCursorAbsolute(nCurve, *pPoint, bForceVisible != 0);
+    return S_OK;
+}
+
+STDMETHODIMP CSGraph::Save(BSTR bstrFile, UINT nFlags)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    return bstrFile != nullptr && m_pNative->Save(bstrFile, nFlags) ? S_OK : S_FALSE;
+}
+
+STDMETHODIMP CSGraph::Load(BSTR bstrFile)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    return bstrFile != nullptr && m_pNative->Load(bstrFile) ? S_OK : S_FALSE;
 }

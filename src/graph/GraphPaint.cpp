@@ -103,8 +103,8 @@ void CXGraph::PaintFrame(CDCEx* pDC)
         GetClientRect(&rcClient);
     pDC->FillSolidRect(&rcClient, Shade(pDC, m_crBackColor));
 
-    CRect rcGraph = FrameLayout::GraphRect(
-        rcClient, {m_nLeftMargin, m_nTopMargin, m_nRightMargin, m_nBottomMargin});
+    CRect rcGraph =
+        FrameLayout::GraphRect(rcClient, {m_nLeftMargin, m_nTopMargin, m_nRightMargin, m_nBottomMargin});
     if (m_bShowLegend)
         DrawLegend(pDC, rcGraph);
     pDC->FillSolidRect(&rcGraph, Shade(pDC, m_crGraphColor));
@@ -169,8 +169,15 @@ void CXGraph::DrawCurves(CDCEx* pDC)
 
 void CXGraph::DrawOverlay(CDCEx* pDC)
 {
+    DrawMeasures(pDC);
     if (m_opOperation == opZoom && m_bLButtonDown)
         DrawZoomRect(pDC);
+    if (m_opOperation == opMeasure && m_bLButtonDown) {
+        CRect rcLive(0, 0, 0, 0);
+        DrawMeasure(pDC, rcLive);
+    }
+    if (m_opOperation == opCursor)
+        DrawCursor(pDC);
     for (POSITION pos = m_Objects.GetHeadPosition(); pos != nullptr;)
         static_cast<CXGraphObject*>(m_Objects.GetNext(pos))->Draw(pDC);
     if (m_bPointDragged)

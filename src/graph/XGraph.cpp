@@ -3,6 +3,7 @@
 #include "framework/windowing/App.h"
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/ModuleState.h"
+#include "graph/CommandIds.h"
 #include "graph/GraphRegister.h"
 
 #include <memory>
@@ -13,6 +14,29 @@ BEGIN_MESSAGE_MAP(CXGraph, CWnd)
 ON_WM_PAINT()
 ON_WM_SIZE()
 ON_WM_ERASEBKGND()
+ON_WM_MOUSEMOVE()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_RBUTTONDOWN()
+ON_WM_RBUTTONUP()
+ON_WM_SETCURSOR()
+ON_WM_MOUSEWHEEL()
+ON_WM_KEYUP()
+ON_COMMAND(CommandId::NoOp, NoOp)
+ON_COMMAND(CommandId::InsertLabel, OnInsertLabel)
+ON_COMMAND(CommandId::Zoom, Zoom)
+ON_COMMAND(CommandId::ResetZoom, ResetZoom)
+ON_COMMAND(CommandId::Pan, Pan)
+ON_COMMAND(CommandId::Properties, OnProperties)
+ON_COMMAND(CommandId::Print, Print)
+ON_COMMAND(CommandId::LinearTrend, OnLinearTrend)
+ON_COMMAND(CommandId::CubicTrend, OnCubicTrend)
+ON_COMMAND(CommandId::Cursor, Cursor)
+ON_COMMAND(CommandId::PassOn, OnPassOn)
+ON_COMMAND(CommandId::ZoomBack, ZoomBack)
+ON_COMMAND(CommandId::Edit, Edit)
+ON_COMMAND(CommandId::Measure, Measure)
 END_MESSAGE_MAP()
 
 namespace
@@ -88,6 +112,8 @@ void CXGraph::ResetAll()
     m_XAxes.clear();
     m_YAxes.clear();
     m_Curves.clear();
+    m_pTracker = nullptr; // it and the pressed object point at what goes now
+    m_pCurrentObject = nullptr;
     while (m_Objects.GetCount() > 1)
         delete m_Objects.RemoveTail();
 }

@@ -23,7 +23,14 @@
 #include "objects/XGraphDataSerie.h"
 #include "objects/XGraphLabel.h"
 
+#include <memory>
+
+class CXGraph;
 class CXGraphObject;
+
+// Shows the modal property sheet on the graph and, where one is given, on an axis or a curve;
+// the dialogs define it.
+void ShowChartSheet(CXGraph& graph, CXGraphAxis* pAxis, CXGraphDataSerie* pCurve);
 
 class CXGraph : public CWnd
 {
@@ -82,6 +89,66 @@ public:
 
     // A graph whose window is gone repaints nothing (the platform would repaint every window).
     void Invalidate(BOOL bErase = TRUE);
+    // Operations. Any may follow any other; each repaints.
+    void NoOp();
+    void Zoom();
+    void Pan(); // stops rounding the ranges of all axes
+    void Cursor();
+    void Edit();
+    void Measure();
+
+    // What lies under m_ptCurrent. A question that only checks tells whether something reacts
+    // there; any other selects, notifies the parent window, opens the property sheet, and gives
+    // false. Without m_bInteraction nothing reacts.
+    bool HitTest(bool bDblClick, bool bCheckOnly);
+    // Posts to the parent window, with the low half of this object's address.
+    void Notify(UINT nMessage, WPARAM wParam) const;
+    // Shows the property sheet on an axis, on a curve, or on the graph alone.
+    void OpenSheet(CXGraphAxis* pAxis, CXGraphDataSerie* pCurve);
+
+    // Shows what m_rcZoom spans on all axes and keeps what each showed before. A band under 15
+    // pixels either way does nothing.
+    void ApplyZoomRect();
+    void ZoomBack();                        // one step on every axis that has one
+    void ResetZoom();                       // the histories stay
+    [[nodiscard]] int GetZoomDepth() const; // of the first X axis
+    void PanBy(CPoint point);               // from m_ptPan
+
+    // The crosshair at m_ptCurrent, drawn by XOR over the one at m_ptLastCursor; snaps first.
+    void DrawCursor(CDCEx* pDC);
+    void DrawCursorLegend(CDCEx* pDC);
+    // The cursor's x on the curve's X axis, and y of the curve's point there.
+    TDataPoint GetCursorAbsolute(int nCurve);
+    // Puts the cursor on the curve's point at point.fXVal. With bForceVisible an axis that
+    // doesn't show it is scrolled there; with XGC_ADJUSTSMOOTH it is centred in any case.
+    void SetCursorAbsolute(int nCurve, TDataPoint point, bool bForceVisible);
+
+    // Moves the point's y onto the curve point that is nearest in y, and notes that point as an
+    // end of the live measure: the first where the point is m_ptLButtonDown.
+    void FindNearestPoint(CPoint& point);
+    // An empty rectangle stands for the live measure in opMeasure, and takes its place.
+    void DrawMeasure(CDCEx* pDC, CRect& rc);
+    void DrawMeasures(CDCEx* pDC);
+
+    // Pins a note with the point's values to it; a point that isn't there gets none.
+    void InsertDataNotation(int nCurve, int nIndex);
+
+    // Appends the trend as a curve of its own on the same axes.
+    void AddLinearTrend(CXGraphDataSerie* pCurve);
+    void AddCubicTrend(CXGraphDataSerie* pCurve);
+
+    // nFlags are XGRAPH_PERSIST; false for none, for a file that can't be opened, and for one
+    // that can't be written whole.
+    bool Save(const CString& strFile, UINT nFlags);
+    // False, with the graph as it was, for a file that can't be opened. A file that fails later
+    // leaves what was read up to there.
+    bool Load(const CString& strFile);
+    void Serialize(CArchive& ar, UINT nFlags);
+
+    void Print(); // asks for the printer
+    // One page. The context becomes the job's own and is deleted with it.
+    void PrintTo(HDC hPrinter);
+
     void DrawLegend(CDCEx* pDC, CRect& rc);
     void DrawZoomRect(CDCEx* pDC);
 
@@ -142,12 +209,33 @@ public:
     CObList m_Objects{10}; // of CXGraphObject, owned, but for the head: m_CursorLabel
     CXGraphObject* m_pCurrentObject = nullptr;
 
+    // By the index that a curve or a measure holds; one outside the list ends the process.
+    CXGraphDataSerie& CurveAt(int nCurve) { return *GetCurve(nCurve); }
+    CXGraphAxis& XAxisOf(const CXGraphDataSerie& curve) { return *GetXAxis(curve.m_nXAxis); }
+    CXGraphAxis& YAxisOf(const CXGraphDataSerie& curve) { return *GetYAxis(curve.m_nYAxis); }
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnInsertLabel();
+    afx_msg void OnProperties();
+    afx_msg void OnLinearTrend();
+    afx_msg void OnCubicTrend();
+    afx_msg void OnPassOn();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -156,4 +244,29 @@ private:
     void DrawCurves(CDCEx* pDC);
     void DrawOverlay(CDCEx* pDC);
     void DrawPointValue(CDCEx* pDC);
+
+    void PressObjects(CPoint point);
+    void TrackObject(CXGraphObject* pObject, CPoint point);
+    void DeleteCurrentObject();
+    void MoveCursor();
+    void DragTo(CPoint point);
+
+    void SnapCursor();
+    int ReadCursor(int nCurve); // the pixel y of the curve at the cursor's x
+    void DrawCursorFigure(CDCEx* pDC, CPoint point);
+    void BringIntoView(CXGraphAxis& axis, double fValue) const;
+    void PinNotation();
+
+    [[nodiscard]] CPoint PointOfCurve(int nCurve, int nIndex);
+    [[nodiscard]] CRect LiveMeasureRect() const;
+    void DrawMeasureLines(CDCEx* pDC, const CRect& rc);
+    static void DrawMeasureArrows(CDCEx* pDC, const CRect& rc);
+    void DrawMeasureTexts(CDCEx* pDC, CRect rc);
+
+    void AppendTrend(const CXGraphDataSerie& curve, std::unique_ptr<TDataPoint[]> points,
+                     LPCWSTR pszKind);
+    void Store(CArchive& ar, UINT nFlags);
+    void ReadObjects(CArchive& ar);
+    void PaintPage(CDCEx& canvas);
+    int PrintCentred(CDCEx& canvas, const CString& strText, bool bTop);
 };

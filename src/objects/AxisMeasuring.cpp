@@ -5,38 +5,13 @@
 #include "base/Trunc.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
+#include "draw/WindowCanvas.h"
 #include "graph/XGraph.h"
 #include "objects/DateTimeSteps.h"
 #include "objects/LogDecades.h"
 #include "objects/TickSteps.h"
 
 #include <algorithm>
-
-namespace
-{
-
-// A canvas on the graph's window, or on the screen where it has none.
-class CWindowCanvas
-{
-public:
-    explicit CWindowCanvas(HWND hWnd) : m_hWnd(hWnd), m_hDC(::GetDC(hWnd)) { m_dc.Attach(m_hDC); }
-    CWindowCanvas(const CWindowCanvas&) = delete;
-    CWindowCanvas& operator=(const CWindowCanvas&) = delete;
-    ~CWindowCanvas()
-    {
-        m_dc.Detach();
-        ::ReleaseDC(m_hWnd, m_hDC);
-    }
-
-    [[nodiscard]] CDCEx* Get() noexcept { return &m_dc; }
-
-private:
-    HWND m_hWnd;
-    HDC m_hDC;
-    CDCEx m_dc;
-};
-
-} // namespace
 
 int CXGraphAxis::GetMaxLabelWidth(CDCEx* pDC)
 {

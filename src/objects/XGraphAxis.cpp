@@ -7,6 +7,7 @@
 #include "objects/DateFormat.h"
 #include "objects/IndexSearch.h"
 #include "objects/LogDecades.h"
+#include "objects/ObjectFont.h"
 #include "objects/TickSteps.h"
 
 #include <cfloat>
@@ -19,18 +20,6 @@ namespace
 {
 
 constexpr double kLargestPlain = 1e6; // beyond it labels take the exponential format
-
-LOGFONTW ArialFont(int nHeight, int nWeight)
-{
-    LOGFONTW font = {};
-    font.lfHeight = nHeight;
-    font.lfWeight = nWeight;
-    font.lfCharSet = DEFAULT_CHARSET;
-    font.lfClipPrecision = CLIP_CHARACTER_PRECIS;
-    font.lfQuality = ANTIALIASED_QUALITY;
-    ::lstrcpynW(font.lfFaceName, L"Arial", LF_FACESIZE);
-    return font;
-}
 
 void MakeFont(CFont& font, const LOGFONTW& look)
 {
@@ -79,8 +68,8 @@ CXGraphAxis::CXGraphAxis()
     : m_fMin(DBL_MAX), m_fMax(-DBL_MAX), m_fCurMin(DBL_MAX), m_fCurMax(-DBL_MAX), m_cLabel(L" "),
       m_cDisplayFmt(L"%5.1f")
 {
-    MakeFont(m_LabelFont, ArialFont(13, FW_NORMAL));
-    MakeFont(m_TitleFont, ArialFont(14, FW_BOLD));
+    MakeFont(m_LabelFont, ObjectFont::Arial(13, FW_NORMAL));
+    MakeFont(m_TitleFont, ObjectFont::Arial(14, FW_BOLD));
 }
 
 CXGraphAxis::CXGraphAxis(const CXGraphAxis& other) : CXGraphObject(other)
@@ -250,15 +239,20 @@ void CXGraphAxis::FindIndexForX(int& nIndex, double fX, int nCurve)
 
 CString CXGraphAxis::FormatValue(double fValue) const
 {
-    if (!m_bDateTime)
-        return CString(NumberFormat::FormatNumber(m_cDisplayFmt.ToU16(), fValue));
+    if (m_bDateTime)
+        return FormatDate(m_cDisplayFmt, fValue);
+    return AfxFormatNumber(m_cDisplayFmt, fValue);
+}
+
+CString CXGraphAxis::FormatDate(const CString& strFormat, double fValue)
+{
     UDATE date = {};
     if (!std::isfinite(fValue) || FAILED(::VarUdateFromDate(fValue, 0, &date)))
         return CString(DateFormat::kInvalidText);
     const DateFormat::TDateFields fields{date.st.wYear,      date.st.wMonth,  date.st.wDay,
                                          date.st.wHour,      date.st.wMinute, date.st.wSecond,
                                          date.st.wDayOfWeek, date.wDayOfYear};
-    return CString(DateFormat::FormatDate(m_cDisplayFmt.ToU16(), fields));
+    return CString(DateFormat::FormatDate(strFormat.ToU16(), fields));
 }
 
 void CXGraphAxis::SetAxisMarker(int nMarker, double fValue, COLORREF crColor, UINT nStyle)

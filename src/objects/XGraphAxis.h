@@ -108,6 +108,8 @@ public:
     int GetLabelHeight(CDCEx* pDC);   // of the label at m_fMin, plus m_nTickSize
     CSize GetTitleSize(CDCEx* pDC);
     [[nodiscard]] CString FormatValue(double fValue) const; // the text of a tick label
+    // A date-time by a wcsftime format; "Invalid DateTime" for what is none.
+    [[nodiscard]] static CString FormatDate(const CString& strFormat, double fValue);
 
     // Adding at the count appends; a smaller index replaces; any other ends the process.
     void SetAxisMarker(int nMarker, double fValue, COLORREF crColor, UINT nStyle);

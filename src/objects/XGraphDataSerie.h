@@ -69,6 +69,21 @@ public:
     // private copy alone: nobody else can write to it.
     [[nodiscard]] bool IsAscending() const noexcept;
 
+    // Trends of m_nCount + nPoints points (Trends.h): a new array, which the caller owns and
+    // frees with delete[]. Null where that is no point at all; the polynomial of nDegree terms
+    // is null too where it can't be fitted, and leaves its coefficients in m_Solver.
+    [[nodiscard]] TDataPoint* GetLinearTrend(int nPoints) const;
+    [[nodiscard]] TDataPoint* GetCubicTrend(int nPoints) const;
+    [[nodiscard]] TDataPoint* GetPolynomialTrend(int nDegree, int nPoints);
+
+    // Moving averages of m_nCount points (MovingAverages.h), owned and freed like the trends;
+    // null for a curve without points.
+    [[nodiscard]] TDataPoint* GetSimpleMovingAverage(int span) const;
+    [[nodiscard]] TDataPoint* GetExponentialMovingAverage(int span) const;
+    [[nodiscard]] TDataPoint* GetLinearMovingAverage(int span) const;
+    [[nodiscard]] TDataPoint* GetTriangularMovingAverage(int span) const;
+    [[nodiscard]] TDataPoint* GetSineWeightedMovingAverage(int span) const;
+
     void SetFillBeneath(bool bValue, int nValue) noexcept;
     void AddSegment(CPoint from, CPoint to);
     [[nodiscard]] static bool HitTestSegment(CPoint from, CPoint to, CPoint point,

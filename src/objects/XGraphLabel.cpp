@@ -4,6 +4,7 @@
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
 #include "graph/XGraph.h"
+#include "objects/ObjectFont.h"
 
 #include <optional>
 
@@ -15,17 +16,10 @@ namespace
 constexpr COLORREF kBlack = 0x000000;
 constexpr COLORREF kWhite = 0xFFFFFF;
 
-LOGFONTW DefaultFont()
-{
-    LOGFONTW font = {};
-    font.lfHeight = 14;
-    font.lfWeight = FW_NORMAL;
-    font.lfCharSet = DEFAULT_CHARSET;
-    font.lfClipPrecision = CLIP_CHARACTER_PRECIS;
-    font.lfQuality = ANTIALIASED_QUALITY;
-    ::lstrcpynW(font.lfFaceName, L"Arial", LF_FACESIZE);
-    return font;
-}
+constexpr UINT kEditorId = 65534;
+constexpr DWORD kEditorStyle =
+    WS_CHILD | WS_VISIBLE | ES_WANTRETURN | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE;
+constexpr UINT kPropertiesItem = 40006;
 
 } // namespace
 
@@ -33,7 +27,7 @@ CXGraphLabel::CXGraphLabel() : m_cText(L" "), m_crFillColor(::GetSysColor(COLOR_
 {
     m_bCanResize = true;
     m_bCanMove = true;
-    SetFont(DefaultFont());
+    SetFont(ObjectFont::Arial(14, FW_NORMAL));
 }
 
 CXGraphLabel::~CXGraphLabel() = default;
@@ -95,9 +89,13 @@ void CXGraphLabel::Draw(CDCEx* pDC)
     const COLORREF crOldText = pDC->SetTextColor(bMono ? kBlack : m_crTextColor);
     if (m_bSizing)
         m_Tracker.Draw(pDC);
-    CRect rcText = m_rcObject;
-    rcText.DeflateRect(1, 1);
-    pDC->DrawText(m_cText, &rcText, m_nAlignment);
+    if (m_bEditing) {
+        m_Edit.ShowWindow(SW_SHOW);
+    } else {
+        CRect rcText = m_rcObject;
+        rcText.DeflateRect(1, 1);
+        pDC->DrawText(m_cText, &rcText, m_nAlignment);
+    }
     pDC->SetTextColor(crOldText);
     if (pOldBrush != nullptr)
         pDC->SelectObject(static_cast<CBrush*>(pOldBrush));
@@ -113,4 +111,51 @@ void CXGraphLabel::DrawTie(CDCEx* pDC)
     pDC->MoveTo(m_pGraph->GetXAxis(pCurve->m_nXAxis)->GetPointForValue(middle).x,
                 m_pGraph->GetYAxis(pCurve->m_nYAxis)->GetPointForValue(middle).y);
     pDC->LineTo(m_rcObject.CenterPoint());
+}
+
+void CXGraphLabel::BeginEdit()
+{
+    if (!m_bCanEdit)
+        return;
+    if (m_Edit.m_hWnd != nullptr)
+        m_Edit.DestroyWindow();
+    m_bSizing = false;
+    m_bEditing = true;
+    CRect rcEditor = m_rcObject;
+    rcEditor.DeflateRect(1, 1);
+    // The alignment's bits are the editor's own styles too.
+    m_Edit.Create(m_nAlignment | kEditorStyle, rcEditor, m_pGraph, kEditorId);
+    m_Edit.SetFont(&m_Font);
+    m_Edit.SetWindowText(m_cText);
+    m_Edit.ShowWindow(SW_SHOW);
+    m_pGraph->Invalidate();
+    m_Edit.SetFocus();
+    m_Edit.SendMessage(EM_SETSEL, 0, -1);
+    m_Edit.SendMessage(EM_SCROLLCARET);
+}
+
+void CXGraphLabel::EndEdit()
+{
+    if (!m_bCanEdit)
+        return;
+    m_bEditing = false;
+    if (m_Edit.m_hWnd == nullptr)
+        return; // the editor went with the graph's window: the text stays
+    m_Edit.GetWindowText(m_cText);
+    m_Edit.DestroyWindow();
+}
+
+void CXGraphLabel::InvokeProperties()
+{
+    POINT cursor = {};
+    ::GetCursorPos(&cursor);
+    CXGraph* pGraph = m_pGraph;
+    const HMENU hMenu = ::CreatePopupMenu();
+    ::AppendMenuW(hMenu, MF_STRING, kPropertiesItem, L"Properties");
+    const UINT nChosen = static_cast<UINT>(::TrackPopupMenu(
+        hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0, pGraph->m_hWnd, nullptr));
+    ::DestroyMenu(hMenu);
+    // Messages ran while the menu was open, and may have removed this label.
+    if (nChosen == kPropertiesItem && pGraph->m_Objects.Find(this) != nullptr)
+        ShowLabelProperties(*this);
 }

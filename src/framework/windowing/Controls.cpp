@@ -1,0 +1,3 @@
+#include "framework/windowing/Controls.h"
+
+IMPLEMENT_DYNAMIC(CEdit, CWnd)

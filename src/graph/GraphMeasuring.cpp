@@ -1,0 +1,144 @@
+// Measures: the span between two curve points, with its differences in x and y.
+
+#include "draw/DCEx.h"
+#include "draw/QuickFont.h"
+#include "draw/Selectors.h"
+#include "graph/PointSearch.h"
+#include "graph/XGraph.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace
+{
+constexpr COLORREF GuideColor = 0xC8C8C8;
+constexpr COLORREF ElbowColor = 0x0000FF;
+constexpr int ArrowSize = 6;
+constexpr int SmallestSpan = 7; // below it an arrow points across
+constexpr long long FarAway = 10000000;
+
+long long Distance(int from, int to)
+{
+    return std::llabs(static_cast<long long>(to) - from);
+}
+} // namespace
+
+void CXGraph::FindNearestPoint(CPoint& point)
+{
+    long long best = FarAway;
+    int nearest = point.y;
+    const int count = static_cast<int>(m_Curves.size());
+    for (int nCurve = 0; nCurve < count; ++nCurve) {
+        CXGraphDataSerie& curve = CurveAt(nCurve);
+        const double x = PointSearch::ValueAtColumn(*this, nCurve, point.x);
+        const int index = PointSearch::Index(*this, nCurve, x);
+        if (index < 0)
+            continue;
+        const int y = YAxisOf(curve).GetPointForValue(curve.m_pData[index]).y;
+        if (Distance(point.y, y) >= best)
+            continue;
+        best = Distance(point.y, y);
+        nearest = y;
+        if (point == m_ptLButtonDown) {
+            m_nCursorCurve = nCurve;
+            m_LiveMeasure.nCurve1 = nCurve;
+            m_LiveMeasure.nIndex1 = index;
+        } else {
+            m_nMeasureCurve2 = nCurve;
+            m_LiveMeasure.nCurve2 = nCurve;
+            m_LiveMeasure.nIndex2 = index;
+        }
+    }
+    point.y = nearest;
+}
+
+void CXGraph::DrawMeasures(CDCEx* pDC)
+{
+    // By value and index: a stored span names its ends by numbers that may be stale.
+    for (std::size_t k = 0; k < m_Measures.size(); ++k) {
+        const TMeasureSpan span = m_Measures[k];
+        const CPoint from = PointOfCurve(span.nCurve1, span.nIndex1);
+        const CPoint to = PointOfCurve(span.nCurve2, span.nIndex2);
+        CRect rc(from.x, from.y, to.x, to.y);
+        DrawMeasure(pDC, rc);
+    }
+}
+
+CPoint CXGraph::PointOfCurve(int nCurve, int nIndex)
+{
+    CXGraphDataSerie& curve = CurveAt(nCurve);
+    if (curve.m_nCount < 1)
+        return {m_rcInner.left, m_rcInner.bottom};
+    const TDataPoint& point = curve.m_pData[std::clamp(nIndex, 0, curve.m_nCount - 1)];
+    return {XAxisOf(curve).GetPointForValue(point).x, YAxisOf(curve).GetPointForValue(point).y};
+}
+
+void CXGraph::DrawMeasure(CDCEx* pDC, CRect& rc)
+{
+    CQuickFont font(L"Arial", -11, FW_BOLD);
+    const CFontSelector selectFont(&font, pDC, true);
+    const COLORREF background = pDC->SetBkColor(m_crInnerColor);
+    if (rc.IsRectEmpty() && m_opOperation == opMeasure)
+        rc = m_rcMeasure = LiveMeasureRect();
+
+    DrawMeasureLines(pDC, rc);
+    DrawMeasureArrows(pDC, rc);
+    const int mode = pDC->SetBkMode(TRANSPARENT);
+    DrawMeasureTexts(pDC, rc);
+    pDC->SetBkMode(mode);
+    pDC->SetBkColor(background);
+}
+
+CRect CXGraph::LiveMeasureRect() const
+{
+    return CRect(std::max(m_ptLButtonDown.x, m_rcInner.left), std::max(m_ptLButtonDown.y, m_rcInner.top),
+                 std::min(m_ptCurrent.x, m_rcInner.right), std::min(m_ptCurrent.y, m_rcInner.bottom));
+}
+
+void CXGraph::DrawMeasureLines(CDCEx* pDC, const CRect& rc)
+{
+    {
+        CPenSelector pen(GuideColor, 1, pDC, PS_DOT);
+        pDC->MoveTo(m_rcInner.left, rc.top);
+        pDC->LineTo(m_rcInner.right, rc.top);
+        pDC->MoveTo(rc.right, m_rcInner.top);
+        pDC->LineTo(rc.right, m_rcInner.bottom);
+    }
+    CPenSelector pen(ElbowColor, 1, pDC, PS_DOT);
+    pDC->MoveTo(rc.left, rc.top);
+    pDC->LineTo(rc.right, rc.top);
+    pDC->LineTo(rc.right, rc.bottom);
+}
+
+void CXGraph::DrawMeasureArrows(CDCEx* pDC, const CRect& rc)
+{
+    if (Distance(rc.left, rc.right) < SmallestSpan)
+        DrawTriangleUp(CPoint(rc.right - 3, rc.top + 3), ArrowSize, ElbowColor, false, pDC);
+    else
+        DrawTriangleLeft(CPoint(rc.left, rc.top - 3), ArrowSize, ElbowColor, false, pDC);
+    if (Distance(rc.top, rc.bottom) < SmallestSpan)
+        DrawTriangleRight(CPoint(rc.right - 6, rc.bottom - 6), ArrowSize, ElbowColor, false, pDC);
+    else
+        DrawTriangleDown(CPoint(rc.right - 3, rc.bottom - 6), ArrowSize, ElbowColor, false, pDC);
+}
+
+// Placed by the span's own ends, but read off the curves of the latest drag.
+void CXGraph::DrawMeasureTexts(CDCEx* pDC, CRect rc)
+{
+    const CXGraphDataSerie& first = CurveAt(m_nCursorCurve);
+    const CXGraphDataSerie& second = CurveAt(m_nMeasureCurve2);
+    const double fromX = XAxisOf(first).GetValueForPos(rc.left);
+    const double toX = XAxisOf(second).GetValueForPos(rc.right);
+    const CString textX = XAxisOf(first).FormatValue(toX - fromX);
+    if (Distance(rc.left, rc.right) > pDC->GetTextExtent(textX).cx)
+        pDC->DrawText(textX, &rc, DT_CENTER | DT_SINGLELINE | DT_NOCLIP);
+
+    const double fromY = PointSearch::Y(*this, m_nCursorCurve, fromX);
+    const double toY = PointSearch::Y(*this, m_nMeasureCurve2, toX);
+    const CXGraphAxis& axis = YAxisOf(first);
+    const CString textY =
+        AfxFormatNumber(axis.m_cDisplayFmt, std::fabs(toY - fromY)) + L" " + axis.m_cLabel;
+    if (Distance(rc.top, rc.bottom) > pDC->GetTextExtent(textY).cy)
+        pDC->DrawText(textY, &rc, DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP);
+}

@@ -1,0 +1,86 @@
+// A print job of one page.
+
+#include "base/Trunc.h"
+#include "draw/QuickFont.h"
+#include "draw/Selectors.h"
+#include "framework/windowing/ModuleState.h"
+#include "framework/windowing/PrintDialog.h"
+#include "graph/XGraph.h"
+
+namespace
+{
+constexpr int TextGap = 5; // between header or footer and the page that is left
+
+// Stands for the time of the job, however it ends.
+class CPrintTarget
+{
+public:
+    CPrintTarget(CXGraph& graph, CDCEx& canvas) : m_Graph(graph) { graph.m_pPrintDC = &canvas; }
+    ~CPrintTarget() { m_Graph.m_pPrintDC = nullptr; }
+    CPrintTarget(const CPrintTarget&) = delete;
+    CPrintTarget& operator=(const CPrintTarget&) = delete;
+
+private:
+    CXGraph& m_Graph;
+};
+} // namespace
+
+void CXGraph::Print()
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    CPrintDialog dialog(FALSE,
+                        PD_NOPAGENUMS | PD_NOSELECTION | PD_USEDEVMODECOPIES | PD_HIDEPRINTTOFILE);
+    if (dialog.DoModal() != IDOK || dialog.GetPrinterDC() == nullptr)
+        return;
+    PrintTo(dialog.GetPrinterDC());
+}
+
+void CXGraph::PrintTo(HDC hPrinter)
+{
+    CDCEx canvas;
+    canvas.Attach(hPrinter); // the canvas deletes the context with itself
+    canvas.InitScale(hPrinter);
+    m_rcPrint.SetRect(0, 0, Trunc(canvas.GetDeviceCaps(HORZRES) / canvas.m_fScaleX),
+                      Trunc(canvas.GetDeviceCaps(VERTRES) / canvas.m_fScaleY));
+    canvas.m_bScaling = true;
+    const CPrintTarget target(*this, canvas);
+
+    DOCINFOW document = {};
+    document.cbSize = sizeof document;
+    document.lpszDocName = L"Graph";
+    if (::StartDocW(hPrinter, &document) <= 0)
+        return;
+    ::StartPage(hPrinter);
+    PaintPage(canvas);
+    ::EndPage(hPrinter);
+    ::EndDoc(hPrinter);
+}
+
+void CXGraph::PaintPage(CDCEx& canvas)
+{
+    m_rcPrint.top += PrintCentred(canvas, m_strPrintHeader, true);
+    m_rcPrint.bottom -= PrintCentred(canvas, m_strPrintFooter, false);
+    PaintFrame(&canvas);
+}
+
+// The height that the text takes of the page, with its gap; nothing for an empty text.
+int CXGraph::PrintCentred(CDCEx& canvas, const CString& text, bool top)
+{
+    if (text.IsEmpty())
+        return 0;
+    CQuickFont font(L"Arial", 12, FW_NORMAL);
+    int height = 0;
+    {
+        CFontSelector measure(&font, &canvas, false);
+        height = canvas.GetTextExtent(text).cy;
+    }
+    CFontSelector draw(&font, &canvas, true);
+    CRect place = m_rcPrint;
+    if (top)
+        place.bottom = place.top + height;
+    else
+        place.top = place.bottom - height;
+    canvas.SetBkMode(TRANSPARENT);
+    canvas.DrawText(text, &place, DT_CENTER);
+    return height + TextGap;
+}

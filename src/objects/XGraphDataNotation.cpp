@@ -1,0 +1,65 @@
+#include "objects/XGraphDataNotation.h"
+
+#include "draw/DCEx.h"
+#include "draw/Selectors.h"
+#include "framework/windowing/Archive.h"
+#include "graph/XGraph.h"
+#include "objects/ObjectFont.h"
+
+IMPLEMENT_SERIAL(CXGraphDataNotation, CXGraphObject, 1)
+
+namespace
+{
+constexpr COLORREF Black = 0x000000;
+constexpr COLORREF White = 0xFFFFFF;
+constexpr int BoxAbove = 20; // pixels from the box's top down to the point
+} // namespace
+
+CXGraphDataNotation::CXGraphDataNotation()
+{
+    m_bCanEdit = false;
+    const LOGFONTW font = ObjectFont::Arial(12, FW_NORMAL);
+    m_Font.CreateFontIndirect(&font);
+}
+
+void CXGraphDataNotation::Serialize(CArchive& ar)
+{
+    CXGraphObject::Serialize(ar);
+    if (ar.IsStoring())
+        ar << m_fXVal << m_fYVal << m_nCurve << m_nIndex << m_cText;
+    else
+        ar >> m_fXVal >> m_fYVal >> m_nCurve >> m_nIndex >> m_cText;
+}
+
+void CXGraphDataNotation::Draw(CDCEx* pDC)
+{
+    if (!m_bVisible)
+        return;
+    if (m_bSizing)
+        m_Tracker.Draw(pDC);
+    const CFontSelector selectFont(&m_Font, pDC, true);
+    CXGraphDataSerie& curve = *m_pGraph->GetCurve(m_nCurve);
+    const TDataPoint value{m_fXVal, m_fYVal};
+    const CPoint point(m_pGraph->GetXAxis(curve.m_nXAxis)->GetPointForValue(value).x,
+                       m_pGraph->GetYAxis(curve.m_nYAxis)->GetPointForValue(value).y);
+    PlaceBox(pDC, point);
+
+    m_rcObject.InflateRect(1, 1);
+    pDC->FillSolidRect(&m_rcObject, Black);
+    m_rcObject.DeflateRect(1, 1);
+    pDC->FillSolidRect(&m_rcObject, White);
+    pDC->DrawText(m_cText, &m_rcObject, DT_CENTER);
+    pDC->FillSolidRect(point.x - 1, point.y - 1, 3, 3, Black);
+    pDC->MoveTo(point);
+    pDC->LineTo(point.x, m_rcObject.bottom);
+}
+
+void CXGraphDataNotation::PlaceBox(CDCEx* pDC, CPoint point)
+{
+    if (!m_bPositioned) {
+        m_rcObject.SetRect(point.x, point.y - BoxAbove, point.x + 1, point.y);
+        pDC->DrawText(m_cText, &m_rcObject, DT_CALCRECT | DT_CENTER);
+        m_bPositioned = true;
+    }
+    m_rcObject.OffsetRect(point.x - m_rcObject.left, point.y - BoxAbove - m_rcObject.top);
+}
