@@ -91,14 +91,35 @@ public:
     }
 
 private:
+    // A window beyond the screen's edges has no pixels there, so it passes by in pieces.
     bool Copy(HWND window) const
+    {
+        const HWND frame = GetAncestor(window, GA_ROOT);
+        const int stepX = GetSystemMetrics(SM_CXSCREEN);
+        const int stepY = GetSystemMetrics(SM_CYSCREEN);
+        for (int y = 0; y < m_height; y += stepY) {
+            for (int x = 0; x < m_width; x += stepX) {
+                SetWindowPos(frame, nullptr, -x, -y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+                RedrawWindow(window, nullptr, nullptr,
+                             RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+                const RECT piece = {x, y, std::min(x + stepX, m_width), std::min(y + stepY, m_height)};
+                if (!CopyPiece(window, piece)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
+    bool CopyPiece(HWND window, const RECT& piece) const
     {
         const HDC source = GetDC(window);
         const HDC target = CreateCompatibleDC(source);
         bool done = false;
         if (source && target) {
             const HGDIOBJ before = SelectObject(target, m_bitmap.get());
-            done = BitBlt(target, 0, 0, m_width, m_height, source, 0, 0, SRCCOPY) != FALSE;
+            done = BitBlt(target, piece.left, piece.top, piece.right - piece.left,
+                          piece.bottom - piece.top, source, piece.left, piece.top, SRCCOPY) != FALSE;
             SelectObject(target, before);
             GdiFlush();
         }
@@ -118,7 +139,6 @@ private:
 void SaveWindowAsPng(HWND window, const std::u16string& path)
 {
     const GdiplusSession session;
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     Capture(window).Save(path);
 }
 

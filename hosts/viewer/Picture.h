@@ -8,7 +8,8 @@
 namespace Viewer
 {
 
-// Paints the window, which is shown, and writes what is then in it. Throws Error(NoPicture).
+// Paints the window, which is shown at its frame's top left corner, and writes what is then in it.
+// The frame is moved about for that if it is larger than the screen. Throws Error(NoPicture).
 void SaveWindowAsPng(HWND window, const std::u16string& path);
 
 } // namespace Viewer

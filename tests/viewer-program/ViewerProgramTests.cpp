@@ -8,7 +8,7 @@ using ViewerRun::Beside;
 using ViewerRun::Pixels;
 using ViewerRun::Process;
 using ViewerRun::Result;
-using ViewerRun::Run;
+using ViewerRun::RunViewer;
 using ViewerRun::TemporaryFile;
 
 namespace
@@ -35,7 +35,7 @@ bool Contains(const std::string& text, std::string_view part)
 
 TEST(ViewerProgram, HelpNamesTheOptionsAndEndsWithZero)
 {
-    const Result result = Run(L"--help");
+    const Result result = RunViewer(L"--help");
 
     EXPECT_EQ(0u, result.exitCode);
     for (const char* option : {"--x", "--y", "--y2", "--png", "--size", "--registered", "Exit codes"}) {
@@ -45,7 +45,7 @@ TEST(ViewerProgram, HelpNamesTheOptionsAndEndsWithZero)
 
 TEST(ViewerProgram, AnUnknownOptionEndsWithTwo)
 {
-    const Result result = Run(L"--nonsense");
+    const Result result = RunViewer(L"--nonsense");
 
     EXPECT_EQ(2u, result.exitCode);
     EXPECT_TRUE(Contains(result.output, "--nonsense")) << result.output;
@@ -53,7 +53,7 @@ TEST(ViewerProgram, AnUnknownOptionEndsWithTwo)
 
 TEST(ViewerProgram, AFileThatIsNotThereEndsWithOne)
 {
-    const Result result = Run(L"no-such-file.csv --png x.png");
+    const Result result = RunViewer(L"no-such-file.csv --png x.png");
 
     EXPECT_EQ(1u, result.exitCode);
     EXPECT_TRUE(Contains(result.output, "no-such-file.csv")) << result.output;
@@ -63,7 +63,7 @@ TEST(ViewerProgram, AFileWithoutNumbersEndsWithOne)
 {
     const TemporaryFile words(L"words.csv", "a,b\nx,y\n");
 
-    const Result result = Run(Quoted(words.Path()) + L" --png x.png");
+    const Result result = RunViewer(Quoted(words.Path()) + L" --png x.png");
 
     EXPECT_EQ(1u, result.exitCode);
     EXPECT_TRUE(Contains(result.output, "no column holds numbers")) << result.output;
@@ -74,8 +74,8 @@ TEST(ViewerProgram, DrawsAPictureOfTheSizeAskedForAndTellsWhatItSkipped)
     const TemporaryFile data(L"weather.csv", weather);
     const TemporaryFile picture(L"weather.png");
 
-    const Result result = Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
-                              L" --size 500x300 --y temp --y2 wind");
+    const Result result = RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
+                                    L" --size 500x300 --y temp --y2 wind");
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
     EXPECT_TRUE(Contains(result.output, "temp: 4 points\n")) << result.output;
@@ -92,8 +92,8 @@ TEST(ViewerProgram, DrawsDatesBefore1970AcrossTheWholePlot)
     const TemporaryFile data(L"old.csv", "date,v\n1958-03-01,315\n1980-01-01,338\n2020-04-01,416\n");
     const TemporaryFile picture(L"old.png");
 
-    const Result result =
-        Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) + L" --size 800x400 --no-legend");
+    const Result result = RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
+                                    L" --size 800x400 --no-legend");
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
     const Pixels::Columns columns = Pixels(picture.Path()).ColumnsWith(firstCurve);
@@ -105,21 +105,28 @@ TEST(ViewerProgram, DrawsPicturesLargerThanTheScreen)
     const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");
     const TemporaryFile picture(L"line.png");
     const int width = GetSystemMetrics(SM_CXSCREEN) + 400;
+    const int height = GetSystemMetrics(SM_CYSCREEN) + 300;
 
-    const Result result = Run(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
-                              L" --no-legend --size " + std::to_wstring(width) + L"x200");
+    const Result result =
+        RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) + L" --no-legend --size " +
+                  std::to_wstring(width) + L"x" + std::to_wstring(height));
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
     const Pixels pixels(picture.Path());
     EXPECT_EQ(width, pixels.Width());
-    EXPECT_GT(pixels.ColumnsWith(firstCurve).last, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(height, pixels.Height());
+    // The line rises from the lower left: a column for every pixel of its way, without a gap.
+    const Pixels::Columns columns = pixels.ColumnsWith(firstCurve);
+    EXPECT_GT(columns.last, width - 300);
+    EXPECT_EQ(columns.last - columns.first + 1, columns.count);
+    EXPECT_NE(RGB(0, 0, 0), pixels.At(width - 1, height - 1));
 }
 
 TEST(ViewerProgram, APictureThatCannotBeWrittenEndsWithFour)
 {
     const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");
 
-    const Result result = Run(Quoted(data.Path()) + L" --png C:\\no\\such\\folder\\x.png");
+    const Result result = RunViewer(Quoted(data.Path()) + L" --png C:\\no\\such\\folder\\x.png");
 
     EXPECT_EQ(4u, result.exitCode);
     EXPECT_TRUE(Contains(result.output, "can't write")) << result.output;
@@ -151,9 +158,9 @@ TEST(ViewerProgram, UsesTheRegisteredServerOnlyWhenAsked)
         Quoted(data.Path()) + L" --registered --png " + Quoted(picture.Path());
 
     ASSERT_EQ(0u, Register(L"/s"));
-    const Result registered = Run(arguments);
+    const Result registered = RunViewer(arguments);
     ASSERT_EQ(0u, Register(L"/s /u"));
-    const Result unregistered = Run(arguments);
+    const Result unregistered = RunViewer(arguments);
 
     EXPECT_EQ(0u, registered.exitCode) << registered.output;
     EXPECT_EQ(3u, unregistered.exitCode);

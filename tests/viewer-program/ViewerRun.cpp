@@ -95,7 +95,7 @@ DWORD Process::ExitCode()
     return code;
 }
 
-Result Run(std::wstring_view arguments)
+Result RunViewer(std::wstring_view arguments)
 {
     Process process(arguments);
     const DWORD code = process.ExitCode();

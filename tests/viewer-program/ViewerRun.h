@@ -51,7 +51,7 @@ struct Result {
     std::string output;
 };
 
-[[nodiscard]] Result Run(std::wstring_view arguments);
+[[nodiscard]] Result RunViewer(std::wstring_view arguments);
 
 // `program` in the folder of this test program, in quotes.
 [[nodiscard]] std::wstring Beside(std::wstring_view program);
