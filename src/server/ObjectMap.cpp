@@ -1,11 +1,7 @@
 #include "server/ObjectMap.h"
 
-#if __has_include("automation/Chart2d.h")
 #include "automation/Chart2d.h"
-#endif
-#if __has_include("automation/PieChart3d.h")
 #include "automation/PieChart3d.h"
-#endif
 #include "automation/SGraph.h"
 #include "automation/SGraphAxis.h"
 #include "automation/SGraphBitmap.h"
@@ -20,12 +16,8 @@ namespace
 {
 
 BEGIN_OBJECT_MAP(ObjectMap)
-#if __has_include("automation/PieChart3d.h")
 OBJECT_ENTRY(CLSID_PieChart3d, CPieChart3d)
-#endif
-#if __has_include("automation/Chart2d.h")
 OBJECT_ENTRY(CLSID_Chart2d, CChart2d)
-#endif
 OBJECT_ENTRY(CLSID_SGraphObject, CSGraphObject)
 OBJECT_ENTRY(CLSID_SGraphAxis, CSGraphAxis)
 OBJECT_ENTRY(CLSID_SGraphLogAxis, CSGraphLogAxis)

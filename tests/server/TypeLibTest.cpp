@@ -176,7 +176,12 @@ TEST_F(TypeLib, InterfacesAreDualAndFitForAutomation)
         EXPECT_EQ(dispatch.typekind, TKIND_DISPATCH) << expected.name;
         EXPECT_EQ(Text(dispatch.guid), expected.iid) << expected.name;
         EXPECT_TRUE(dispatch.wTypeFlags & TYPEFLAG_FDUAL) << expected.name;
-        EXPECT_TRUE(dispatch.wTypeFlags & TYPEFLAG_FOLEAUTOMATION) << expected.name;
+        const TYPEATTR table = Attributes(Table(expected.name));
+        EXPECT_EQ(table.typekind, TKIND_INTERFACE) << expected.name;
+        EXPECT_EQ(Text(table.guid), expected.iid) << expected.name;
+        EXPECT_TRUE(table.wTypeFlags & TYPEFLAG_FDUAL) << expected.name;
+        EXPECT_TRUE(table.wTypeFlags & TYPEFLAG_FOLEAUTOMATION)
+            << expected.name << std::hex << table.wTypeFlags;
     }
 }
 
