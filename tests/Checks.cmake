@@ -1,5 +1,6 @@
 # What `ctest` runs for the Windows build. The programs run under Wine by scripts/run-wine.sh;
 # every run takes a prefix and a display of its own, so several may run at once.
+# GoogleTest takes a path for absolute only with a drive; Z: is the root.
 set(run_wine ${CMAKE_COMMAND} -E env VANTOPLEX_BUILD=${CMAKE_BINARY_DIR}/..
   ${PROJECT_SOURCE_DIR}/scripts/run-wine.sh)
 set(results ${CMAKE_BINARY_DIR}/results)
@@ -11,7 +12,7 @@ set(VANTOPLEX_SHARDS 6 CACHE STRING "Number of processes that the tests are spre
 math(EXPR last "${VANTOPLEX_SHARDS} - 1")
 foreach(shard RANGE ${last})
   add_test(NAME windows-${shard} COMMAND ${run_wine} -t 580 $<TARGET_FILE:vantoplex-tests>
-    --gtest_brief=1 --gtest_output=xml:${results}/windows-${shard}.xml)
+    --gtest_brief=1 --gtest_output=xml:Z:${results}/windows-${shard}.xml)
   set_tests_properties(windows-${shard} PROPERTIES
     TIMEOUT 600
     ENVIRONMENT "GTEST_TOTAL_SHARDS=${VANTOPLEX_SHARDS};GTEST_SHARD_INDEX=${shard}")
