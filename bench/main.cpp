@@ -7,6 +7,7 @@
 //   search  ratio to finding 800 column starts by binary search
 //   copy    ratio to copying the array
 
+#include "Chart2dBench.h"
 #include "Floors.h"
 #include "Scene.h"
 #include "Stopwatch.h"
@@ -130,5 +131,6 @@ int main(int argc, char** argv)
     TimeManyCurves(options);
     TimeScatter(options);
     TimeSetData(options);
+    BenchChart2d(options.nRuns);
     return 0;
 }

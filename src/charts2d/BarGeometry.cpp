@@ -3,18 +3,11 @@
 #include <algorithm>
 
 #include "base/Trunc.h"
+#include "charts2d/DeviceReach.h"
 #include "charts2d/Wrap32.h"
 
 namespace BarGeometry
 {
-
-namespace
-{
-
-// GDI computes in 27 bits and a sign: edges beyond are drawn in, since nothing of them shows.
-constexpr std::int32_t farthest = 1 << 26;
-
-} // namespace
 
 TBars Measure(TPoint position, TSize size, std::int32_t segments, std::int32_t series) noexcept
 {
@@ -52,7 +45,7 @@ std::int32_t GrownHeight(std::int32_t height, std::int32_t percent) noexcept
 TRect Rectangle(const TBars& bars, std::int32_t left, std::int32_t height) noexcept
 {
     using namespace Wrap32;
-    const auto within = [](std::int32_t edge) { return std::clamp(edge, -farthest, farthest); };
+    const auto within = [](std::int32_t edge) { return std::clamp(edge, -deviceReach, deviceReach); };
     return {within(left), within(Sub(bars.nBase, height)), within(Add(left, bars.nWidth)),
             within(bars.nBase)};
 }

@@ -1,6 +1,5 @@
 #include "charts2d/BarGraph.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "base/Trunc.h"
@@ -8,24 +7,6 @@
 #include "charts2d/FadeStep.h"
 #include "charts2d/SeriesPainter.h"
 #include "charts2d/ValueTable.h"
-
-namespace
-{
-
-TRect Union(const TRect& a, const TRect& b) noexcept
-{
-    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right),
-            std::max(a.bottom, b.bottom)};
-}
-
-// Edges in ascending order, as GDI sees them.
-TRect Ordered(const TRect& rect) noexcept
-{
-    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom),
-            std::max(rect.left, rect.right), std::max(rect.top, rect.bottom)};
-}
-
-} // namespace
 
 C2DBarGraph::C2DBarGraph(TPoint position, TSize size)
     : m_pLabelsFont(ChartPainter::MakeFont(Trunc(size.cy * 0.1), 0, FW_NORMAL, L"Arial")),
@@ -64,7 +45,6 @@ void C2DBarGraph::Draw(HDC hDC)
 void C2DBarGraph::DrawSteps(HDC hDC, const CValueTable& table, const TBarPicture& picture) const
 {
     std::optional<CFadeStep> fade;
-    std::optional<TRect> faded; // the bars that the fade has taken so far
     HDC canvas = hDC;
     for (const TBarStep& step : picture.Steps) {
         const auto place = static_cast<std::size_t>(step.nIndex);
@@ -74,20 +54,20 @@ void C2DBarGraph::DrawSteps(HDC hDC, const CValueTable& table, const TBarPicture
             break;
         case TBarStep::EKind::bar:
             ChartPainter::DrawRectangle(canvas, step.rcBar, table.m_Series[place]->crColor);
-            if (fade) {
-                const TRect bar = Ordered(step.rcBar);
-                faded = faded ? Union(*faded, bar) : bar;
-            }
+            if (fade)
+                fade->Touch(step.rcBar);
             break;
         case TBarStep::EKind::beginFade:
-            fade.emplace(hDC, m_szWindow);
+            fade.emplace(hDC, m_szWindow, m_ptGraph, m_szGraph, step.rcBar);
             canvas = fade->Canvas();
             break;
         case TBarStep::EKind::blend:
-            if (fade && faded)
-                fade->Blend(m_ptGraph, m_szGraph, *faded, m_Animation.m_nAnimationPercent);
+            if (fade)
+                fade->Blend(m_Animation.m_nAnimationPercent);
             break;
         case TBarStep::EKind::endFade:
+            if (fade)
+                fade->Finish();
             fade.reset();
             canvas = hDC;
             break;

@@ -1,5 +1,8 @@
 #include "charts2d/BarPicture.h"
 
+#include <optional>
+
+#include "charts2d/Rectangles.h"
 #include "charts2d/Wrap32.h"
 
 namespace BarPicture
@@ -61,6 +64,27 @@ private:
     static std::size_t Place(std::int32_t index) noexcept { return static_cast<std::size_t>(index); }
 
     void Mark(EKind kind) { m_Picture.Steps.push_back({.kind = kind, .ptLabel = {}, .rcBar = {}}); }
+
+    [[nodiscard]] std::size_t BeginFade()
+    {
+        Mark(EKind::beginFade);
+        return m_Picture.Steps.size() - 1;
+    }
+
+    // Tells the step that began it what the bars between cover.
+    void EndFade(std::size_t begin)
+    {
+        std::optional<TRect> covered;
+        for (std::size_t i = begin + 1; i < m_Picture.Steps.size(); ++i) {
+            const TBarStep& step = m_Picture.Steps[i];
+            if (step.kind == EKind::bar) {
+                const TRect bar = Rectangles::Ordered(step.rcBar);
+                covered = covered ? Rectangles::Around(*covered, bar) : bar;
+            }
+        }
+        m_Picture.Steps[begin].rcBar = covered.value_or(TRect{});
+        Mark(EKind::endFade);
+    }
 
     void Label(std::int32_t segment, std::int32_t left)
     {
@@ -156,10 +180,10 @@ private:
             return;
 
         SteppedLabel(fading);
-        Mark(EKind::beginFade);
+        const std::size_t begin = BeginFade();
         Group(m_Picture.Bars.nFixedStartX, fading, wholeHeight);
         Mark(EKind::blend);
-        Mark(EKind::endFade);
+        EndFade(begin);
         for (std::int32_t segment = 0; segment < Segments(); ++segment) {
             if (SegmentId(segment) < SegmentId(fading)) {
                 SteppedLabel(segment);
@@ -177,12 +201,12 @@ private:
         if (fading == Series())
             return;
 
-        Mark(EKind::beginFade);
+        const std::size_t begin = BeginFade();
         for (std::int32_t segment = 0; segment < Segments(); ++segment) {
             Bar(m_Picture.Bars.nFixedStartX, segment, fading, wholeHeight);
             Mark(EKind::blend);
         }
-        Mark(EKind::endFade);
+        EndFade(begin);
         for (std::int32_t series = 0; series < Series(); ++series) {
             if (SeriesId(series) < SeriesId(fading))
                 WholeSeries(series, wholeHeight);

@@ -15,7 +15,7 @@ struct TBarStep {
     enum class EKind {
         label,     // nIndex: place of the segment; ptLabel: upper middle of the text
         bar,       // nIndex: place of the series; rcBar
-        beginFade, // what follows is drawn aside ...
+        beginFade, // what follows is drawn aside, inside rcBar ...
         blend,     // ... and blended into the picture at these points
         endFade
     };

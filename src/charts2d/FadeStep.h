@@ -1,10 +1,21 @@
 #pragma once
-// Fading: shapes are drawn on a scratch copy of the target, and the copy is blended into the
-// target with a constant alpha.
+// Fading: shapes are drawn on a scratch copy of the target and blended from there into the
+// graph area with a constant alpha.
 //
-//   target --copy--> first  <- shapes are drawn here (m_hMemDC)
-//          --copy--> second <- alpha blend of first; its corner pixel is the key colour
-//   target <--all but the key colour-- second
+//   target --copy--> first  <- shapes are drawn here (Canvas)
+//          --copy--> second <- alpha blend of first
+//          --copy--> result <- all of second but the pixels of the key colour, which is that of
+//                              second at the graph area's corner
+//   target <--------- result, at the end
+//
+// Only where shapes are drawn do the copies differ, and blending equal pixels changes nothing,
+// so the copies hold the part of the graph area that the shapes reach, and each blend works on
+// the rectangles of the shapes. The transparent copy goes straight over the pixels: the
+// platform's own takes longer than all the rest of a frame.
+
+#include <cstdint>
+#include <span>
+#include <vector>
 
 #include "base/Geometry.h"
 
@@ -13,35 +24,51 @@
 class CFadeStep
 {
 public:
-    // Both copies have the window's size.
-    CFadeStep(HDC target, TSize window);
+    // The sizes of the window and of the graph area in it, and the rectangle around all shapes
+    // that will be drawn; what they reach outside of the area is not blended.
+    CFadeStep(HDC target, TSize window, TPoint position, TSize size, const TRect& shapes);
     CFadeStep(const CFadeStep&) = delete;
     CFadeStep& operator=(const CFadeStep&) = delete;
-    ~CFadeStep() = default;
 
+    // Takes the window's coordinates.
     [[nodiscard]] HDC Canvas() const noexcept { return m_First.m_hMemDC; }
 
-    // Blends the part of the area (X, Y, W, H) that lies in `changed`: elsewhere the copies are
-    // equal, and blending equal pixels changes nothing. percent is that of the full strength.
-    void Blend(TPoint position, TSize size, const TRect& changed, double percent) const;
+    // Tells of a shape that was drawn on the canvas: its rectangle, edges in any order.
+    void Touch(const TRect& shape);
+
+    // Blends every shape that was told of so far, those of earlier blends again.
+    void Blend(double percent);
+
+    // Shows the result on the target.
+    void Finish() const;
 
     // Alpha of a percent: Trunc(percent / 100 * 255).
     [[nodiscard]] static BYTE Alpha(double percent) noexcept;
 
 private:
-    // A copy of the target in memory.
+    // A copy in memory of a part of the target, 32 bits a pixel.
     struct TScratch {
-        TScratch(HDC target, TSize window);
+        TScratch(HDC target, const TRect& part);
         TScratch(const TScratch&) = delete;
         TScratch& operator=(const TScratch&) = delete;
         ~TScratch();
 
-        HDC m_hMemDC;
-        HBITMAP m_hBitmap;
-        HGDIOBJ m_hOldBitmap;
+        HDC m_hMemDC = nullptr;
+        HBITMAP m_hBitmap = nullptr;
+        HGDIOBJ m_hOldBitmap = nullptr;
+        std::uint32_t* m_pBits = nullptr; // null if there is no room for the copy
     };
 
+    [[nodiscard]] std::span<std::uint32_t> Row(const TScratch& scratch, const TRect& part,
+                                               std::int32_t y) const;
+    [[nodiscard]] std::uint32_t KeyColor() const;
+    void CopyButKey(const TRect& part, std::uint32_t key);
+
     HDC m_hTarget;
+    TPoint m_ptCorner; // of the graph area
+    TRect m_rcPart;    // of the window that the copies hold
     TScratch m_First;
     TScratch m_Second;
+    TScratch m_Result;
+    std::vector<TRect> m_Shapes; // disjoint, inside the part
 };

@@ -34,4 +34,12 @@ inline constexpr double fullCircle = 2.0 * 3.14159265358979323846;
 // An angle outside the circle gives no new point: `before` stands.
 [[nodiscard]] TPoint Rounded(TPoint position, TSize size, double angle, TPoint before) noexcept;
 
+// True if both points lie on one radial, seen from the middle of the box. A slice between them
+// has no width; the platform draws the whole ellipse for it.
+[[nodiscard]] bool OnOneRadial(TPoint position, TSize size, TPoint a, TPoint b) noexcept;
+
+// A rectangle around a slice with its outline: from `start` counterclockwise to `end`, the whole
+// box if the two are on one radial.
+[[nodiscard]] TRect Bounds(TPoint position, TSize size, TPoint start, TPoint end) noexcept;
+
 } // namespace FlatPieGeometry

@@ -5,6 +5,7 @@
 #include "base/Trunc.h"
 #include "charts2d/ChartPainter.h"
 #include "charts2d/FadeStep.h"
+#include "charts2d/FlatPieGeometry.h"
 
 C2DPieGraph::C2DPieGraph(TPoint position, TSize size)
     : m_pLegendFont(ChartPainter::MakeFont(Trunc(size.cy * 0.1), 0, FW_NORMAL, L"Arial")),
@@ -29,24 +30,32 @@ void C2DPieGraph::Resize(TSize size)
                                            L"Times New Roman");
 }
 
+TRect C2DPieGraph::Box() const noexcept
+{
+    return {m_ptGraph.x, m_ptGraph.y, m_ptGraph.x + m_szGraph.cx, m_ptGraph.y + m_szGraph.cy};
+}
+
 void C2DPieGraph::DrawSlice(HDC hDC, const TFlatPieSlice& slice) const
 {
     CBrush brush;
     brush.CreateSolidBrush(slice.pSegment->crColor);
     const ChartPainter::CSelection selection(hDC, brush);
-    ::Pie(hDC, m_ptGraph.x, m_ptGraph.y, m_ptGraph.x + m_szGraph.cx, m_ptGraph.y + m_szGraph.cy,
-          slice.ptStart.x, slice.ptStart.y, slice.ptEnd.x, slice.ptEnd.y);
+    const TRect box = Box();
+    ::Pie(hDC, box.left, box.top, box.right, box.bottom, slice.ptStart.x, slice.ptStart.y, slice.ptEnd.x,
+          slice.ptEnd.y);
 }
 
 void C2DPieGraph::Draw(HDC hDC)
 {
     const TFlatPiePicture picture = FlatPiePicture::Compose(m_Data, m_Animation, m_ptGraph, m_szGraph);
     if (picture.Fading) {
-        const CFadeStep fade(hDC, m_szWindow);
+        const TRect slice = FlatPieGeometry::Bounds(m_ptGraph, m_szGraph, picture.Fading->ptStart,
+                                                    picture.Fading->ptEnd);
+        CFadeStep fade(hDC, m_szWindow, m_ptGraph, m_szGraph, slice);
         DrawSlice(fade.Canvas(), *picture.Fading);
-        const TRect box{m_ptGraph.x, m_ptGraph.y, m_ptGraph.x + m_szGraph.cx,
-                        m_ptGraph.y + m_szGraph.cy};
-        fade.Blend(m_ptGraph, m_szGraph, box, m_Animation.m_dAnimationPercent);
+        fade.Touch(slice);
+        fade.Blend(m_Animation.m_dAnimationPercent);
+        fade.Finish();
     }
     for (const TFlatPieSlice& slice : picture.Slices)
         DrawSlice(hDC, slice);

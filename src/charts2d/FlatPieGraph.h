@@ -51,6 +51,7 @@ public:
     COLORREF m_crBackground = 0xFBFFFF; // the window's own counts; this is only kept
 
 private:
+    [[nodiscard]] TRect Box() const noexcept;
     void DrawSlice(HDC hDC, const TFlatPieSlice& slice) const;
 
     CFlatPieAnimation m_Animation;

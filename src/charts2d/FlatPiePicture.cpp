@@ -14,14 +14,19 @@ struct TBox {
     TSize Size;
 };
 
-bool IsVisible(const TFlatPieSlice& slice) noexcept
+bool HasWidth(const TBox& box, const TFlatPieSlice& slice) noexcept
 {
-    return slice.ptStart != slice.ptEnd || slice.pSegment->dPercent >= 50;
+    return !FlatPieGeometry::OnOneRadial(box.Position, box.Size, slice.ptStart, slice.ptEnd);
 }
 
-void Add(std::vector<TFlatPieSlice>& slices, const TFlatPieSlice& slice)
+bool IsVisible(const TBox& box, const TFlatPieSlice& slice) noexcept
 {
-    if (IsVisible(slice))
+    return HasWidth(box, slice) || slice.pSegment->dPercent >= 50;
+}
+
+void Add(std::vector<TFlatPieSlice>& slices, const TBox& box, const TFlatPieSlice& slice)
+{
+    if (IsVisible(box, slice))
         slices.push_back(slice);
 }
 
@@ -38,7 +43,7 @@ void Still(TFlatPiePicture& picture, const CFlatPieData& data, const TBox& box)
     for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext) {
         angle = Turned(angle, segment->dPercent);
         const TPoint end = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);
-        Add(picture.Slices, {segment, start, end});
+        Add(picture.Slices, box, {segment, start, end});
         start = end;
     }
 }
@@ -55,16 +60,18 @@ void Sweep(TFlatPiePicture& picture, const CFlatPieData& data, CFlatPieAnimation
         if (!(animation.m_dAnimationPercent > Trunc(drawn / data.m_dTotalPercent * 100 + 0.5))) {
             const TPoint sweepEnd =
                 FlatPieGeometry::Rounded(box.Position, box.Size, animation.m_dSweepAngle, end);
-            if (sweepEnd != end)
-                picture.Slices.push_back({segment, end, sweepEnd});
+            const TFlatPieSlice begun{segment, end, sweepEnd};
+            if (HasWidth(box, begun))
+                picture.Slices.push_back(begun);
             return;
         }
         animation.m_dDrawnPercent = drawn;
         start = FlatPieGeometry::Rounded(box.Position, box.Size, angle, start);
         angle += FlatPieGeometry::Angle(segment->dPercent);
         end = FlatPieGeometry::Rounded(box.Position, box.Size, angle, end);
-        if (start != end)
-            picture.Slices.push_back({segment, start, end});
+        const TFlatPieSlice whole{segment, start, end};
+        if (HasWidth(box, whole))
+            picture.Slices.push_back(whole);
     }
 }
 
@@ -81,7 +88,7 @@ void Fade(TFlatPiePicture& picture, const CFlatPieData& data, const CFlatPieAnim
             const TPoint end =
                 FlatPieGeometry::ByHalves(box.Position, box.Size, Turned(angle, segment->dPercent));
             const TFlatPieSlice slice{segment, fadeStart, end};
-            if (IsVisible(slice))
+            if (IsVisible(box, slice))
                 picture.Fading = slice;
             return;
         }
@@ -89,7 +96,7 @@ void Fade(TFlatPiePicture& picture, const CFlatPieData& data, const CFlatPieAnim
         const double endAngle = angle + FlatPieGeometry::Angle(segment->dPercent);
         const TPoint to = FlatPieGeometry::Rounded(box.Position, box.Size, endAngle, from);
         if (from != to || FlatPieGeometry::InCircle(endAngle))
-            Add(picture.Slices, {segment, from, to});
+            Add(picture.Slices, box, {segment, from, to});
         angle = endAngle;
         start = to;
         fadeStart = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);

@@ -24,7 +24,7 @@ struct TFlatPiePicture {
 namespace FlatPiePicture
 {
 
-// A slice whose two points fall together is left out unless it is the whole circle: one too
+// A slice whose two points lie on one radial is left out unless it is the whole circle: one too
 // thin for a pixel would otherwise cover the pie. A sweep leaves out the whole circle too.
 // Pointers are good until the data changes. A frame of a sweep tells the animation what it
 // drew whole.

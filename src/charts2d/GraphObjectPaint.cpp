@@ -46,7 +46,7 @@ void EraseClipBox(CDC& dc, const CBrush& brush)
 
 void CGraphObject::MakeFrame()
 {
-    CClientDC dc(this);
+    CClientDC dc(m_hWnd ? this : nullptr);
     MakePicture(dc, m_szGraph, m_pBitmap, m_pMemDC);
     MakePicture(dc, m_szGraph, m_pGradientBitmap, m_pGradientDC);
     if (m_pMemDC) // a bitmap is black at first

@@ -4,10 +4,21 @@
 #include <cmath>
 
 #include "base/Trunc.h"
+#include "charts2d/DeviceReach.h"
 #include "charts2d/Wrap32.h"
 
 namespace LineGeometry
 {
+
+namespace
+{
+
+std::int32_t Nearest(double pixel) noexcept
+{
+    return Trunc(std::floor(pixel + 0.5));
+}
+
+} // namespace
 
 TPlot Measure(TPoint position, TSize size, std::int32_t segments, std::int32_t series) noexcept
 {
@@ -60,7 +71,7 @@ std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest, std:
 
 bool CutToDevice(TPoint& from, TPoint& to) noexcept
 {
-    constexpr double farthest = 1 << 26;
+    constexpr double farthest = deviceReach;
     const double stepX = static_cast<double>(to.x) - from.x;
     const double stepY = static_cast<double>(to.y) - from.y;
     double enter = 0;
@@ -82,9 +93,9 @@ bool CutToDevice(TPoint& from, TPoint& to) noexcept
 
     const TPoint start = from;
     if (enter > 0)
-        from = {Trunc(start.x + enter * stepX), Trunc(start.y + enter * stepY)};
+        from = {Nearest(start.x + enter * stepX), Nearest(start.y + enter * stepY)};
     if (leave < 1)
-        to = {Trunc(start.x + leave * stepX), Trunc(start.y + leave * stepY)};
+        to = {Nearest(start.x + leave * stepX), Nearest(start.y + leave * stepY)};
     return true;
 }
 

@@ -37,8 +37,8 @@ struct TPlot {
 [[nodiscard]] std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest,
                                                std::int32_t whole) noexcept;
 
-// GDI computes in 27 bits and a sign. Cuts the line along itself to the square of that side;
-// false if none of it lies inside.
+// Cuts the line along itself to the square that the device reaches; false if none of it lies
+// inside.
 [[nodiscard]] bool CutToDevice(TPoint& from, TPoint& to) noexcept;
 
 } // namespace LineGeometry

@@ -87,7 +87,7 @@ TEST(BarHeight, OverAScaleOfNothingIsTheSmallestInt)
     EXPECT_EQ(BarGeometry::Height(bars, highest, 1), lowest);
 
     const TRect bar = BarGeometry::Rectangle(bars, 50, lowest);
-    EXPECT_EQ(bar, (TRect{50, -(1 << 26), 170, 114})); // from far above the window down to the base
+    EXPECT_EQ(bar, (TRect{50, -(1 << 16), 170, 114})); // from far above the window down to the base
 }
 
 TEST(BarHeight, GrowsFromTheTruncatedHeight)

@@ -124,6 +124,14 @@ TEST_F(BarPictureTest, SeriesFadeWithOneBlendABar)
                       "B0@44+73 B0@87+140 B0@130+206 ");
 }
 
+TEST_F(BarPictureTest, FadeTellsWhatItsBarsCover)
+{
+    At(CBarAnimation::seriesFade, 50);
+    const TBarPicture picture = Compose();
+    ASSERT_EQ(picture.Steps[3].kind, TBarStep::EKind::beginFade);
+    EXPECT_EQ(picture.Steps[3].rcBar, (TRect{44, 114 - 206, 130 + 16, 114}));
+}
+
 TEST_F(BarPictureTest, NothingFadesWhenNoSeriesIsLeftToFade)
 {
     At(CBarAnimation::seriesFade, 50);

@@ -142,6 +142,16 @@ TEST(FlatPieGeometry, AngleOutsideTheCircleLeavesThePointBefore)
     EXPECT_EQ(Rounded(position, size, std::nextafter(fullCircle, 7.0), {1, 2}), right);
 }
 
+TEST(FlatPieGeometry, BoundsHoldTheMiddleTheEndsAndTheFarthestPoints)
+{
+    using FlatPieGeometry::Bounds;
+    EXPECT_EQ(Bounds(position, size, right, top), (TRect{108, 20, 210, 73}));
+    EXPECT_EQ(Bounds(position, size, top, bottom), (TRect{10, 20, 113, 120}));
+    EXPECT_EQ(Bounds(position, size, bottom, right), (TRect{108, 68, 210, 120}));
+    EXPECT_EQ(Bounds(position, size, right, right), (TRect{10, 20, 210, 120}));
+    EXPECT_EQ(Bounds(position, size, left, top), (TRect{10, 20, 210, 120})); // three quarters
+}
+
 TEST(FlatPiePicture, StillSlicesFollowOneAnother)
 {
     CFlatPieData data;
@@ -172,8 +182,17 @@ TEST(FlatPiePicture, SliceTooThinForAPixelDoesNotCoverThePie)
 {
     CFlatPieData data;
     CFlatPieAnimation animation;
-    Fill(data, {40, 0.001, 10});
+    Fill(data, {50, 0.001, 10}); // its points are (10, 70) and (11, 70)
     EXPECT_EQ(Compose(data, animation).Slices.size(), 2U);
+}
+
+TEST(FlatPieGeometry, PointsOnOneRadialAreToldFromThoseOnOppositeOnes)
+{
+    using FlatPieGeometry::OnOneRadial;
+    EXPECT_TRUE(OnOneRadial(position, size, right, right));
+    EXPECT_TRUE(OnOneRadial(position, size, left, {left.x + 1, left.y}));
+    EXPECT_FALSE(OnOneRadial(position, size, left, right));
+    EXPECT_FALSE(OnOneRadial(position, size, left, {left.x, left.y + 1}));
 }
 
 TEST(FlatPiePicture, SweepDrawsWholeSlicesAndTheOneInProgress)

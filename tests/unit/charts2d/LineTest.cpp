@@ -92,8 +92,8 @@ TEST_F(LineTest, OverAScaleOfNothingPointsLieFarOutside)
     TPoint to{109, lowest + 113};
     ASSERT_TRUE(LineGeometry::CutToDevice(from, to));
     EXPECT_EQ(from, (TPoint{62, 100}));
-    EXPECT_EQ(to.y, -(1 << 26));
-    EXPECT_EQ(to.x, 63); // 47 * 2^26 / 2^31 = 1.5 of the way
+    EXPECT_EQ(to.y, -(1 << 16));
+    EXPECT_EQ(to.x, 62); // 47 * 2^16 / 2^31 of the way
     TPoint far{1, lowest};
     TPoint farther{2, lowest};
     EXPECT_FALSE(LineGeometry::CutToDevice(far, farther));

@@ -1,0 +1,339 @@
+// The window of the business chart: geometry, background, texts, repainting and the timer.
+
+#include "Chart2dHost.h"
+
+using Chart2dWindow = Chart2dTest;
+
+TEST_F(Chart2dWindow, SmallRectangleIsRaisedToTwoHundred)
+{
+    Create(kBar, {10, 20, 110, 120});
+    EXPECT_EQ(WindowSize().cx, 200);
+    EXPECT_EQ(WindowSize().cy, 200);
+}
+
+TEST_F(Chart2dWindow, StyleAndIdentifierAreItsOwn)
+{
+    Create(kBar);
+    EXPECT_EQ(static_cast<DWORD>(::GetWindowLongW(Handle(), GWL_STYLE)), 0x54800000u);
+    EXPECT_EQ(::GetDlgCtrlID(Handle()), 7);
+    EXPECT_EQ(::GetParent(Handle()), host.m_hWnd);
+    RECT rect = {};
+    ::GetWindowRect(Handle(), &rect);
+    EXPECT_EQ(rect.left, 10);
+    EXPECT_EQ(rect.top, 20);
+    EXPECT_EQ(WindowSize().cx, 640);
+}
+
+TEST_F(Chart2dWindow, SmallSizesAreRaisedSideBySide)
+{
+    Create(kBar);
+    EXPECT_EQ(chart->SetGraphSize(10, 500), S_OK);
+    EXPECT_EQ(WindowSize().cx, 200);
+    EXPECT_EQ(WindowSize().cy, 500);
+    chart->SetGraphSize(-5, (-2147483647 - 1));
+    EXPECT_EQ(WindowSize().cx, 200);
+    EXPECT_EQ(WindowSize().cy, 200);
+}
+
+TEST_F(Chart2dWindow, SizeThatNoPictureHoldsShowsTheBackgroundAndIsLeftAgain)
+{
+    Create(kBar);
+    FillBars({{100, 100}});
+    Redrawn();
+    for (const int side : {2147483647, 100000, 30000}) {
+        EXPECT_EQ(chart->SetGraphSize(side, side), S_OK);
+        chart->Invalidate(1);
+        chart->SetGraphAnimation(1, 26);
+        Tick(3);
+        chart->SetGraphAnimation(0, 26);
+        const HDC hWindow = ::GetDC(Handle());
+        EXPECT_EQ(::GetPixel(hWindow, 150, 300), kWhite) << side;
+        ::ReleaseDC(Handle(), hWindow);
+    }
+    chart->SetGraphSize(640, 400);
+    EXPECT_EQ(Redrawn().At(150, 300), kRed);
+    EXPECT_EQ(WindowSize().cx, 640);
+}
+
+TEST_F(Chart2dWindow, PositionMovesTheWindowAndKeepsItsSize)
+{
+    Create(kLine);
+    EXPECT_EQ(chart->SetGraphPosition(-30, 40), S_OK);
+    RECT rect = {};
+    ::GetWindowRect(Handle(), &rect);
+    EXPECT_EQ(rect.left, -30);
+    EXPECT_EQ(rect.top, 40);
+    EXPECT_EQ(WindowSize().cx, 640);
+    EXPECT_EQ(WindowSize().cy, 400);
+}
+
+TEST_F(Chart2dWindow, GradientTypeIsToldAsTheStoredMode)
+{
+    Create(kBar);
+    int nType = -1;
+    chart->GetGradientFillType(&nType);
+    EXPECT_EQ(nType, 1);
+    for (const auto& [set, told] : {std::pair{21, 1}, {20, 0}, {21, 1}, {1, 0}, {99, 0}}) {
+        EXPECT_EQ(chart->SetGradientFillType(set), S_OK);
+        EXPECT_EQ(chart->GetGradientFillType(&nType), S_OK);
+        EXPECT_EQ(nType, told) << set;
+    }
+}
+
+TEST_F(Chart2dWindow, UnknownFillTypeIsSolid)
+{
+    Create(kBar);
+    int nType = -1;
+    for (const auto& [set, told] : {std::pair{11, 11}, {99, 10}, {11, 11}, {10, 10}}) {
+        EXPECT_EQ(chart->SetGraphFillType(set), S_OK);
+        EXPECT_EQ(chart->GetGraphFillType(&nType), S_OK);
+        EXPECT_EQ(nType, told) << set;
+    }
+}
+
+TEST_F(Chart2dWindow, GradientRunsFromCornerToCornerInEitherDirection)
+{
+    Create(kBar);
+    chart->ShowGraphLegend(0);
+    chart->SetGraphFillType(11);
+    chart->SetGraphGradientColors(0x000000, 0xC08040);
+    Picture picture = Redrawn(false);
+    EXPECT_EQ(picture.At(5, 0), picture.At(600, 0)); // top to bottom
+    EXPECT_TRUE(IsBlend(picture.At(5, 200), 0, 0xC08040, 127));
+    EXPECT_TRUE(IsBlend(picture.At(5, 397), 0, 0xC08040, 254));
+
+    chart->SetGradientFillType(20);
+    picture = Redrawn(false);
+    EXPECT_EQ(picture.At(5, 0), picture.At(5, 390)); // left to right
+    EXPECT_TRUE(IsBlend(picture.At(320, 20), 0, 0xC08040, 127));
+    EXPECT_TRUE(IsBlend(picture.At(637, 20), 0, 0xC08040, 254));
+}
+
+TEST_F(Chart2dWindow, SettersOfLooksDontRepaintAndThoseOfTextsDo)
+{
+    Create(kBar);
+    const auto repaints = [&](auto call) {
+        ::UpdateWindow(Handle());
+        call();
+        return ::GetUpdateRect(Handle(), nullptr, FALSE) != FALSE;
+    };
+    EXPECT_FALSE(repaints([&] { chart->ShowGraphLegend(0); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphTitleColor(1); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphSubtitleColor(1); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphTitleShadow(1); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphSubtitleShadow(1); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphFillType(11); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGradientFillType(20); }));
+    EXPECT_FALSE(repaints([&] { chart->SetGraphGradientColors(1, 2); }));
+    EXPECT_FALSE(repaints([&] { chart->Add2DBarGraphSegment(Text(L"s")); }));
+    EXPECT_FALSE(repaints([&] { chart->Add2DBarGraphSeries(Text(L"s"), 0); }));
+    EXPECT_FALSE(repaints([&] { chart->Set2DBarGraphValue(1, 1, 5); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphLegendTextColor(1); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphLegendBackgroundColor(1); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphLabelsColor(1); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphTitle(Text(L"t")); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphSubtitle(Text(L"t")); }));
+    EXPECT_TRUE(repaints([&] { chart->SetGraphBackgroundColor(1); }));
+    EXPECT_TRUE(repaints([&] { chart->Invalidate(0); }));
+}
+
+TEST_F(Chart2dWindow, LegendTextColourWaitsForARedrawOnASolidBackground)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    Redrawn();
+    chart->SetGraphLegendTextColor(kBlue);
+    EXPECT_EQ(Shoot().Count(kBlue), 0);
+    EXPECT_GT(Redrawn(true).Count(kBlue), 0); // an erase asks for it
+}
+
+TEST_F(Chart2dWindow, LegendTextColourShowsAtOnceOnAGradient)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    chart->SetGraphGradientColors(kWhite, kWhite);
+    chart->SetGraphFillType(11);
+    Redrawn(false);
+    chart->SetGraphLegendTextColor(kBlue);
+    EXPECT_GT(Shoot().Count(kBlue), 0);
+}
+
+TEST_F(Chart2dWindow, NewTitleBringsThePendingLegendAlong)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    Redrawn();
+    chart->SetGraphLegendTextColor(kBlue);
+    Shoot();
+    chart->SetGraphTitle(Text(L""));
+    EXPECT_GT(Shoot().Count(kBlue), 0);
+}
+
+TEST_F(Chart2dWindow, HiddenLegendStaysOnTheFrameUntilAnErase)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    chart->SetGraphLegendBackgroundColor(kGreen);
+    EXPECT_GT(Redrawn().Count(kGreen), 500);
+    chart->ShowGraphLegend(0);
+    EXPECT_GT(Redrawn(false).Count(kGreen), 500);
+    EXPECT_EQ(Redrawn(true).Count(kGreen), 0);
+}
+
+TEST_F(Chart2dWindow, LegendIsDrawnForOneAlone)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    chart->SetGraphLegendBackgroundColor(kGreen);
+    chart->ShowGraphLegend(2);
+    EXPECT_EQ(Redrawn().Count(kGreen), 0);
+    chart->ShowGraphLegend(1);
+    EXPECT_GT(Redrawn().Count(kGreen), 500);
+}
+
+TEST_F(Chart2dWindow, TitlesStandInTheirColoursAboveTheGraphArea)
+{
+    Create(kBar);
+    chart->SetGraphTitle(Text(L"Title"));
+    chart->SetGraphSubtitle(Text(L"Subtitle"));
+    chart->SetGraphTitleColor(kRed);
+    chart->SetGraphSubtitleColor(kBlue);
+    const Picture picture = Redrawn();
+    EXPECT_GT(picture.Count({32, 10, 600, 90}, kRed), 100);
+    EXPECT_GT(picture.Count({32, 80, 600, 108}, kBlue), 100);
+    EXPECT_EQ(picture.Count({0, 0, 32, 398}, kRed), 0);
+    EXPECT_EQ(picture.Count({0, 0, 638, 80}, kBlue), 0);
+}
+
+TEST_F(Chart2dWindow, ShadowsAreGreyAndForOneAlone)
+{
+    constexpr COLORREF shadow = 0x808080;
+    Create(kBar);
+    chart->ShowGraphLegend(0);
+    chart->SetGraphTitle(Text(L"Title"));
+    chart->SetGraphSubtitle(Text(L"Subtitle"));
+    chart->SetGraphTitleColor(kRed);
+    chart->SetGraphSubtitleColor(kRed);
+    chart->SetGraphTitleShadow(2);
+    chart->SetGraphSubtitleShadow(2);
+    EXPECT_EQ(Redrawn().Count(shadow), 0);
+    chart->SetGraphTitleShadow(1);
+    EXPECT_GT(Redrawn().Count({32, 10, 638, 90}, shadow), 50);
+    EXPECT_EQ(Redrawn().Count({32, 95, 638, 398}, shadow), 0);
+    chart->SetGraphSubtitleShadow(1);
+    EXPECT_GT(Redrawn().Count({32, 83, 638, 120}, shadow), 20);
+}
+
+TEST_F(Chart2dWindow, TitlesAreThereFromTheStart)
+{
+    RECT rect = {0, 0, 640, 400};
+    chart->Create(&rect, WireHandle(host.m_hWnd), 7);
+    chart->CreateGraph(kBar);
+    chart->ShowGraphLegend(0);
+    EXPECT_GT(Redrawn().Count({32, 10, 638, 135}, 0), 500);
+}
+
+TEST_F(Chart2dWindow, BackgroundAloneIsShownWithoutAChart)
+{
+    RECT rect = {0, 0, 640, 400};
+    chart->Create(&rect, WireHandle(host.m_hWnd), 7);
+    chart->SetGraphBackgroundColor(kGreen);
+    EXPECT_EQ(Redrawn().Count(kGreen), 638 * 398);
+    EXPECT_FALSE(::GetUpdateRect(Handle(), nullptr, FALSE));
+    chart->CreateGraph(5);
+    EXPECT_EQ(Redrawn().Count(kGreen), 638 * 398);
+    EXPECT_EQ(Redrawn(false).Count(kGreen), 638 * 398);
+}
+
+TEST_F(Chart2dWindow, PaintsWithoutAnEraseShowNoBlackFrame)
+{
+    RECT rect = {0, 0, 640, 400};
+    chart->Create(&rect, WireHandle(host.m_hWnd), 7);
+    ::UpdateWindow(Handle());
+    chart->CreateGraph(kBar);
+    chart->ShowGraphLegend(0);
+    EXPECT_EQ(Redrawn(false).At(5, 5), kWhite);
+    chart->SetGraphSize(640, 400);
+    EXPECT_EQ(Shoot().At(5, 5), kWhite);
+}
+
+TEST_F(Chart2dWindow, BackgroundOutsideTheClearedPartWaitsForAnErase)
+{
+    Create(kBar);
+    Redrawn();
+    chart->SetGraphBackgroundColor(kGreen);
+    ULONG color = 0;
+    chart->GetGraphBackgroundColor(&color);
+    EXPECT_EQ(color, static_cast<ULONG>(kGreen));
+    const Picture cleared = Shoot(); // (32, 140) to (416, 380)
+    EXPECT_EQ(cleared.At(415, 379), kGreen);
+    EXPECT_EQ(cleared.At(416, 379), kWhite);
+    EXPECT_EQ(cleared.At(415, 380), kWhite);
+    EXPECT_EQ(cleared.At(31, 200), kWhite);
+    EXPECT_EQ(Redrawn(true).At(416, 379), kGreen);
+}
+
+TEST_F(Chart2dWindow, PieClearsLessThanBarsAndLines)
+{
+    Create(kPie);
+    Redrawn();
+    chart->SetGraphBackgroundColor(kGreen);
+    const Picture cleared = Shoot(); // (32, 140) to (352, 340)
+    EXPECT_EQ(cleared.At(351, 339), kGreen);
+    EXPECT_EQ(cleared.At(352, 339), kWhite);
+    EXPECT_EQ(cleared.At(351, 340), kWhite);
+}
+
+TEST_F(Chart2dWindow, AnimationRunsATimerUntilItIsTurnedOff)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    long bAnimation = -1;
+    chart->GetGraphAnimation(&bAnimation);
+    EXPECT_EQ(bAnimation, 0);
+    EXPECT_FALSE(HasTimer());
+    chart->SetGraphAnimation(1, 20);
+    EXPECT_TRUE(HasTimer());
+    chart->SetGraphPosition(0, 0);
+    EXPECT_TRUE(HasTimer());
+    chart->SetGraphAnimation(2, 20);
+    EXPECT_FALSE(HasTimer());
+    chart->GetGraphAnimation(&bAnimation);
+    EXPECT_EQ(bAnimation, 2);
+    chart->SetGraphSize(400, 400);
+    EXPECT_FALSE(HasTimer());
+}
+
+TEST_F(Chart2dWindow, OtherAnimationValuesLeaveTheAxesAlone)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    chart->ShowGraphLegend(0);
+    EXPECT_GT(Redrawn().Count(kRed), 1000);
+    chart->SetGraphAnimation(2, 20);
+    const Picture axes = Redrawn();
+    EXPECT_EQ(axes.Count(kRed), 0);
+    EXPECT_EQ(axes.At(99, 250), 0u); // the vertical axis
+}
+
+TEST_F(Chart2dWindow, TimerComesThroughTheHostsLoop)
+{
+    Create(kBar);
+    FillBars({{100, 50}});
+    chart->ShowGraphLegend(0);
+    chart->SetGraphAnimation(1, 20);
+    Redrawn();
+    EXPECT_TRUE(host.PumpUntil([&] { return Picture(Handle()).Count(kRed) > 500; }));
+}
+
+TEST_F(Chart2dWindow, NewSizeLeavesTheAnimationWhereItWas)
+{
+    Create(kBar);
+    FillBars({{100, 100}});
+    chart->ShowGraphLegend(0);
+    AtTick(20, 50);
+    chart->SetGraphSize(640, 600);
+    EXPECT_TRUE(HasTimer());
+    // H = 300: base 210 + 285 - 3 = 492; half of trunc(240) above it
+    EXPECT_EQ(Column(Shoot(), 150, kRed, 598), (POINT{373, 490}));
+}
