@@ -202,6 +202,25 @@ TEST_F(AxisDrawing, ASelectedAxisHasAFocusFrame)
     EXPECT_GT(Shoot().CountDifferences(before), 10);
 }
 
+TEST_F(AxisDrawing, APrinterGetsEveryLineScaled)
+{
+    graph.m_rcPrint = CRect(0, 0, kWidth, kHeight);
+    const auto plain = LinesOf(Recording(graph));
+    const int nLength = x.m_nLength;
+    const auto scaled = LinesOf(Recording(graph, [](CDCEx& dc) {
+        dc.m_bScaleReady = true;
+        dc.m_bScaling = true;
+        dc.m_fScaleX = 2.0f;
+        dc.m_fScaleY = 3.0f;
+    }));
+    ASSERT_EQ(scaled.size(), plain.size());
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        EXPECT_EQ(scaled[i].ptFrom, CPoint(2 * plain[i].ptFrom.x, 3 * plain[i].ptFrom.y));
+        EXPECT_EQ(scaled[i].ptTo, CPoint(2 * plain[i].ptTo.x, 3 * plain[i].ptTo.y));
+    }
+    EXPECT_EQ(x.m_nLength, nLength); // in screen units all the same
+}
+
 TEST_F(AxisDrawing, HugeSettingsStayBounded)
 {
     for (const int nSize : {INT_MAX, INT_MIN, 100000000}) {
