@@ -2,7 +2,7 @@
 
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
-#include "graph/LegendLayout.h"
+#include "graph/GraphLegendLayout.h"
 #include "graph/XGraph.h"
 
 #include <vector>
@@ -33,14 +33,14 @@ std::vector<TLegendRow> VisibleRows(CCheckedVector<CXGraphDataSerie>& curves)
     return rows;
 }
 
-LegendLayout::Extent MeasureRows(CDCEx* pDC, CFont& font, const std::vector<TLegendRow>& rows)
+GraphLegendLayout::Extent MeasureRows(CDCEx* pDC, CFont& font, const std::vector<TLegendRow>& rows)
 {
     const CFontSelector selectFont(&font, pDC, false);
     std::vector<TSize> sizes;
     sizes.reserve(rows.size());
     for (const TLegendRow& row : rows)
         sizes.push_back(pDC->GetTextExtent(row.strText));
-    return LegendLayout::Measure(sizes);
+    return GraphLegendLayout::Measure(sizes);
 }
 
 void DrawKey(CDCEx* pDC, CXGraph* pGraph, const CXGraphDataSerie& curve, const CRect& rcKey)
@@ -48,7 +48,7 @@ void DrawKey(CDCEx* pDC, CXGraph* pGraph, const CXGraphDataSerie& curve, const C
     const COLORREF color = pDC->m_bMono ? kBlack : curve.m_crColor;
     if (curve.m_nMarkerType != 0) {
         pGraph->GetYAxis(0)->DrawCurveKey(pDC, CPoint(rcKey.left - 1, rcKey.top + 1), curve.m_nMarker,
-                                          LegendLayout::kKeySize, color, true);
+                                          GraphLegendLayout::kKeySize, color, true);
     } else {
         pDC->FillSolidRect(&rcKey, color);
     }
@@ -58,15 +58,15 @@ void DrawKey(CDCEx* pDC, CXGraph* pGraph, const CXGraphDataSerie& curve, const C
 
 void CXGraph::DrawLegend(CDCEx* pDC, CRect& rc)
 {
-    if (!LegendLayout::HasBox(m_nLegendAlignment)) {
+    if (!GraphLegendLayout::HasBox(m_nLegendAlignment)) {
         m_LegendEntries.clear();
         return;
     }
     CQuickFont font(L"Arial", 13, FW_NORMAL);
     const std::vector<TLegendRow> rows = VisibleRows(m_Curves);
-    const LegendLayout::Extent extent = MeasureRows(pDC, font, rows);
+    const GraphLegendLayout::Extent extent = MeasureRows(pDC, font, rows);
     TRect graph = rc;
-    CRect rcBox = LegendLayout::PlaceBox(m_nLegendAlignment, extent, graph);
+    CRect rcBox = GraphLegendLayout::PlaceBox(m_nLegendAlignment, extent, graph);
     rc = graph;
 
     const COLORREF crWindow = pDC->m_bMono ? kWhite : ::GetSysColor(COLOR_WINDOW);
@@ -79,7 +79,7 @@ void CXGraph::DrawLegend(CDCEx* pDC, CRect& rc)
     m_LegendEntries.clear();
     int nOffset = 0;
     for (const TLegendRow& row : rows) {
-        const LegendLayout::Row place = LegendLayout::PlaceRow(rcBox, nOffset, extent.nRowHeight);
+        const GraphLegendLayout::Row place = GraphLegendLayout::PlaceRow(rcBox, nOffset, extent.nRowHeight);
         nOffset += extent.nRowHeight;
         m_LegendEntries.push_back({place.entry, row.pCurve});
         CRect rcText = place.text;

@@ -1,6 +1,7 @@
 // The axis wrapper and the logarithmic one.
 
 #include "GraphHost.h"
+#include "support/Faults.h"
 
 namespace
 {
@@ -189,7 +190,8 @@ TEST(AxisWithoutHandle, NothingIsDoneAndThatIsNoFailure)
 TEST(AxisWithoutHandle, DeathTest_TheObjectsOwnMethodsFault)
 {
     const auto axis = Empty();
-    EXPECT_EXIT(axis->SetSelected(1), testing::ExitedWithCode(static_cast<int>(0xC0000005)), "");
+    EXPECT_EXIT((Faults::EndAtOnce(), axis->SetSelected(1)), testing::ExitedWithCode(Faults::AccessViolation),
+                "");
 }
 
 TEST_F(AxisWrapper, DeathTest_MarkersPastTheEndEndTheProcess)

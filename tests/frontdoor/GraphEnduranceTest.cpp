@@ -61,7 +61,7 @@ void Cycle(Server& server)
 
 } // namespace
 
-TEST(GraphEndurance, EachCycleKeepsOneGraphUntilTheModuleEnds)
+TEST(GraphModuleEnd, EachCycleKeepsOneGraphUntilTheModuleEnds)
 {
     // A graph holds the font of its cursor's label and two for each of its axes: what is left
     // of a destroyed graph can be counted.
@@ -84,7 +84,7 @@ TEST(GraphEndurance, EachCycleKeepsOneGraphUntilTheModuleEnds)
     EXPECT_EQ(GdiCount::All(), nObjects);
 }
 
-TEST(GraphEndurance, AModuleWithALivingWindowEndsCleanly)
+TEST(GraphModuleEnd, AModuleWithALivingWindowEndsCleanly)
 {
     HostWindow host;
     HWND hWnd = nullptr;

@@ -1,15 +1,9 @@
 // The graph's settings, and methods whose whole effect is their result.
 
 #include "GraphHost.h"
+#include "support/Faults.h"
 
 using GraphSettings = FrontDoorGraph;
-
-namespace
-{
-
-constexpr int kAccessViolation = static_cast<int>(0xC0000005);
-
-} // namespace
 
 TEST_F(GraphSettings, DefaultsAreTold)
 {
@@ -168,8 +162,9 @@ TEST_F(GraphSettings, RemainingSettersSucceed)
     EXPECT_EQ(picture.Count(0x0000FF), kWidth * kHeight - (kWidth - 60) * (kHeight - 80));
 }
 
-TEST_F(GraphSettings, GetCursorDeathTest_ANullYFaults)
+TEST_F(GraphSettings, DeathTest_AskingForTheCursorWithANullYFaults)
 {
     LONG x = 0;
-    EXPECT_EXIT(graph->GetCursor(&x, nullptr), testing::ExitedWithCode(kAccessViolation), "");
+    EXPECT_EXIT((Faults::EndAtOnce(), graph->GetCursor(&x, nullptr)),
+                testing::ExitedWithCode(Faults::AccessViolation), "");
 }

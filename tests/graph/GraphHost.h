@@ -22,17 +22,17 @@ inline void PrintTo(const CRect& rect, std::ostream* stream)
 }
 
 // A top-level window on the platform's own means.
-class HostWindow
+class GraphParent
 {
 public:
-    HostWindow()
+    GraphParent()
     {
         m_hWnd = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 900, 700, nullptr, nullptr,
                                    nullptr, nullptr);
     }
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-    ~HostWindow() { ::DestroyWindow(m_hWnd); }
+    GraphParent(const GraphParent&) = delete;
+    GraphParent& operator=(const GraphParent&) = delete;
+    ~GraphParent() { ::DestroyWindow(m_hWnd); }
 
     HWND m_hWnd;
 };
@@ -78,6 +78,6 @@ protected:
         return Picture(graph.m_hWnd);
     }
 
-    HostWindow host;
+    GraphParent host;
     CXGraph& graph;
 };

@@ -136,7 +136,7 @@ TEST_F(GraphWindow, AGraphOutlivesItsWindowUntilItIsFreed)
 
 TEST(GraphAccount, FreeAllDestroysWhatIsLeftWithItsWindow)
 {
-    HostWindow host;
+    GraphParent host;
     const int before = CXGraph::GetLiveCount();
     ASSERT_EQ(before, 0);
     auto* pGraph = new CXGraph;

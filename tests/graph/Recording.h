@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-class Recording
+class FrameRecording
 {
 public:
     struct Text {
@@ -16,7 +16,7 @@ public:
         CRect bounds;
     };
 
-    explicit Recording(CXGraph& graph, const std::function<void(CDCEx&)>& prepare = {})
+    explicit FrameRecording(CXGraph& graph, const std::function<void(CDCEx&)>& prepare = {})
     {
         const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
         {
@@ -32,9 +32,9 @@ public:
         }
         m_hFile = ::CloseEnhMetaFile(hDC);
     }
-    Recording(const Recording&) = delete;
-    Recording& operator=(const Recording&) = delete;
-    ~Recording() { ::DeleteEnhMetaFile(m_hFile); }
+    FrameRecording(const FrameRecording&) = delete;
+    FrameRecording& operator=(const FrameRecording&) = delete;
+    ~FrameRecording() { ::DeleteEnhMetaFile(m_hFile); }
 
     [[nodiscard]] std::vector<Text> Texts() const
     {
@@ -113,3 +113,5 @@ public:
 private:
     HENHMETAFILE m_hFile;
 };
+
+using Recording = FrameRecording;

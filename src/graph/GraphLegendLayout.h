@@ -10,7 +10,7 @@
 
 #include <span>
 
-namespace LegendLayout
+namespace GraphLegendLayout
 {
 
 inline constexpr int kKeySize = 8;
@@ -39,4 +39,4 @@ struct Row {
 };
 [[nodiscard]] Row PlaceRow(const TRect& inner, int nOffset, int nRowHeight) noexcept;
 
-} // namespace LegendLayout
+} // namespace GraphLegendLayout

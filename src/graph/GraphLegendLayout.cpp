@@ -1,10 +1,10 @@
-#include "graph/LegendLayout.h"
+#include "graph/GraphLegendLayout.h"
 
 #include "graph/WrapArithmetic.h"
 
 #include <algorithm>
 
-namespace LegendLayout
+namespace GraphLegendLayout
 {
 
 namespace
@@ -55,4 +55,4 @@ Row PlaceRow(const TRect& inner, int nOffset, int nRowHeight) noexcept
     return row;
 }
 
-} // namespace LegendLayout
+} // namespace GraphLegendLayout
