@@ -117,7 +117,7 @@ TEST_F(AxisDecoration, RangesOutsideThePlotEndAtItsEdge)
 TEST_F(AxisDecoration, ARangesLabelStandsInIt)
 {
     Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"!good", 6);
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"!").size(), 1u);
 }
 
@@ -129,7 +129,7 @@ TEST_F(AxisDecoration, AMarkerCrossesThePlotWithItsValue)
     Y().SetAxisMarker(0, 4.5, kGreen, PS_SOLID);
     X().SetMaskerLabel(0, L"!up");
     Y().SetMaskerLabel(0, L"!right");
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     const auto lines = LinesOf(frame);
     const CRect plot = graph.m_rcInner;
     const LONG nColumn = X().GetPointForValue({3.5, 0}).x;
@@ -148,7 +148,7 @@ TEST_F(AxisDecoration, AMarkerOutsideThePlotIsSkippedWithItsText)
     X().m_cDisplayFmt = L"X%g";
     X().SetAxisMarker(0, 30.5, kBlue, PS_SOLID);
     X().SetMaskerLabel(0, L"!up");
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_TRUE(TextsOf(frame, L"!").empty());
     const auto texts = TextsOf(frame, L"X");
     EXPECT_EQ(std::find(texts.begin(), texts.end(), L"30.5"), texts.end());

@@ -31,7 +31,7 @@ protected:
     CXGraphAxis& y;
 
     // Whether the last frame has exactly this line.
-    static bool Has(const Recording& recording, const TLine& line)
+    static bool Has(const FrameRecording& recording, const TLine& line)
     {
         const auto lines = LinesOf(recording);
         return std::find(lines.begin(), lines.end(), line) != lines.end();
@@ -50,14 +50,14 @@ private:
 
 TEST_F(AxisDrawing, AYAxisHasATickAtItsUpperBoundAndAnXAxisNone)
 {
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"Y"), (Texts{L"0", L"2", L"4", L"6", L"8", L"10"}));
     EXPECT_EQ(TextsOf(frame, L"X"), (Texts{L"0", L"2", L"4", L"6", L"8"}));
 }
 
 TEST_F(AxisDrawing, TicksStandWhereTheirValuesMap)
 {
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     const CRect plot = graph.m_rcInner;
     for (const double fValue : {2.0, 4.0, 8.0}) {
         const int nRow = y.GetPointForValue({0, fValue}).y;
@@ -77,7 +77,7 @@ TEST_F(AxisDrawing, TicksStandWhereTheirValuesMap)
 
 TEST_F(AxisDrawing, TheTickAtTheOriginHasNoGridLine)
 {
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_TRUE(Has(frame, {{y.m_nOriginX - 5, y.m_nOriginY}, {y.m_nOriginX, y.m_nOriginY}}));
     EXPECT_TRUE(Has(frame, {{x.m_nOriginX, x.m_nOriginY + 5}, {x.m_nOriginX, x.m_nOriginY}}));
 }
@@ -86,7 +86,7 @@ TEST_F(AxisDrawing, WithoutGridAllLinesAreTicks)
 {
     x.m_bShowGrid = false;
     y.m_bShowGrid = false;
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     for (const TLine& line : LinesOf(frame)) {
         EXPECT_FALSE(line.ptFrom.x == y.m_nOriginX - 5 && line.ptTo.x != y.m_nOriginX);
         EXPECT_FALSE(line.ptFrom.y == x.m_nOriginY + 5 && line.ptTo.y != x.m_nOriginY);
@@ -96,7 +96,7 @@ TEST_F(AxisDrawing, WithoutGridAllLinesAreTicks)
 TEST_F(AxisDrawing, ARightAxisDrawsToTheLeft)
 {
     y.m_Placement = apRight;
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     const auto lines = LinesOf(frame);
     const auto tick = std::find_if(lines.begin(), lines.end(), [&](const TLine& line) {
         return line.ptFrom.x == y.m_nOriginX + 5 && line.ptTo.x == graph.m_rcInner.left;
@@ -132,7 +132,7 @@ TEST_F(AxisDrawing, TitlesAreDrawn)
 {
     x.m_cLabel = L"#time";
     y.m_cLabel = L"#volts";
-    EXPECT_EQ(TextsOf(Recording(graph), L"#"), (Texts{L"volts", L"time"}));
+    EXPECT_EQ(TextsOf(FrameRecording(graph), L"#"), (Texts{L"volts", L"time"}));
 }
 
 TEST_F(AxisDrawing, AHiddenAxisComputesAsAVisibleOneAndShowsNothing)
@@ -149,7 +149,7 @@ TEST_F(AxisDrawing, AHiddenAxisComputesAsAVisibleOneAndShowsNothing)
     EXPECT_EQ(Red(), 0);
     EXPECT_EQ(x.m_nLength, nLength);
     EXPECT_EQ(x.m_fStep, fStep);
-    EXPECT_TRUE(TextsOf(Recording(graph), L"X").empty());
+    EXPECT_TRUE(TextsOf(FrameRecording(graph), L"X").empty());
 }
 
 TEST_F(AxisDrawing, AutomaticScaleRoundsTheVisibleRangeToWholeSteps)
@@ -169,7 +169,7 @@ TEST_F(AxisDrawing, DateAxesStepByCalendarUnits)
     x.m_cDisplayFmt = L"X%H:%M:%S";
     x.m_bAutoScale = true;
     x.SetRange(40000.0 + 7 / 86400.0, 40000.0 + 107 / 86400.0);
-    const auto texts = TextsOf(Recording(graph), L"X");
+    const auto texts = TextsOf(FrameRecording(graph), L"X");
     ASSERT_GE(texts.size(), 2u);
     EXPECT_TRUE(texts[0] == L"00:00:00") << texts[0].size();
     const double fSeconds = x.m_fStep * 86400;
@@ -178,7 +178,7 @@ TEST_F(AxisDrawing, DateAxesStepByCalendarUnits)
 
 TEST_F(AxisDrawing, TheAxisLineEndsInAnArrow)
 {
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_TRUE(Has(frame, {{y.m_nOriginX, y.m_nOriginY}, {y.m_nOriginX, y.m_rcArea.top}}));
     EXPECT_TRUE(Has(frame, {{x.m_nOriginX, x.m_nOriginY}, {graph.m_rcInner.right, x.m_nOriginY}}));
     const CPoint top(y.m_nOriginX, y.m_rcArea.top);
@@ -205,9 +205,9 @@ TEST_F(AxisDrawing, ASelectedAxisHasAFocusFrame)
 TEST_F(AxisDrawing, APrinterGetsEveryLineScaled)
 {
     graph.m_rcPrint = CRect(0, 0, kWidth, kHeight);
-    const auto plain = LinesOf(Recording(graph));
+    const auto plain = LinesOf(FrameRecording(graph));
     const int nLength = x.m_nLength;
-    const auto scaled = LinesOf(Recording(graph, [](CDCEx& dc) {
+    const auto scaled = LinesOf(FrameRecording(graph, [](CDCEx& dc) {
         dc.m_bScaleReady = true;
         dc.m_bScaling = true;
         dc.m_fScaleX = 2.0f;

@@ -23,7 +23,7 @@ inline void PrintTo(const TLine& line, std::ostream* stream)
 }
 
 // Those drawn line by line, in order.
-inline std::vector<TLine> LinesOf(const Recording& recording)
+inline std::vector<TLine> LinesOf(const FrameRecording& recording)
 {
     std::vector<TLine> lines;
     CPoint pen;
@@ -40,10 +40,10 @@ inline std::vector<TLine> LinesOf(const Recording& recording)
 }
 
 // The texts that begin with a mark, without it.
-inline std::vector<std::wstring> TextsOf(const Recording& recording, std::wstring_view mark)
+inline std::vector<std::wstring> TextsOf(const FrameRecording& recording, std::wstring_view mark)
 {
     std::vector<std::wstring> texts;
-    for (const Recording::Text& text : recording.Texts()) {
+    for (const FrameRecording::Text& text : recording.Texts()) {
         if (text.text.starts_with(mark))
             texts.push_back(text.text.substr(mark.size()));
     }

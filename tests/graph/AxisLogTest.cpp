@@ -82,7 +82,7 @@ private:
 
 TEST_F(LogAxis, OneToAThousandHasTwentySevenTicksAndThreeLabels)
 {
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"Y"), (Texts{L"1", L"10", L"100"}));
     EXPECT_EQ(TextsOf(frame, L"X"), (Texts{L"1", L"10", L"100"}));
     int nRows = 0;
@@ -126,13 +126,13 @@ TEST_F(LogAxis, ALowerBoundOfZeroHasNoTicks)
 {
     Y().m_bAutoScale = false;
     Y().m_fCurMin = 0;
-    EXPECT_TRUE(TextsOf(Recording(graph), L"Y").empty());
+    EXPECT_TRUE(TextsOf(FrameRecording(graph), L"Y").empty());
 }
 
 TEST_F(LogAxis, ATitleOnALogAxisIsDrawnAndCountsTwice)
 {
     Y().m_cLabel = L"#level";
-    const Recording frame(graph);
+    const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"#"), (Texts{L"level"}));
     CClientDC window(&graph);
     CDCEx dc;
@@ -211,5 +211,5 @@ TEST_F(LogAxis, AMarkerOfThePlainLogAxisIsDrawn)
 {
     Y().SetAxisMarker(0, 50, 0xFF, PS_SOLID);
     Y().SetMaskerLabel(0, L"#marker");
-    EXPECT_EQ(TextsOf(Recording(graph), L"#"), (Texts{L"marker"}));
+    EXPECT_EQ(TextsOf(FrameRecording(graph), L"#"), (Texts{L"marker"}));
 }
