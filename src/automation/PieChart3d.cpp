@@ -61,9 +61,12 @@ STDMETHODIMP CPieChart3d::GetHandle(wireHWND* phWnd)
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (phWnd == nullptr)
         return S_FALSE;
-    if (m_pNative == nullptr)
-        *phWnd = nullptr; // and the read that follows faults: Create comes first
-    *phWnd = reinterpret_cast<wireHWND>(m_pNative->m_hWnd);
+    // Before Create the answer is null and the read faults all the same. It is volatile so that
+    // no compiler concludes from the read that there is nothing to be null.
+    CPieChartWnd* volatile pNative = m_pNative.get();
+    if (pNative == nullptr)
+        *phWnd = nullptr;
+    *phWnd = reinterpret_cast<wireHWND>(pNative->m_hWnd);
     return S_OK;
 }
 
