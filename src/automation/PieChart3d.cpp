@@ -3,6 +3,8 @@
 #include "automation/Strings.h"
 #include "pie3d/PieColors.h"
 
+#include <atomic>
+
 namespace
 {
 
@@ -61,11 +63,12 @@ STDMETHODIMP CPieChart3d::GetHandle(wireHWND* phWnd)
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (phWnd == nullptr)
         return S_FALSE;
-    // Before Create the answer is null and the read faults all the same. It is volatile so that
-    // no compiler concludes from the read that there is nothing to be null.
+    // Before Create the answer is null and the read faults all the same. Volatile and fence keep
+    // the compiler from concluding otherwise, and from leaving the first store out.
     CPieChartWnd* volatile pNative = m_pNative.get();
     if (pNative == nullptr)
         *phWnd = nullptr;
+    std::atomic_signal_fence(std::memory_order_seq_cst);
     *phWnd = reinterpret_cast<wireHWND>(pNative->m_hWnd);
     return S_OK;
 }
