@@ -161,13 +161,20 @@ void CGraphObject::SetGraphAnimation(BOOL animation, int type)
         StopTimer();
 }
 
-COLORREF CGraphObject::GetGraphLegendTextColor() const noexcept
+// The flat pie keeps its legend's colours to itself, and has no labels.
+COLORREF CGraphObject::SeriesChartColor(COLORREF C2DBarGraph::*ofBars,
+                                        COLORREF C2DLineGraph::*ofLines) const noexcept
 {
     if (m_nGraphType == WindowLayout::bar && m_pBarGraph)
-        return m_pBarGraph->m_crLegendText;
+        return (*m_pBarGraph).*ofBars;
     if (m_nGraphType == WindowLayout::line && m_pLineGraph)
-        return m_pLineGraph->m_crLegendText;
-    return 0; // the flat pie's is not told
+        return (*m_pLineGraph).*ofLines;
+    return 0;
+}
+
+COLORREF CGraphObject::GetGraphLegendTextColor() const noexcept
+{
+    return SeriesChartColor(&C2DBarGraph::m_crLegendText, &C2DLineGraph::m_crLegendText);
 }
 
 void CGraphObject::SetGraphLegendTextColor(COLORREF color)
@@ -178,11 +185,7 @@ void CGraphObject::SetGraphLegendTextColor(COLORREF color)
 
 COLORREF CGraphObject::GetGraphLegendBackgroundColor() const noexcept
 {
-    if (m_nGraphType == WindowLayout::bar && m_pBarGraph)
-        return m_pBarGraph->m_crLegendBackground;
-    if (m_nGraphType == WindowLayout::line && m_pLineGraph)
-        return m_pLineGraph->m_crLegendBackground;
-    return 0; // the flat pie's is not told
+    return SeriesChartColor(&C2DBarGraph::m_crLegendBackground, &C2DLineGraph::m_crLegendBackground);
 }
 
 void CGraphObject::SetGraphLegendBackgroundColor(COLORREF color)
@@ -193,11 +196,7 @@ void CGraphObject::SetGraphLegendBackgroundColor(COLORREF color)
 
 COLORREF CGraphObject::GetGraphLabelsColor() const noexcept
 {
-    if (m_nGraphType == WindowLayout::bar && m_pBarGraph)
-        return m_pBarGraph->m_crLabels;
-    if (m_nGraphType == WindowLayout::line && m_pLineGraph)
-        return m_pLineGraph->m_crLabels;
-    return 0; // the flat pie has no labels
+    return SeriesChartColor(&C2DBarGraph::m_crLabels, &C2DLineGraph::m_crLabels);
 }
 
 void CGraphObject::SetGraphLabelsColor(COLORREF color)

@@ -107,6 +107,9 @@ private:
     template <class Action> void WithChart(Action action);
     template <class Chart> std::unique_ptr<Chart> NewChart() const;
     [[nodiscard]] bool HasChart() const noexcept;
+    // A colour of the bar or line chart that is shown, else 0.
+    [[nodiscard]] COLORREF SeriesChartColor(COLORREF C2DBarGraph::*ofBars,
+                                            COLORREF C2DLineGraph::*ofLines) const noexcept;
     [[nodiscard]] WindowLayout::EKind Kind() const noexcept;
 
     void MakeTitleFonts();
