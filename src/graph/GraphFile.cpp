@@ -6,6 +6,8 @@
 #include "framework/windowing/File.h"
 #include "graph/XGraph.h"
 
+#include <unordered_set>
+
 namespace
 {
 constexpr int BufferSize = 4096;
@@ -167,10 +169,11 @@ void CXGraph::ReadObjects(CArchive& ar)
         ar.ReadExactly(&span, sizeof span);
         m_Measures.push_back(span);
     }
+    std::unordered_set<const CXGraphObject*> taken;
     for (int left = ReadCount(ar, SmallestObject); left > 0; --left) {
         auto* object = static_cast<CXGraphObject*>(ar.ReadObject(RUNTIME_CLASS(CXGraphObject)));
         // A second reference to one object would make the list own it twice.
-        if (m_Objects.Find(object) != nullptr)
+        if (!taken.insert(object).second)
             AfxThrowArchiveException(CArchiveException::badIndex);
         object->m_pGraph = this;
         m_Objects.AddTail(object);

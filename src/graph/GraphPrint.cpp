@@ -39,12 +39,6 @@ void CXGraph::PrintTo(HDC hPrinter)
 {
     CDCEx canvas;
     canvas.Attach(hPrinter); // the canvas deletes the context with itself
-    canvas.InitScale(hPrinter);
-    m_rcPrint.SetRect(0, 0, Trunc(canvas.GetDeviceCaps(HORZRES) / canvas.m_fScaleX),
-                      Trunc(canvas.GetDeviceCaps(VERTRES) / canvas.m_fScaleY));
-    canvas.m_bScaling = true;
-    const CPrintTarget target(*this, canvas);
-
     DOCINFOW document = {};
     document.cbSize = sizeof document;
     document.lpszDocName = L"Graph";
@@ -54,10 +48,19 @@ void CXGraph::PrintTo(HDC hPrinter)
     PaintPage(canvas);
     ::EndPage(hPrinter);
     ::EndDoc(hPrinter);
+    // The page's layout gives way to the window's again.
+    Invalidate();
+    if (m_hWnd != nullptr)
+        UpdateWindow();
 }
 
 void CXGraph::PaintPage(CDCEx& canvas)
 {
+    canvas.NeedScale();
+    m_rcPrint.SetRect(0, 0, Trunc(canvas.GetDeviceCaps(HORZRES) / canvas.m_fScaleX),
+                      Trunc(canvas.GetDeviceCaps(VERTRES) / canvas.m_fScaleY));
+    canvas.m_bScaling = true;
+    const CPrintTarget target(*this, canvas);
     m_rcPrint.top += PrintCentred(canvas, m_strPrintHeader, true);
     m_rcPrint.bottom -= PrintCentred(canvas, m_strPrintFooter, false);
     PaintFrame(&canvas);
@@ -81,6 +84,6 @@ int CXGraph::PrintCentred(CDCEx& canvas, const CString& text, bool top)
     else
         place.top = place.bottom - height;
     canvas.SetBkMode(TRANSPARENT);
-    canvas.DrawText(text, &place, DT_CENTER);
+    canvas.DrawText(text, &place, DT_CENTER | DT_NOPREFIX);
     return height + TextGap;
 }

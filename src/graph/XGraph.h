@@ -148,6 +148,9 @@ public:
     void Print(); // asks for the printer
     // One page. The context becomes the job's own and is deleted with it.
     void PrintTo(HDC hPrinter);
+    // Header, footer and the frame between them on a canvas of any resolution, over its whole
+    // face. Its scale is computed unless it is set already.
+    void PaintPage(CDCEx& canvas);
 
     void DrawLegend(CDCEx* pDC, CRect& rc);
     void DrawZoomRect(CDCEx* pDC);
@@ -267,6 +270,5 @@ private:
                      LPCWSTR pszKind);
     void Store(CArchive& ar, UINT nFlags);
     void ReadObjects(CArchive& ar);
-    void PaintPage(CDCEx& canvas);
     int PrintCentred(CDCEx& canvas, const CString& strText, bool bTop);
 };

@@ -183,8 +183,8 @@ void CXGraphDataSerie::LoadFields(CArchive& ar)
 {
     int nCount = 0;
     ar >> nCount;
-    // A negative count asks for more than any file has.
-    ar.EnsureRemaining(static_cast<ULONGLONG>(static_cast<LONGLONG>(nCount)), sizeof(TDataPoint));
+    nCount = std::max(nCount, 0); // as with every count, less than none is none
+    ar.EnsureRemaining(static_cast<ULONGLONG>(nCount), sizeof(TDataPoint));
     auto data = std::make_unique_for_overwrite<TDataPoint[]>(static_cast<std::size_t>(nCount));
     constexpr int nPart = 1 << 20;
     for (int i = 0; i < nCount; i += nPart)

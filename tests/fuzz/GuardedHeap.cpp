@@ -1,0 +1,118 @@
+#include "GuardedHeap.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <new>
+
+namespace
+{
+constexpr std::size_t PageSize = 4096;
+constexpr std::size_t Alignment = 16;
+constexpr std::size_t MostFreed = 2000;
+constexpr std::uint64_t Magic = 0x5AFEB10C5AFEB10C;
+constexpr unsigned char SlackByte = 0xA5;
+
+struct alignas(Alignment) THeader {
+    std::uint64_t nMagic;
+    std::byte* pBase;
+    std::size_t nCommitted;
+    std::size_t nSize;
+};
+
+// No constructors: blocks are asked for before any would run. One thread uses the heap.
+constinit GuardedHeap::TUse use;
+constinit std::array<std::byte*, MostFreed> freed{};
+constinit std::size_t nextFreed = 0;
+
+std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
+{
+    return (nSize + nUnit - 1) / nUnit * nUnit;
+}
+
+void* Allocate(std::size_t nSize)
+{
+    constexpr std::size_t most = std::size_t{1} << 32; // far beyond any request that is in order
+    if (nSize > most)
+        throw std::bad_alloc();
+    const std::size_t block = RoundUp(std::max<std::size_t>(nSize, 1), Alignment);
+    const std::size_t committed = RoundUp(sizeof(THeader) + block, PageSize);
+    auto* base = static_cast<std::byte*>(
+        ::VirtualAlloc(nullptr, committed + PageSize, MEM_RESERVE, PAGE_NOACCESS));
+    if (base == nullptr || ::VirtualAlloc(base, committed, MEM_COMMIT, PAGE_READWRITE) == nullptr)
+        throw std::bad_alloc();
+
+    std::byte* const result = base + committed - block;
+    new (result - sizeof(THeader)) THeader{Magic, base, committed, nSize};
+    std::memset(result + nSize, SlackByte, block - nSize);
+    use.nLive += nSize;
+    use.nPeak = std::max(use.nPeak, use.nLive);
+    use.nLargest = std::max(use.nLargest, nSize);
+    return result;
+}
+
+void Free(void* pBlock) noexcept
+{
+    if (pBlock == nullptr)
+        return;
+    auto* const block = static_cast<std::byte*>(pBlock);
+    const THeader header = *reinterpret_cast<const THeader*>(block - sizeof(THeader));
+    if (header.nMagic != Magic)
+        __builtin_trap();
+    for (const std::byte* slack = block + header.nSize; slack != header.pBase + header.nCommitted; ++slack)
+        if (*slack != std::byte{SlackByte})
+            __builtin_trap();
+    use.nLive -= header.nSize;
+
+    DWORD before = 0;
+    ::VirtualProtect(header.pBase, header.nCommitted, PAGE_NOACCESS, &before);
+    std::byte*& slot = freed[nextFreed++ % MostFreed];
+    if (slot != nullptr)
+        ::VirtualFree(slot, 0, MEM_RELEASE);
+    slot = header.pBase;
+}
+} // namespace
+
+void GuardedHeap::BeginWatch() noexcept
+{
+    use.nPeak = use.nLive;
+    use.nLargest = 0;
+}
+
+GuardedHeap::TUse GuardedHeap::Use() noexcept
+{
+    return use;
+}
+
+void* operator new(std::size_t nSize)
+{
+    return Allocate(nSize);
+}
+
+void* operator new[](std::size_t nSize)
+{
+    return Allocate(nSize);
+}
+
+void operator delete(void* pBlock) noexcept
+{
+    Free(pBlock);
+}
+
+void operator delete[](void* pBlock) noexcept
+{
+    Free(pBlock);
+}
+
+void operator delete(void* pBlock, std::size_t) noexcept
+{
+    Free(pBlock);
+}
+
+void operator delete[](void* pBlock, std::size_t) noexcept
+{
+    Free(pBlock);
+}
