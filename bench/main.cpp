@@ -9,6 +9,7 @@
 
 #include "Chart2dBench.h"
 #include "Floors.h"
+#include "PieBench.h"
 #include "Scene.h"
 #include "Stopwatch.h"
 
@@ -132,5 +133,6 @@ int main(int argc, char** argv)
     TimeScatter(options);
     TimeSetData(options);
     BenchChart2d(options.nRuns);
+    BenchPie(options.nRuns);
     return 0;
 }

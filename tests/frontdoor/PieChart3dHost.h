@@ -108,8 +108,9 @@ protected:
         COLORREF last = kWhite;
         for (int y = 100; y < 570; ++y) {
             const COLORREF color = picture.At(570, y);
-            if (color != last) {
-                marks += color == kRed ? "r" : color == kGreen ? "g" : color == kBlue ? "b" : "";
+            const char letter = color == kRed ? 'r' : color == kGreen ? 'g' : color == kBlue ? 'b' : 0;
+            if (color != last && letter != 0) {
+                marks.push_back(letter);
             }
             last = color;
         }

@@ -1,0 +1,116 @@
+#include "PieBench.h"
+
+#include "Stopwatch.h"
+
+#include "framework/windowing/DeviceContexts.h"
+#include "pie3d/PieChartWnd.h"
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr TRect rcWindow{0, 0, 800, 600};
+
+// A visible host with a pie in it.
+class CPieScene
+{
+public:
+    CPieScene()
+        : m_hHost(::CreateWindowExW(0, L"STATIC", L"Host", WS_POPUP | WS_VISIBLE, 0, 0, rcWindow.right,
+                                    rcWindow.bottom, nullptr, nullptr, nullptr, nullptr))
+    {
+        m_pie.Create(L"Title", CRect(rcWindow), CWnd::FromHandle(m_hHost), 1);
+        m_pie.SetBackgrndColor(0xFFC0D0E0);
+    }
+    CPieScene(const CPieScene&) = delete;
+    CPieScene& operator=(const CPieScene&) = delete;
+    ~CPieScene()
+    {
+        m_pie.DestroyWindow();
+        ::DestroyWindow(m_hHost);
+    }
+
+    void Fill(int nElements)
+    {
+        for (int i = 0; i < nElements; ++i) {
+            CString name;
+            name.Format(L"Element %d", i);
+            m_pie.InsertItem(name, name, 1 + i % 7, 0xFF000000 | static_cast<unsigned>(i) * 7654321u);
+        }
+    }
+    void Repaint()
+    {
+        m_pie.SetPieChartTitle(m_pie.m_strTitle); // drops whatever the window kept
+        m_pie.UpdateWindow();
+    }
+    // One gradient over the whole window, the way each paint goes.
+    void Floor()
+    {
+        CClientDC dc(&m_pie);
+        const GdiPlus::CBitmap picture = GdiPlus::NewBitmap({rcWindow.right, rcWindow.bottom});
+        const GdiPlus::CLineBrush brush =
+            GdiPlus::NewLineBrush({0, 0}, {rcWindow.right, rcWindow.bottom}, m_pie.m_crBackgroundLight,
+                                  m_pie.m_crBackgroundDark);
+        GdiPlus::CGraphics::Of(picture).FillRectangle(brush.Get(), GdiPlus::ToFloats(rcWindow));
+        GdiPlus::CGraphics::Of(dc.m_hDC).DrawWhole(picture, {0, 0});
+    }
+
+    HWND m_hHost;
+    CPieChartWnd m_pie;
+};
+
+void Print(const char* pszCase, int nElements, double time, double floor)
+{
+    std::printf("%-34s %9d %10.3f %8.2f\n", pszCase, nElements, time, time / floor);
+    std::fflush(stdout);
+}
+
+void TimeStyles(int nRuns)
+{
+    constexpr int kElements = 12;
+    CPieScene scene;
+    scene.Fill(kElements);
+    const double floor = Stopwatch::Median(nRuns, [&] { scene.Floor(); });
+    std::printf("%-34s %9s %10s %8s\n", "case", "elements", "ms", "floor");
+    Print("floor: gradient to the screen", 0, floor, floor);
+    const char* const names[] = {"doughnut", "flat pie with cuts", "3D pie, tilted by 60"};
+    scene.m_pie.SetInclineAngle(60);
+    for (int style = 0; style < 3; ++style) {
+        scene.m_pie.SetPieChartStyle(style);
+        Print(names[style], kElements, Stopwatch::Median(nRuns, [&] { scene.Repaint(); }), floor);
+    }
+    Print("3D pie, click without its paint", kElements,
+          Stopwatch::Median(nRuns, [&] { scene.m_pie.HitTest(CPoint(400, 320)); }), floor);
+}
+
+void TimeTable(int nRuns)
+{
+    constexpr int kElements = 10'000;
+    CPieScene scene;
+    const double floor = Stopwatch::Median(nRuns, [&] { scene.Floor(); });
+    const double start = Stopwatch::Milliseconds();
+    scene.Fill(kElements);
+    Print("3D pie, insertion of a table", kElements, Stopwatch::Milliseconds() - start, floor);
+    scene.Repaint();
+    const double shown = Stopwatch::Milliseconds();
+    scene.Repaint();
+    Print("3D pie, whole repaint of a table", kElements, Stopwatch::Milliseconds() - shown, floor);
+    Print("3D pie, step of scrolling a table", kElements,
+          Stopwatch::Median(nRuns,
+                            [&] {
+                                scene.m_pie.SendMessage(
+                                    WM_VSCROLL, SB_LINEDOWN,
+                                    reinterpret_cast<LPARAM>(scene.m_pie.m_wndScrollBar.m_hWnd));
+                                scene.m_pie.UpdateWindow();
+                            }),
+          floor);
+}
+
+} // namespace
+
+void BenchPie(int nRuns)
+{
+    TimeStyles(nRuns);
+    TimeTable(nRuns);
+}
