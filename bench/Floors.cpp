@@ -38,9 +38,10 @@ std::uint32_t FindColumns(std::span<const TDataPoint> points)
     const double kx = kWidth / points.back().fXVal;
     std::uint32_t sum = 0;
     for (int column = 0; column < kWidth; ++column) {
-        const auto first = std::partition_point(points.begin(), points.end(), [&](const TDataPoint& point) {
-            return Trunc(kx * point.fXVal + 0.0) < column;
-        });
+        const auto first =
+            std::partition_point(points.begin(), points.end(), [&](const TDataPoint& point) {
+                return Trunc(kx * point.fXVal + 0.0) < column;
+            });
         sum += static_cast<std::uint32_t>(first - points.begin());
     }
     return sum;

@@ -18,12 +18,12 @@ std::vector<TDataPoint> NoisyWaves(int nCount)
 }
 
 Scene::Scene()
-    : m_hHost(::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
-                                nullptr, nullptr)),
+    : m_hHost(::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 800, 600, nullptr,
+                                nullptr, nullptr, nullptr)),
       m_graph(std::make_unique<CXGraph>())
 {
-    m_graph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 600), CWnd::FromHandle(m_hHost),
-                    1);
+    m_graph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 600),
+                    CWnd::FromHandle(m_hHost), 1);
 }
 
 Scene::~Scene()

@@ -30,7 +30,8 @@ namespace Stopwatch
     run();
     std::vector<double> times;
     const double start = Milliseconds();
-    while (static_cast<int>(times.size()) < nRuns && (times.size() < 3 || Milliseconds() - start < kLimit)) {
+    while (static_cast<int>(times.size()) < nRuns &&
+           (times.size() < 3 || Milliseconds() - start < kLimit)) {
         const double before = Milliseconds();
         run();
         times.push_back(Milliseconds() - before);

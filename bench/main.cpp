@@ -82,8 +82,8 @@ void TimeManyCurves(const Options& options)
     Scene scene;
     for (int i = 0; i < kCurves; ++i)
         scene.m_graph->SetData(points.data(), kCount, i, 0, 0, true);
-    Print("100 lines, owned", kCurves * kCount, Stopwatch::Median(options.nRuns, [&] { scene.Repaint(); }),
-          floors);
+    Print("100 lines, owned", kCurves * kCount,
+          Stopwatch::Median(options.nRuns, [&] { scene.Repaint(); }), floors);
 }
 
 void TimeScatter(const Options& options)

@@ -108,8 +108,14 @@ public:
         return NativeFields::FetchText(Native(), &CXGraphAxis::m_cDisplayFmt, pbstrValue);
     }
 
-    STDMETHOD(SetGridColor)(ULONG color) override { return NativeFields::Store(Native(), &CXGraphAxis::m_crGridColor, color); }
-    STDMETHOD(GetGridColor)(ULONG* pColor) override { return NativeFields::Fetch(Native(), &CXGraphAxis::m_crGridColor, pColor); }
+    STDMETHOD(SetGridColor)(ULONG color) override
+    {
+        return NativeFields::Store(Native(), &CXGraphAxis::m_crGridColor, color);
+    }
+    STDMETHOD(GetGridColor)(ULONG* pColor) override
+    {
+        return NativeFields::Fetch(Native(), &CXGraphAxis::m_crGridColor, pColor);
+    }
 
     STDMETHOD(SetPlacement)(EAxisPlacement placement) override
     {
@@ -160,8 +166,9 @@ public:
         pAxis->SetMaskerLabel(nPos, bstrValue);
         return S_OK;
     }
-    STDMETHOD(SetColorRange)(int nRange, double fMin, double fMax, ULONG crMinColor, ULONG crMaxColor,
-                             BSTR bstrLabel, UINT nStyle) override
+    STDMETHOD(SetColorRange)
+    (int nRange, double fMin, double fMax, ULONG crMinColor, ULONG crMaxColor, BSTR bstrLabel,
+     UINT nStyle) override
     {
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
         CXGraphAxis* pAxis = Native();

@@ -31,5 +31,8 @@ public:
 
 protected:
     // Null without a handle, or with one of another class.
-    [[nodiscard]] CXGraphBitmap* Native() const { return DYNAMIC_DOWNCAST(CXGraphBitmap, this->m_pObject); }
+    [[nodiscard]] CXGraphBitmap* Native() const
+    {
+        return DYNAMIC_DOWNCAST(CXGraphBitmap, this->m_pObject);
+    }
 };

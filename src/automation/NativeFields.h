@@ -13,7 +13,7 @@ namespace NativeFields
 {
 
 template <class Native, class Class, class Field, class Value>
-HRESULT Store(Native* pNative, Field Class::* pField, Value value)
+HRESULT Store(Native* pNative, Field Class::*pField, Value value)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (pNative != nullptr)
@@ -21,14 +21,14 @@ HRESULT Store(Native* pNative, Field Class::* pField, Value value)
     return S_OK;
 }
 
-template <class Native, class Class> HRESULT StoreFlag(Native* pNative, bool Class::* pField, long bValue)
+template <class Native, class Class> HRESULT StoreFlag(Native* pNative, bool Class::*pField, long bValue)
 {
     return Store(pNative, pField, bValue != 0);
 }
 
 // A bool comes out as 0 or 1.
 template <class Native, class Class, class Field, class Value>
-HRESULT Fetch(const Native* pNative, Field Class::* pField, Value* pValue)
+HRESULT Fetch(const Native* pNative, Field Class::*pField, Value* pValue)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (pNative == nullptr)
@@ -40,7 +40,7 @@ HRESULT Fetch(const Native* pNative, Field Class::* pField, Value* pValue)
 }
 
 template <class Native, class Class>
-HRESULT StoreText(Native* pNative, CString Class::* pField, BSTR bstrValue)
+HRESULT StoreText(Native* pNative, CString Class::*pField, BSTR bstrValue)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (pNative == nullptr)
@@ -53,7 +53,7 @@ HRESULT StoreText(Native* pNative, CString Class::* pField, BSTR bstrValue)
 
 // A null pointer gets nothing delivered and is no failure.
 template <class Native, class Class>
-HRESULT FetchText(const Native* pNative, CString Class::* pField, BSTR* pbstrValue)
+HRESULT FetchText(const Native* pNative, CString Class::*pField, BSTR* pbstrValue)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (pNative != nullptr)

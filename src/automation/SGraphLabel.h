@@ -5,10 +5,9 @@
 #include "automation/ISGraphObjectImpl.h"
 #include "objects/XGraphLabel.h"
 
-class CSGraphLabel
-    : public CComObjectRootEx<CComSingleThreadModel>,
-      public CComCoClass<CSGraphLabel, &CLSID_SGraphLabel>,
-      public ISGraphObjectImpl<ISGraphLabelTable, &IID_ISGraphLabel, &LIBID_VANTOPLEXLib>
+class CSGraphLabel : public CComObjectRootEx<CComSingleThreadModel>,
+                     public CComCoClass<CSGraphLabel, &CLSID_SGraphLabel>,
+                     public ISGraphObjectImpl<ISGraphLabelTable, &IID_ISGraphLabel, &LIBID_VANTOPLEXLib>
 {
 public:
     DECLARE_REGISTRY_RESOURCEID(122)

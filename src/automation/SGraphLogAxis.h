@@ -27,5 +27,8 @@ public:
 private:
     using Base = ISGraphAxisImpl<ISGraphLogAxisTable, &IID_ISGraphLogAxis, &LIBID_VANTOPLEXLib>;
 
-    [[nodiscard]] CXGraphLogAxis* NativeLog() const { return DYNAMIC_DOWNCAST(CXGraphLogAxis, m_pObject); }
+    [[nodiscard]] CXGraphLogAxis* NativeLog() const
+    {
+        return DYNAMIC_DOWNCAST(CXGraphLogAxis, m_pObject);
+    }
 };

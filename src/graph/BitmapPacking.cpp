@@ -74,13 +74,9 @@ BITMAPINFO* InfoOf(const Block& block) noexcept
 } // namespace
 
 // Fixed memory, so the handle is the address.
-Block::Block(std::size_t nSize) noexcept : m_hGlobal(::GlobalAlloc(GPTR, nSize))
-{
-}
+Block::Block(std::size_t nSize) noexcept : m_hGlobal(::GlobalAlloc(GPTR, nSize)) {}
 
-Block::Block(Block&& other) noexcept : m_hGlobal(std::exchange(other.m_hGlobal, nullptr))
-{
-}
+Block::Block(Block&& other) noexcept : m_hGlobal(std::exchange(other.m_hGlobal, nullptr)) {}
 
 Block::~Block()
 {
@@ -124,8 +120,8 @@ Block Pack(const CBitmap& bitmap, const CPalette& palette)
     block.GetHeader().biSizeImage = static_cast<DWORD>(nImageSize);
     if (!block.Grow(nHeadSize + static_cast<std::size_t>(nImageSize)))
         return {};
-    if (::GetDIBits(screen, bitmap, 0, nLines, block.GetData() + nHeadSize, InfoOf(block), DIB_RGB_COLORS) ==
-        0)
+    if (::GetDIBits(screen, bitmap, 0, nLines, block.GetData() + nHeadSize, InfoOf(block),
+                    DIB_RGB_COLORS) == 0)
         return {};
     return block;
 }

@@ -11,7 +11,7 @@ namespace
 // Several lanes find a bound in another order than the plain walk. That shows in one case
 // only: a bound of zero has the sign of the zero that came first.
 double FirstZero(double bound, double start, std::span<const TDataPoint> points,
-                 double TDataPoint::* coordinate) noexcept
+                 double TDataPoint::*coordinate) noexcept
 {
     if (bound != 0.0 || start == 0.0)
         return bound;

@@ -42,7 +42,8 @@ TRect Stack(const TRect& graph, std::span<YAxis> yAxes, std::span<XAxis> xAxes, 
         if (axis.placement != apRight)
             continue;
         if (axis.bVisible)
-            xRight = WrapSubtract(xRight, WrapAdd(std::max(axis.nLabelWidth, axis.nTitleWidth), nAxisSpace));
+            xRight =
+                WrapSubtract(xRight, WrapAdd(std::max(axis.nLabelWidth, axis.nTitleWidth), nAxisSpace));
         axis.nOriginX = xRight;
     }
 
@@ -59,7 +60,8 @@ TRect Stack(const TRect& graph, std::span<YAxis> yAxes, std::span<XAxis> xAxes, 
 TRect Band(TPoint from, TPoint to, const TRect& frame) noexcept
 {
     return {std::max(std::min(from.x, to.x), frame.left), std::max(std::min(from.y, to.y), frame.top),
-            std::min(std::max(from.x, to.x), frame.right), std::min(std::max(from.y, to.y), frame.bottom)};
+            std::min(std::max(from.x, to.x), frame.right),
+            std::min(std::max(from.y, to.y), frame.bottom)};
 }
 
 } // namespace FrameLayout

@@ -14,8 +14,7 @@ template <typename Element>
     return nIndex >= 0 && static_cast<std::size_t>(nIndex) < elements.size();
 }
 
-template <typename Element>
-bool SelectOne(CCheckedVector<Element>& elements, int nIndex)
+template <typename Element> bool SelectOne(CCheckedVector<Element>& elements, int nIndex)
 {
     if (!IsInside(elements, nIndex))
         return false;
@@ -24,8 +23,7 @@ bool SelectOne(CCheckedVector<Element>& elements, int nIndex)
     return true;
 }
 
-template <typename Element>
-bool EraseAt(CCheckedVector<Element>& elements, int nIndex)
+template <typename Element> bool EraseAt(CCheckedVector<Element>& elements, int nIndex)
 {
     if (!IsInside(elements, nIndex))
         return false;

@@ -4,9 +4,11 @@
 #include "graph/AxisClick.h"
 #include "graph/DragState.h"
 #include "graph/PointSearch.h"
+#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -49,14 +51,18 @@ bool CGraphHitTest::TestObjects()
 
 void CGraphHitTest::ClickObjects()
 {
-    for (POSITION place = m_Graph.m_Objects.GetHeadPosition(); place != nullptr;) {
-        auto* object = static_cast<CXGraphObject*>(m_Graph.m_Objects.GetNext(place));
+    for (CXGraphObject* object : m_Graph.ListObjects()) {
+        // An editor that opens or closes tells the host, which may have removed this one.
+        if (!m_Graph.Owns(object))
+            continue;
         object->m_bSelected = object->m_bVisible && object->m_rcObject.PtInRect(m_Point);
         if (object->m_bSelected) {
             if (m_bDblClick) {
                 m_bHandled = true;
                 m_bContinue = false;
                 object->BeginEdit();
+                if (!m_Graph.Owns(object))
+                    continue;
             }
             if (!object->m_bEditing && m_Graph.m_pTracker == nullptr) {
                 m_bHandled = true;
@@ -68,7 +74,7 @@ void CGraphHitTest::ClickObjects()
         }
         if (object->m_bEditing)
             object->EndEdit();
-        if (object->m_bSizing) {
+        if (m_Graph.Owns(object) && object->m_bSizing) {
             m_Graph.m_pTracker = nullptr;
             object->EndSize();
         }
@@ -115,7 +121,7 @@ void CGraphHitTest::GrabPoint(std::size_t nCurve)
 {
     CXGraphDataSerie& curve = m_Graph.m_Curves[nCurve];
     CXGraphAxis& axis = m_Graph.m_XAxes[static_cast<std::size_t>(curve.m_nXAxis)];
-    const double x = axis.GetValueForPos(m_Point.x - curve.m_nMarkerSize / 2);
+    const double x = axis.GetValueForPos(WrapSubtract(m_Point.x, curve.m_nMarkerSize / 2));
     DragState().nCurve = static_cast<int>(nCurve);
     DragState().nPoint = PointSearch::Index(m_Graph, static_cast<int>(nCurve), x);
 }
@@ -126,8 +132,10 @@ void CGraphHitTest::DragPoint()
     const TDragState& drag = DragState();
     if (!m_Graph.m_bLButtonDown || drag.nPoint == -1 || m_Graph.m_opOperation != opEditCurve)
         return;
+    // Since it was taken hold of, the curve may have gone or been given fewer points.
+    if (std::cmp_greater_equal(drag.nCurve, m_Graph.m_Curves.size()))
+        return;
     CXGraphDataSerie& curve = m_Graph.m_Curves[static_cast<std::size_t>(drag.nCurve)];
-    // The curve may have been given fewer points since it was taken hold of.
     const int nPoint = std::min(drag.nPoint, curve.m_nCount - 1);
     if (nPoint < 0)
         return;
@@ -171,6 +179,9 @@ void CGraphHitTest::DoubleClickLegend(int nRow)
         m_Graph.OpenSheet(nullptr, nullptr);
         return;
     }
+    // The row may be one of a frame from before a curve went.
+    if (std::cmp_greater_equal(nRow, m_Graph.m_Curves.size()))
+        return;
     m_Graph.m_nSelectedCurve = nRow;
     m_Graph.OpenSheet(nullptr, &m_Graph.m_Curves[static_cast<std::size_t>(nRow)]);
 }

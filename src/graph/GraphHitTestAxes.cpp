@@ -1,6 +1,7 @@
 #include "graph/AxisClick.h"
 #include "graph/DragState.h"
 #include "graph/HitTest.h"
+#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 namespace
@@ -19,12 +20,12 @@ int XPosition(CPoint point)
 
 CRect YBand(const CRect& inner, CPoint marker)
 {
-    return CRect(inner.left, marker.y - BandHalf, inner.right, marker.y + BandHalf);
+    return CRect(inner.left, WrapSubtract(marker.y, BandHalf), inner.right, WrapAdd(marker.y, BandHalf));
 }
 
 CRect XBand(const CRect& inner, CPoint marker)
 {
-    return CRect(marker.x - BandHalf, inner.top, marker.x + BandHalf, inner.bottom);
+    return CRect(WrapSubtract(marker.x, BandHalf), inner.top, WrapAdd(marker.x, BandHalf), inner.bottom);
 }
 } // namespace
 

@@ -22,6 +22,11 @@ void Reset(CCheckedVector<CXGraphAxis>& axes)
 }
 } // namespace
 
+void CXGraph::MoveCursorBy(int x, int y)
+{
+    m_ptCurrent = m_ptCurrent + CSize(x, y);
+}
+
 void CXGraph::OnKeyUp(UINT nChar, UINT, UINT)
 {
     const bool cursor = m_opOperation == opCursor;
@@ -39,16 +44,16 @@ void CXGraph::OnKeyUp(UINT nChar, UINT, UINT)
         Shift(m_YAxes, -1, 1);
         break;
     case VK_LEFT:
-        cursor ? void(--m_ptCurrent.x) : Shift(m_XAxes, 1, 1);
+        cursor ? MoveCursorBy(-1, 0) : Shift(m_XAxes, 1, 1);
         break;
     case VK_RIGHT:
-        cursor ? void(++m_ptCurrent.x) : Shift(m_XAxes, -1, -1);
+        cursor ? MoveCursorBy(1, 0) : Shift(m_XAxes, -1, -1);
         break;
     case VK_UP:
-        cursor ? void(--m_ptCurrent.y) : Shift(m_YAxes, -1, -1);
+        cursor ? MoveCursorBy(0, -1) : Shift(m_YAxes, -1, -1);
         break;
     case VK_DOWN:
-        cursor ? void(++m_ptCurrent.y) : Shift(m_YAxes, 1, 1);
+        cursor ? MoveCursorBy(0, 1) : Shift(m_YAxes, 1, 1);
         break;
     default:
         Default();
@@ -69,7 +74,7 @@ BOOL CXGraph::PreTranslateMessage(MSG* pMsg)
 void CXGraph::DeleteCurrentObject()
 {
     CXGraphObject* object = m_pCurrentObject;
-    if (object == nullptr || !object->m_bSizing || object == &m_CursorLabel)
+    if (!Owns(object) || !object->m_bSizing || object == &m_CursorLabel)
         return;
     m_Objects.RemoveAt(m_Objects.Find(object));
     m_pCurrentObject = nullptr;

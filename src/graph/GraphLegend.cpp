@@ -79,7 +79,8 @@ void CXGraph::DrawLegend(CDCEx* pDC, CRect& rc)
     m_LegendEntries.clear();
     int nOffset = 0;
     for (const TLegendRow& row : rows) {
-        const GraphLegendLayout::Row place = GraphLegendLayout::PlaceRow(rcBox, nOffset, extent.nRowHeight);
+        const GraphLegendLayout::Row place =
+            GraphLegendLayout::PlaceRow(rcBox, nOffset, extent.nRowHeight);
         nOffset += extent.nRowHeight;
         m_LegendEntries.push_back({place.entry, row.pCurve});
         CRect rcText = place.text;

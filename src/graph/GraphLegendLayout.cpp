@@ -51,7 +51,8 @@ Row PlaceRow(const TRect& inner, int nOffset, int nRowHeight) noexcept
     Row row;
     row.text = {WrapAdd(inner.left, kTextLeft), top, inner.right, bottom};
     row.entry = {inner.left, top, inner.right, bottom};
-    row.key = {WrapAdd(inner.left, 2), WrapAdd(top, 1), WrapAdd(inner.left, 10), WrapSubtract(bottom, 2)};
+    row.key = {WrapAdd(inner.left, 2), WrapAdd(top, 1), WrapAdd(inner.left, 10),
+               WrapSubtract(bottom, 2)};
     return row;
 }
 

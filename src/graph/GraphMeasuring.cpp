@@ -18,6 +18,13 @@ constexpr int ArrowSize = 6;
 constexpr int SmallestSpan = 7; // below it an arrow points across
 constexpr long long FarAway = 10000000;
 
+// A point may have any pixel; an arrow beyond this is not seen, and its corners stay sums.
+LONG Reachable(LONG pixel)
+{
+    constexpr LONG farthest = 1 << 26;
+    return std::clamp(pixel, -farthest, farthest);
+}
+
 long long Distance(int from, int to)
 {
     return std::llabs(static_cast<long long>(to) - from);
@@ -113,14 +120,18 @@ void CXGraph::DrawMeasureLines(CDCEx* pDC, const CRect& rc)
 
 void CXGraph::DrawMeasureArrows(CDCEx* pDC, const CRect& rc)
 {
+    const LONG left = Reachable(rc.left);
+    const LONG top = Reachable(rc.top);
+    const LONG right = Reachable(rc.right);
+    const LONG bottom = Reachable(rc.bottom);
     if (Distance(rc.left, rc.right) < SmallestSpan)
-        DrawTriangleUp(CPoint(rc.right - 3, rc.top + 3), ArrowSize, ElbowColor, false, pDC);
+        DrawTriangleUp(CPoint(right - 3, top + 3), ArrowSize, ElbowColor, false, pDC);
     else
-        DrawTriangleLeft(CPoint(rc.left, rc.top - 3), ArrowSize, ElbowColor, false, pDC);
+        DrawTriangleLeft(CPoint(left, top - 3), ArrowSize, ElbowColor, false, pDC);
     if (Distance(rc.top, rc.bottom) < SmallestSpan)
-        DrawTriangleRight(CPoint(rc.right - 6, rc.bottom - 6), ArrowSize, ElbowColor, false, pDC);
+        DrawTriangleRight(CPoint(right - 6, bottom - 6), ArrowSize, ElbowColor, false, pDC);
     else
-        DrawTriangleDown(CPoint(rc.right - 3, rc.bottom - 6), ArrowSize, ElbowColor, false, pDC);
+        DrawTriangleDown(CPoint(right - 3, bottom - 6), ArrowSize, ElbowColor, false, pDC);
 }
 
 // Placed by the span's own ends, but read off the curves of the latest drag.

@@ -2,15 +2,33 @@
 
 #include "draw/WindowCanvas.h"
 #include "framework/windowing/DeviceContexts.h"
+#include "graph/FrameLayout.h"
 #include "graph/XGraph.h"
 
-#include <vector>
+namespace
+{
+// Posted to nobody, a message would come up in the thread's own queue.
+void PostToParent(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam)
+{
+    if (const HWND hParent = ::GetParent(hWnd))
+        ::PostMessageW(hParent, nMessage, wParam, lParam);
+}
+
+// A message carries 32 bits of an address or a handle, with their sign.
+LPARAM LowHalf(const void* pointer)
+{
+    return static_cast<LONG>(reinterpret_cast<LONG_PTR>(pointer));
+}
+} // namespace
 
 void CXGraph::Notify(UINT nMessage, WPARAM wParam) const
 {
-    // A message carries 32 bits of the address, with their sign.
-    const auto low = static_cast<LONG>(reinterpret_cast<LONG_PTR>(this));
-    ::PostMessageW(::GetParent(m_hWnd), nMessage, wParam, low);
+    PostToParent(m_hWnd, nMessage, wParam, LowHalf(this));
+}
+
+void CXGraph::NotifyOfWindow(UINT nMessage) const
+{
+    PostToParent(m_hWnd, nMessage, 0, LowHalf(m_hWnd));
 }
 
 void CXGraph::OnLButtonDown(UINT, CPoint point)
@@ -30,15 +48,10 @@ void CXGraph::OnLButtonDown(UINT, CPoint point)
 
 void CXGraph::PressObjects(CPoint point)
 {
-    std::vector<CObject*> objects;
-    for (POSITION place = m_Objects.GetHeadPosition(); place != nullptr;)
-        objects.push_back(m_Objects.GetNext(place));
-
-    for (CObject* candidate : objects) {
+    for (CXGraphObject* object : ListObjects()) {
         // While an earlier one was tracked, messages ran and may have removed this one.
-        if (m_Objects.Find(candidate) == nullptr)
+        if (!Owns(object))
             continue;
-        auto* object = static_cast<CXGraphObject*>(candidate);
         if (object->m_rcObject.PtInRect(point))
             m_pCurrentObject = object;
         if (object->m_bSizing && object->m_Tracker.HitTest(point) != CRectTracker::hitNothing)
@@ -49,13 +62,29 @@ void CXGraph::PressObjects(CPoint point)
 void CXGraph::TrackObject(CXGraphObject* object, CPoint point)
 {
     ReleaseCapture();
-    const bool moved = object->m_Tracker.Track(this, point, FALSE, nullptr) != FALSE;
-    if (!moved || m_Objects.Find(object) == nullptr)
+    // Messages run while it drags, and may remove the object: a copy of its tracker drags.
+    CRectTracker tracker = object->m_Tracker;
+    const bool moved = tracker.Track(this, point, FALSE, nullptr) != FALSE;
+    if (!moved || !Owns(object))
         return;
+    object->m_Tracker = tracker;
     if (object->m_bCanMove && object->m_bCanResize) {
-        object->m_rcObject = object->m_Tracker.m_rect;
+        object->m_rcObject = tracker.m_rect;
         Invalidate(FALSE);
     }
+}
+
+std::vector<CXGraphObject*> CXGraph::ListObjects() const
+{
+    std::vector<CXGraphObject*> objects;
+    for (POSITION place = m_Objects.GetHeadPosition(); place != nullptr;)
+        objects.push_back(static_cast<CXGraphObject*>(m_Objects.GetNext(place)));
+    return objects;
+}
+
+bool CXGraph::Owns(const CXGraphObject* object) const
+{
+    return object != nullptr && m_Objects.Find(object) != nullptr;
 }
 
 void CXGraph::OnLButtonUp(UINT, CPoint point)
@@ -115,8 +144,7 @@ void CXGraph::OnRButtonUp(UINT, CPoint point)
     if (m_pCurrentObject != nullptr && m_pCurrentObject->m_rcObject.PtInRect(point))
         m_pCurrentObject->InvokeProperties();
     else
-        ::PostMessageW(::GetParent(m_hWnd), XG_RBUTTONUP, 0,
-                       static_cast<LONG>(reinterpret_cast<LONG_PTR>(m_hWnd)));
+        NotifyOfWindow(XG_RBUTTONUP);
     Default();
 }
 
@@ -138,14 +166,12 @@ void CXGraph::MoveCursor()
     m_bTmpDC = true;
     {
         CWindowCanvas canvas(m_hWnd);
-        // The frame clips its cursor to the plot; drawn without that here, the cursor's box would
-        // leave at the plot's edge what the next frame never drew.
-        canvas.Get()->IntersectClipRect(&m_rcInner);
+        // Whatever the frame's own cursor doesn't reach would keep a trace of this one.
+        ClipToCursor(canvas.Get());
         DrawCursor(canvas.Get());
     }
     m_bTmpDC = false;
-    ::PostMessageW(::GetParent(m_hWnd), XG_CURSORMOVED, 0,
-                   static_cast<LONG>(reinterpret_cast<LONG_PTR>(m_hWnd)));
+    NotifyOfWindow(XG_CURSORMOVED);
 }
 
 void CXGraph::DragTo(CPoint point)
@@ -158,9 +184,12 @@ void CXGraph::DragTo(CPoint point)
         else
             PanBy(point);
     }
-    if (!m_bLButtonDown || (m_opOperation != opZoom && m_opOperation != opMeasure))
+    if (!m_bLButtonDown || (m_opOperation != opZoom && m_opOperation != opMeasure) || m_hWnd == nullptr)
         return;
     if (m_bDoubleBuffer) {
+        // The frame may come after the release, which needs the band.
+        if (m_opOperation == opZoom)
+            m_rcZoom = FrameLayout::Band(m_ptLButtonDown, m_ptCurrent, m_rcInner);
         Invalidate();
         return;
     }

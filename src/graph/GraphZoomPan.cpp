@@ -3,6 +3,7 @@
 #include "graph/XGraph.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -10,12 +11,13 @@ constexpr int SmallestBand = 15; // pixels each way; below it a rubber band is d
 constexpr double WheelSteps = 10.0;
 
 // The span is assigned as it was drawn, without the rules for equal bounds; a span of nothing is
-// no zoom and leaves no history.
+// no zoom and leaves no history. Nor is one that has no bounds, on an axis whose range is beyond
+// numbers.
 void ZoomAxis(CXGraphAxis& axis, int nLow, int nHigh)
 {
     const double low = axis.GetValueForPos(nLow);
     const double high = axis.GetValueForPos(nHigh);
-    if (high - low == 0.0)
+    if (high - low == 0.0 || !std::isfinite(low) || !std::isfinite(high))
         return;
     axis.m_ZoomHistory.push_back({axis.m_fCurMin, axis.m_fCurMax});
     axis.m_fCurMin = low;

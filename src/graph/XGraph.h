@@ -24,6 +24,7 @@
 #include "objects/XGraphLabel.h"
 
 #include <memory>
+#include <vector>
 
 class CXGraph;
 class CXGraphObject;
@@ -103,6 +104,7 @@ public:
     bool HitTest(bool bDblClick, bool bCheckOnly);
     // Posts to the parent window, with the low half of this object's address.
     void Notify(UINT nMessage, WPARAM wParam) const;
+    void NotifyOfWindow(UINT nMessage) const; // with the low half of the window's handle
     // Shows the property sheet on an axis, on a curve, or on the graph alone.
     void OpenSheet(CXGraphAxis* pAxis, CXGraphDataSerie* pCurve);
 
@@ -217,6 +219,10 @@ public:
     CXGraphAxis& XAxisOf(const CXGraphDataSerie& curve) { return *GetXAxis(curve.m_nXAxis); }
     CXGraphAxis& YAxisOf(const CXGraphDataSerie& curve) { return *GetYAxis(curve.m_nYAxis); }
 
+    // The objects as they stand, for walks in which one of them may go.
+    [[nodiscard]] std::vector<CXGraphObject*> ListObjects() const;
+    [[nodiscard]] bool Owns(const CXGraphObject* pObject) const; // false for null
+
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
@@ -252,11 +258,14 @@ private:
     void TrackObject(CXGraphObject* pObject, CPoint point);
     void DeleteCurrentObject();
     void MoveCursor();
+    void MoveCursorBy(int x, int y);
     void DragTo(CPoint point);
 
     void SnapCursor();
     int ReadCursor(int nCurve); // the pixel y of the curve at the cursor's x
-    void DrawCursorFigure(CDCEx* pDC, CPoint point);
+    void DrawCursorFigure(CDCEx* pDC, CPoint point, const TCursorLook& look);
+    // Between two frames the cursor moves below the objects, as it lies in a frame.
+    void ClipToCursor(CDCEx* pDC);
     void BringIntoView(CXGraphAxis& axis, double fValue) const;
     void PinNotation();
 
@@ -271,4 +280,6 @@ private:
     void Store(CArchive& ar, UINT nFlags);
     void ReadObjects(CArchive& ar);
     int PrintCentred(CDCEx& canvas, const CString& strText, bool bTop);
+
+    TCursorLook m_LastCursorLook; // of the figure at m_ptLastCursor
 };

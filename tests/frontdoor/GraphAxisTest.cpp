@@ -19,7 +19,10 @@ protected:
     Holder<ISGraphAxis> axis;
 };
 
-Holder<ISGraphAxis> Empty() { return Server::Shared().Make<SGraphAxis, ISGraphAxis>(); }
+Holder<ISGraphAxis> Empty()
+{
+    return Server::Shared().Make<SGraphAxis, ISGraphAxis>();
+}
 
 } // namespace
 
@@ -190,8 +193,8 @@ TEST(AxisWithoutHandle, NothingIsDoneAndThatIsNoFailure)
 TEST(AxisWithoutHandle, DeathTest_TheObjectsOwnMethodsFault)
 {
     const auto axis = Empty();
-    EXPECT_EXIT((Faults::EndAtOnce(), axis->SetSelected(1)), testing::ExitedWithCode(Faults::AccessViolation),
-                "");
+    EXPECT_EXIT((Faults::EndAtOnce(), axis->SetSelected(1)),
+                testing::ExitedWithCode(Faults::AccessViolation), "");
 }
 
 TEST_F(AxisWrapper, DeathTest_MarkersPastTheEndEndTheProcess)
@@ -199,7 +202,8 @@ TEST_F(AxisWrapper, DeathTest_MarkersPastTheEndEndTheProcess)
     constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
     EXPECT_EXIT(axis->SetAxisMarker(1, 0, 0, 0), testing::ExitedWithCode(kInvalidParameter), "");
     EXPECT_EXIT(axis->SetMaskerLabel(0, Text(L"x")), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(axis->SetColorRange(1, 0, 1, 0, 0, Text(L""), 0), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(axis->SetColorRange(1, 0, 1, 0, 0, Text(L""), 0),
+                testing::ExitedWithCode(kInvalidParameter), "");
 }
 
 TEST(LogAxisWithoutHandle, NothingIsDone)

@@ -38,7 +38,8 @@ protected:
     {
         auto points = Line();
         Holder<ISGraphDataSerie> curve;
-        graph->SetData(curve.Out(), points.data(), static_cast<long>(points.size()), nCurve, nXAxis, nYAxis, 1);
+        graph->SetData(curve.Out(), points.data(), static_cast<long>(points.size()), nCurve, nXAxis,
+                       nYAxis, 1);
         return curve;
     }
     Holder<ISGraphAxis> XAxis(int nAxis = 0)

@@ -44,7 +44,8 @@ protected:
     {
         DISPID id = DISPID_UNKNOWN;
         LPOLESTR pName = const_cast<LPOLESTR>(pszName);
-        EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &pName, 1, LOCALE_USER_DEFAULT, &id), S_OK) << pszName;
+        EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &pName, 1, LOCALE_USER_DEFAULT, &id), S_OK)
+            << pszName;
         return id;
     }
     // Arguments stand in reverse in a call.
@@ -54,8 +55,8 @@ protected:
         std::reverse(arguments.begin(), arguments.end());
         DISPPARAMS parameters = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
         EXCEPINFO exception = {};
-        const HRESULT result = dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
-                                                nullptr, &exception, nullptr);
+        const HRESULT result = dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
+                                                &parameters, nullptr, &exception, nullptr);
         return result == DISP_E_EXCEPTION ? exception.scode : result;
     }
     static VARIANT Number(LONG nValue)
@@ -163,7 +164,8 @@ protected:
     {
         Holder<ITypeInfo> target;
         TYPEATTR* pAttributes = nullptr;
-        if (FAILED(info->GetRefTypeInfo(reference, target.Out())) || FAILED(target->GetTypeAttr(&pAttributes)))
+        if (FAILED(info->GetRefTypeInfo(reference, target.Out())) ||
+            FAILED(target->GetTypeAttr(&pAttributes)))
             return;
         visit(*pAttributes);
         target->ReleaseTypeAttr(pAttributes);
@@ -203,7 +205,8 @@ TEST_F(LateBound, AnObjectHandedOutIsDrivenByNamesToo)
     EXPECT_EQ(id, 35);
     VARIANT size = Number(19);
     DISPPARAMS parameters = {&size, nullptr, 1, 0};
-    EXPECT_EQ(axis->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
+    EXPECT_EQ(axis->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
+                           nullptr, nullptr),
               S_OK);
     int nSize = 0;
     XAxis()->GetTickSize(&nSize);
@@ -261,7 +264,8 @@ TEST_F(LateBound, AnUnknownNameIsTold)
 {
     DISPID id = 0;
     LPOLESTR pName = const_cast<LPOLESTR>(L"NoSuchMethod");
-    EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &pName, 1, LOCALE_USER_DEFAULT, &id), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &pName, 1, LOCALE_USER_DEFAULT, &id),
+              DISP_E_UNKNOWNNAME);
     EXPECT_EQ(Invoke(999, {}), DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(Invoke(IdOf(L"SetSnapRange"), {}), DISP_E_BADPARAMCOUNT);
 }

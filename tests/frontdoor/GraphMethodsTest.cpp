@@ -1,14 +1,14 @@
-// The methods whose native side is still to come, and no others. The list can only shrink.
+// No method refuses for want of a native side: each answers with one of the two results that
+// automation methods have.
 
 #include "GraphHost.h"
 
 namespace
 {
 
-using GraphPending = FrontDoorGraph;
+using GraphMethods = FrontDoorGraph;
 
-// Calls every method of the interface that touches nothing but the graph, and says which of
-// them refuse.
+// Counts calls and keeps the names of the methods that refuse.
 class Calls
 {
 public:
@@ -29,7 +29,7 @@ public:
 
 #define CALL(object, method, ...) calls.Add(#method, object->method(__VA_ARGS__))
 
-TEST_F(GraphPending, OfTheGraph)
+TEST_F(GraphMethods, OfTheGraph)
 {
     AddLine(0);
     Calls calls;
@@ -122,33 +122,26 @@ TEST_F(GraphPending, OfTheGraph)
     ::DeleteFileW(file.c_str());
 
     EXPECT_EQ(calls.m_nCalls, 69);
-    const std::vector<std::string> expected{
-        "InsertDataNotation", "AddLinearTrend", "AddCubicTrend", "Edit",         "Zoom",
-        "ResetZoom",          "Pan",            "NoOp",          "Measure",      "GetZoomDepth",
-        "GetCursorAbsolute",  "SetCursorAbsolute", "Save",       "Load"};
-    EXPECT_EQ(calls.m_pending, expected);
+    EXPECT_EQ(calls.m_pending, std::vector<std::string>());
 }
 
-TEST_F(GraphPending, OfTheCurve)
+TEST_F(GraphMethods, OfTheCurve)
 {
     auto curve = AddLine(0);
     Calls calls;
-    TDataPoint* pPoints = nullptr;
-    CALL(curve, GetLinearTrend, &pPoints, 1);
-    CALL(curve, GetCubicTrend, &pPoints, 1);
-    CALL(curve, GetPolynomialTrend, &pPoints, 2, 1);
-    CALL(curve, GetSimpleMovingAverage, &pPoints, 3);
-    CALL(curve, GetExponentialMovingAverage, &pPoints, 3);
-    CALL(curve, GetLinearMovingAverage, &pPoints, 3);
-    CALL(curve, GetTriangularMovingAverage, &pPoints, 3);
-    CALL(curve, GetSineWeightedMovingAverage, &pPoints, 3);
-    const std::vector<std::string> expected{"GetLinearTrend",
-                                            "GetCubicTrend",
-                                            "GetPolynomialTrend",
-                                            "GetSimpleMovingAverage",
-                                            "GetExponentialMovingAverage",
-                                            "GetLinearMovingAverage",
-                                            "GetTriangularMovingAverage",
-                                            "GetSineWeightedMovingAverage"};
-    EXPECT_EQ(calls.m_pending, expected);
+    TDataPoint* arrays[8] = {};
+    CALL(curve, GetLinearTrend, &arrays[0], 1);
+    CALL(curve, GetCubicTrend, &arrays[1], 1);
+    CALL(curve, GetPolynomialTrend, &arrays[2], 2, 1);
+    CALL(curve, GetSimpleMovingAverage, &arrays[3], 3);
+    CALL(curve, GetExponentialMovingAverage, &arrays[4], 3);
+    CALL(curve, GetLinearMovingAverage, &arrays[5], 3);
+    CALL(curve, GetTriangularMovingAverage, &arrays[6], 3);
+    CALL(curve, GetSineWeightedMovingAverage, &arrays[7], 3);
+    EXPECT_EQ(calls.m_nCalls, 8);
+    EXPECT_EQ(calls.m_pending, std::vector<std::string>());
+    for (TDataPoint* pArray : arrays) {
+        EXPECT_NE(pArray, nullptr);
+        ::CoTaskMemFree(pArray); // the host's way to free what it is given
+    }
 }

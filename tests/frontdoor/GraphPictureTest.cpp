@@ -13,7 +13,8 @@ namespace
 
 std::vector<unsigned char> ReadFile(const std::wstring& path)
 {
-    const HANDLE hFile = ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE hFile =
+        ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     std::vector<unsigned char> bytes;
     if (hFile == INVALID_HANDLE_VALUE)
         return bytes;

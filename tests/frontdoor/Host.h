@@ -2,8 +2,8 @@
 // A host as it comes from outside: it loads the DLL that lies beside the program, knows the
 // generated header and nothing else of the product, and has a window and a message loop.
 
-#include <windows.h>
 #include <ole2.h>
+#include <windows.h>
 
 #include "vantoplex.h"
 
@@ -71,7 +71,8 @@ class Server
 public:
     explicit Server(const std::wstring& path = PathBesideProgram())
         : m_hModule(::LoadLibraryW(path.c_str())),
-          m_pfnGetClassObject(Export<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>("DllGetClassObject")),
+          m_pfnGetClassObject(
+              Export<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>("DllGetClassObject")),
           m_pfnCanUnloadNow(Export<HRESULT(STDAPICALLTYPE*)()>("DllCanUnloadNow"))
     {
     }
@@ -141,8 +142,8 @@ public:
         wndclass.hInstance = ::GetModuleHandleW(nullptr);
         wndclass.lpszClassName = L"VantoplexTestHost";
         ::RegisterClassW(&wndclass); // fails harmlessly the second time
-        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", WS_POPUP | WS_VISIBLE, 0, 0, nWidth,
-                                   nHeight, nullptr, nullptr, wndclass.hInstance, this);
+        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", WS_POPUP | WS_VISIBLE, 0, 0,
+                                   nWidth, nHeight, nullptr, nullptr, wndclass.hInstance, this);
     }
     HostWindow(const HostWindow&) = delete;
     HostWindow& operator=(const HostWindow&) = delete;
@@ -193,4 +194,7 @@ private:
     }
 };
 
-inline wireHWND WireHandle(HWND hWnd) { return reinterpret_cast<wireHWND>(hWnd); }
+inline wireHWND WireHandle(HWND hWnd)
+{
+    return reinterpret_cast<wireHWND>(hWnd);
+}

@@ -65,7 +65,8 @@ TEST_F(BitmapExport, TheFileHoldsTheWindowAsItStandsOnTheScreen)
     for (int y = 0; y < kHeight; ++y) {
         for (int x = 0; x < kWidth; ++x) {
             const auto pixel = At<DWORD>(bytes, 54 + ((kHeight - 1 - y) * kWidth + x) * 4);
-            nWrong += RGB((pixel >> 16) & 255, (pixel >> 8) & 255, pixel & 255) != picture.At(x, y) ? 1 : 0;
+            nWrong +=
+                RGB((pixel >> 16) & 255, (pixel >> 8) & 255, pixel & 255) != picture.At(x, y) ? 1 : 0;
         }
     }
     EXPECT_EQ(nWrong, 0);

@@ -14,8 +14,8 @@ class GraphBadData : public GraphTest
 protected:
     void Plot(std::vector<TDataPoint> points)
     {
-        graph.SetData(points.data(), static_cast<long>(points.size()), static_cast<int>(graph.m_Curves.size()),
-                      0, 0, true);
+        graph.SetData(points.data(), static_cast<long>(points.size()),
+                      static_cast<int>(graph.m_Curves.size()), 0, 0, true);
         Paint();
         EXPECT_FALSE(::GetUpdateRect(graph.m_hWnd, nullptr, FALSE));
     }
@@ -24,7 +24,8 @@ protected:
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kDenormal = std::numeric_limits<double>::denorm_min();
-constexpr double kOdd[] = {kNan, kInfinity, -kInfinity, 1e308, -1e308, DBL_MAX, -DBL_MAX, kDenormal, -kDenormal, 0.0};
+constexpr double kOdd[] = {kNan,    kInfinity, -kInfinity, 1e308,      -1e308,
+                           DBL_MAX, -DBL_MAX,  kDenormal,  -kDenormal, 0.0};
 
 } // namespace
 
@@ -104,8 +105,8 @@ TEST_F(GraphBadData, StepsThatLeadNowhereEnd)
 TEST_F(GraphBadData, FormatsFromOutsideReadNothingThatIsNotThere)
 {
     AddLine();
-    for (const wchar_t* pszFormat : {L"%s", L"%n", L"%*d", L"%1000000f", L"%", L"%%%", L"%.999999999e", L"%I64d",
-                                     L"%ls %p %x", L"%5.1", L""}) {
+    for (const wchar_t* pszFormat : {L"%s", L"%n", L"%*d", L"%1000000f", L"%", L"%%%", L"%.999999999e",
+                                     L"%I64d", L"%ls %p %x", L"%5.1", L""}) {
         graph.GetXAxis(0)->m_cDisplayFmt = pszFormat;
         graph.GetYAxis(0)->m_cDisplayFmt = pszFormat;
         Paint();
@@ -117,7 +118,8 @@ TEST_F(GraphBadData, DateFormatsFromOutsideAreHarmlessToo)
 {
     AddLine();
     graph.GetXAxis(0)->m_bDateTime = true;
-    for (const wchar_t* pszFormat : {L"%", L"%Q%!%n%t", L"%#c", L"%E", L"%O%O%O", L"\xD800 %Y", L"%1000000Y"}) {
+    for (const wchar_t* pszFormat :
+         {L"%", L"%Q%!%n%t", L"%#c", L"%E", L"%O%O%O", L"\xD800 %Y", L"%1000000Y"}) {
         graph.GetXAxis(0)->m_cDisplayFmt = pszFormat;
         Paint();
         EXPECT_FALSE(::GetUpdateRect(graph.m_hWnd, nullptr, FALSE));

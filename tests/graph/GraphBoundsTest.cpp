@@ -24,18 +24,18 @@ TEST_F(GraphBoundsDeathTest, AccessOutsideTheListsEndsTheProcess)
 
 TEST_F(GraphBoundsDeathTest, DataForACurvePastTheEndEndsTheProcess)
 {
-    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 1, 0, 0, true), testing::ExitedWithCode(kInvalidParameter),
-                "");
-    EXPECT_EXIT(graph.SetData(g_points.data(), 2, -1, 0, 0, true), testing::ExitedWithCode(kInvalidParameter),
-                "");
+    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 1, 0, 0, true),
+                testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(graph.SetData(g_points.data(), 2, -1, 0, 0, true),
+                testing::ExitedWithCode(kInvalidParameter), "");
 }
 
 TEST_F(GraphBoundsDeathTest, AnAxisMoreThanOnePastTheEndEndsTheProcess)
 {
-    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 0, 1, 0, true), testing::ExitedWithCode(kInvalidParameter),
-                "");
-    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 0, 0, 2, true), testing::ExitedWithCode(kInvalidParameter),
-                "");
+    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 0, 1, 0, true),
+                testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(graph.SetData(g_points.data(), 2, 0, 0, 2, true),
+                testing::ExitedWithCode(kInvalidParameter), "");
 }
 
 TEST_F(GraphBoundsDeathTest, ASymbolKeyWithoutAYAxisEndsTheProcess)

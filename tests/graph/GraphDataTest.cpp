@@ -8,7 +8,10 @@ namespace
 {
 using GraphData = GraphTest;
 
-std::vector<TDataPoint> Some() { return {{1, 5}, {4, -2}, {2, 9}}; }
+std::vector<TDataPoint> Some()
+{
+    return {{1, 5}, {4, -2}, {2, 9}};
+}
 } // namespace
 
 TEST_F(GraphData, NothingIsTakenFromANullArrayOrWithoutPoints)

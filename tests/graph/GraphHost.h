@@ -27,8 +27,8 @@ class GraphParent
 public:
     GraphParent()
     {
-        m_hWnd = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 900, 700, nullptr, nullptr,
-                                   nullptr, nullptr);
+        m_hWnd = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 900, 700, nullptr,
+                                   nullptr, nullptr, nullptr);
     }
     GraphParent(const GraphParent&) = delete;
     GraphParent& operator=(const GraphParent&) = delete;

@@ -16,7 +16,10 @@ public:
     STDMETHOD_(ULONG, Release)() override { return 1; }
     STDMETHOD(QueryInterface)(REFIID, void**) override { return E_NOINTERFACE; }
 
-    explicit LogAxisWrapper(CXGraphObject* pObject) { SetObjectHandle(reinterpret_cast<UINT*>(pObject)); }
+    explicit LogAxisWrapper(CXGraphObject* pObject)
+    {
+        SetObjectHandle(reinterpret_cast<UINT*>(pObject));
+    }
 };
 
 class GraphLogAxisWrapper : public GraphTest

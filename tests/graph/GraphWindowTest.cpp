@@ -30,7 +30,8 @@ TEST_F(GraphWindow, DefaultsAreThoseOfAFreshGraph)
     EXPECT_EQ(fresh.m_crBackColor, 0xFFFFFFu);
     EXPECT_EQ(fresh.m_crGraphColor, 0xFFFFFFu);
     EXPECT_EQ(fresh.m_crInnerColor, 0xF0F0F0u);
-    EXPECT_TRUE(fresh.m_bDoubleBuffer && fresh.m_bShowLegend && fresh.m_bInteraction && fresh.m_bSnapCursor);
+    EXPECT_TRUE(fresh.m_bDoubleBuffer && fresh.m_bShowLegend && fresh.m_bInteraction &&
+                fresh.m_bSnapCursor);
     EXPECT_EQ(fresh.m_nLegendAlignment, EAlignment::right);
     EXPECT_EQ(fresh.m_nSnapRange, 10);
     EXPECT_EQ(fresh.m_nCursorFlags, 7u);
@@ -71,8 +72,9 @@ TEST_F(GraphWindow, TheClassServesHostsThatPlaceTheControlByName)
 
 TEST_F(GraphWindow, TheMarkersStandInTheirOrder)
 {
-    const CXGraph::PFNMARKER expected[] = {DrawSquare,       DrawCircle,     DrawCross,         DrawDiamond,
-                                           DrawTriangleLeft, DrawTriangleUp, DrawTriangleRight, DrawTriangleDown};
+    const CXGraph::PFNMARKER expected[] = {DrawSquare,        DrawCircle,       DrawCross,
+                                           DrawDiamond,       DrawTriangleLeft, DrawTriangleUp,
+                                           DrawTriangleRight, DrawTriangleDown};
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(graph.m_pfnMarker[i], expected[i]) << i;
 }
@@ -125,8 +127,8 @@ TEST_F(GraphWindow, AGraphOutlivesItsWindowUntilItIsFreed)
 {
     const int before = CXGraph::GetLiveCount();
     auto* pGraph = new CXGraph;
-    pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), CWnd::FromHandle(host.m_hWnd),
-                   8);
+    pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50),
+                   CWnd::FromHandle(host.m_hWnd), 8);
     ::DestroyWindow(pGraph->m_hWnd);
     EXPECT_EQ(pGraph->m_hWnd, nullptr);
     EXPECT_EQ(CXGraph::GetLiveCount(), before + 1);
@@ -140,8 +142,8 @@ TEST(GraphAccount, FreeAllDestroysWhatIsLeftWithItsWindow)
     const int before = CXGraph::GetLiveCount();
     ASSERT_EQ(before, 0);
     auto* pGraph = new CXGraph;
-    pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), CWnd::FromHandle(host.m_hWnd),
-                   8);
+    pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50),
+                   CWnd::FromHandle(host.m_hWnd), 8);
     new CXGraph; // never had a window
     const HWND hWnd = pGraph->m_hWnd;
     EXPECT_EQ(CXGraph::GetLiveCount(), 2);

@@ -96,7 +96,8 @@ TEST_F(Legend, AtTheTopOrBottomThereIsNoBoxAndNoRow)
     AddThree();
     Paint();
     ASSERT_EQ(graph.m_LegendEntries.size(), 3u);
-    for (const EAlignment alignment : {EAlignment::top, EAlignment::bottom, static_cast<EAlignment>(99)}) {
+    for (const EAlignment alignment :
+         {EAlignment::top, EAlignment::bottom, static_cast<EAlignment>(99)}) {
         graph.m_nLegendAlignment = alignment;
         const Recording recording(graph);
         EXPECT_EQ(graph.m_rcInner.right, 395);

@@ -20,8 +20,9 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 void ExpectSame(const TDataExtent& actual, const TDataExtent& expected)
 {
     EXPECT_EQ(std::memcmp(&actual, &expected, sizeof actual), 0)
-        << actual.fMinX << ' ' << actual.fMaxX << ' ' << actual.fMinY << ' ' << actual.fMaxY << " instead of "
-        << expected.fMinX << ' ' << expected.fMaxX << ' ' << expected.fMinY << ' ' << expected.fMaxY;
+        << actual.fMinX << ' ' << actual.fMaxX << ' ' << actual.fMinY << ' ' << actual.fMaxY
+        << " instead of " << expected.fMinX << ' ' << expected.fMaxX << ' ' << expected.fMinY << ' '
+        << expected.fMaxY;
 }
 
 } // namespace

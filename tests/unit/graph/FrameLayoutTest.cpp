@@ -59,7 +59,8 @@ TEST(FrameLayout, AutomaticAxesAlternateFromTheLeft)
 
 TEST(FrameLayout, ExplicitPlacementsAreNoPartOfTheAlternation)
 {
-    std::vector<YAxis> axes{Axis(apRight, 1), Axis(apAutomatic, 1), Axis(apLeft, 1), Axis(apAutomatic, 1)};
+    std::vector<YAxis> axes{Axis(apRight, 1), Axis(apAutomatic, 1), Axis(apLeft, 1),
+                            Axis(apAutomatic, 1)};
     FrameLayout::ResolvePlacement(axes);
     EXPECT_EQ(Placements(axes), (std::vector{apRight, apLeft, apLeft, apRight}));
 }

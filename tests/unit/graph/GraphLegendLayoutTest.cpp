@@ -38,7 +38,8 @@ TEST(GraphLegendLayout, TheLeftBoxTakesItsWidthAndTwentyFromTheLeft)
 TEST(GraphLegendLayout, WithNoVisibleCurveTheBoxIsSixteenByTwo)
 {
     TRect graph = kGraph;
-    const TRect box = GraphLegendLayout::PlaceBox(EAlignment::right, GraphLegendLayout::Measure({}), graph);
+    const TRect box =
+        GraphLegendLayout::PlaceBox(EAlignment::right, GraphLegendLayout::Measure({}), graph);
     EXPECT_EQ(box.Width(), 16);
     EXPECT_EQ(box.Height(), 2);
     EXPECT_EQ(kGraph.right - graph.right, 36);
