@@ -73,7 +73,8 @@ void CPieChartWnd::DrawCuts(const GdiPlus::CGraphics& graphics) const
     const TRect pie = GetPieRect();
     const PieGeometry::TPointF centre = GdiPlus::ToFloats(PieGeometry::CentreOf(pie));
     const GdiPlus::CLineBrush background = DiagonalBrush();
-    const GdiPlus::CPen pen = GdiPlus::NewPen(background, static_cast<float>(m_nPieLimit / 150));
+    const std::int32_t width = m_nPieLimit / 150;
+    const GdiPlus::CPen pen = GdiPlus::NewPen(background, static_cast<float>(width));
     float end = m_fStartAngle;
     for (const auto& [key, element] : m_mapElements) {
         end += element->fSweep;

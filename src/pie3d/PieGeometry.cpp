@@ -145,7 +145,8 @@ TFaces FaceRects(const TRect& rcPie, float fIncline, float fDepthRatio) noexcept
 
 float RatioForDepth(const TRect& rcPie, float fDepth) noexcept
 {
-    return fDepth / static_cast<float>(rcPie.Height() * 85 / 180);
+    const std::int32_t squeezeAt85 = rcPie.Height() * 85 / 180;
+    return fDepth / static_cast<float>(squeezeAt85);
 }
 
 float BelowFullTurn(float fAngle) noexcept

@@ -56,7 +56,8 @@ TColumns ColumnsFor(const TRect& rcPie, std::int32_t nMarkWidth, std::int32_t nR
     columns.nTextX = 6 * rcPie.right / 5 + nMarkWidth;
     const auto textX = static_cast<float>(columns.nTextX);
     columns.fTextWidth = WidthUpTo(textX, fLongestLabel, nRightLimit);
-    columns.fPercentX = textX + columns.fTextWidth + static_cast<float>(rcPie.right / 30);
+    const std::int32_t space = rcPie.right / 30;
+    columns.fPercentX = textX + columns.fTextWidth + static_cast<float>(space);
     columns.fPercentWidth = WidthUpTo(columns.fPercentX, fWidestPercent, nRightLimit);
     return columns;
 }

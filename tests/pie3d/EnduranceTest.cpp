@@ -104,7 +104,7 @@ TEST_F(PieCycle, LeavesNoMemoryBehind)
 
 TEST_F(PieCycle, LeavesNoMemoryBehindWhenThePictureIsKept)
 {
-    constexpr int cycles = 3;
+    constexpr int cycles = 5;
     Run(260);
     Pump();
     const int before = HeapBlocks();
