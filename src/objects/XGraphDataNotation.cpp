@@ -6,6 +6,8 @@
 #include "graph/XGraph.h"
 #include "objects/ObjectFont.h"
 
+#include <algorithm>
+
 IMPLEMENT_SERIAL(CXGraphDataNotation, CXGraphObject, 1)
 
 namespace
@@ -13,6 +15,7 @@ namespace
 constexpr COLORREF Black = 0x000000;
 constexpr COLORREF White = 0xFFFFFF;
 constexpr int BoxAbove = 20; // pixels from the box's top down to the point
+constexpr LONG FarthestPixel = 1 << 26; // nothing beyond it is seen, and sums stay sums
 } // namespace
 
 CXGraphDataNotation::CXGraphDataNotation()
@@ -40,8 +43,10 @@ void CXGraphDataNotation::Draw(CDCEx* pDC)
     const CFontSelector selectFont(&m_Font, pDC, true);
     CXGraphDataSerie& curve = *m_pGraph->GetCurve(m_nCurve);
     const TDataPoint value{m_fXVal, m_fYVal};
-    const CPoint point(m_pGraph->GetXAxis(curve.m_nXAxis)->GetPointForValue(value).x,
-                       m_pGraph->GetYAxis(curve.m_nYAxis)->GetPointForValue(value).y);
+    const LONG x = m_pGraph->GetXAxis(curve.m_nXAxis)->GetPointForValue(value).x;
+    const LONG y = m_pGraph->GetYAxis(curve.m_nYAxis)->GetPointForValue(value).y;
+    const CPoint point(std::clamp(x, -FarthestPixel, FarthestPixel),
+                       std::clamp(y, -FarthestPixel, FarthestPixel));
     PlaceBox(pDC, point);
 
     m_rcObject.InflateRect(1, 1);
@@ -62,4 +67,14 @@ void CXGraphDataNotation::PlaceBox(CDCEx* pDC, CPoint point)
         m_bPositioned = true;
     }
     m_rcObject.OffsetRect(point.x - m_rcObject.left, point.y - BoxAbove - m_rcObject.top);
+}
+
+std::array<CRect, 3> CXGraphDataNotation::GetParts() const
+{
+    const CPoint point(m_rcObject.left, m_rcObject.top + BoxAbove);
+    CRect box(m_rcObject);
+    box.InflateRect(1, 1);
+    const LONG end = m_rcObject.bottom;
+    return {box, CRect(point.x - 1, point.y - 1, point.x + 2, point.y + 2),
+            CRect(point.x, std::min(point.y, end), point.x + 1, std::max(point.y, end) + 1)};
 }

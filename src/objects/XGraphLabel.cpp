@@ -36,6 +36,8 @@ void CXGraphLabel::SetFont(const LOGFONTW& font)
 {
     m_Font.DeleteObject();
     m_Font.CreateFontIndirect(&font);
+    if (m_Edit.m_hWnd != nullptr)
+        m_Edit.SetFont(&m_Font); // it writes in the one that has gone
 }
 
 void CXGraphLabel::Serialize(CArchive& ar)
