@@ -69,12 +69,10 @@ void ChartServer::ActivateManifest()
     }
 }
 
-ComPointer<ISGraph> ChartServer::MakeGraph() const
+void ChartServer::MakeObject(REFCLSID wanted, REFIID interfaceId, void** receiver) const
 {
-    ComPointer<ISGraph> graph;
-    void** receiver = reinterpret_cast<void**>(graph.Receive());
     const HRESULT result =
-        CoCreateInstance(__uuidof(SGraph), nullptr, CLSCTX_INPROC_SERVER, __uuidof(ISGraph), receiver);
+        CoCreateInstance(wanted, nullptr, CLSCTX_INPROC_SERVER, interfaceId, receiver);
     if (FAILED(result)) {
         Refuse(
             m_source == ServerSource::Registered
@@ -82,7 +80,6 @@ ComPointer<ISGraph> ChartServer::MakeGraph() const
                 : u"Vantoplex.dll can't be loaded from the folder of this program",
             static_cast<DWORD>(result));
     }
-    return graph;
 }
 
 } // namespace Viewer

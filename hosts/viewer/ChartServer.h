@@ -22,10 +22,22 @@ public:
     ChartServer& operator=(const ChartServer&) = delete;
     ~ChartServer();
 
-    // Throws Error(NoServer).
-    [[nodiscard]] ComPointer<ISGraph> MakeGraph() const;
+    // Throw Error(NoServer).
+    [[nodiscard]] ComPointer<ISGraph> MakeGraph() const { return Make<ISGraph>(__uuidof(SGraph)); }
+    [[nodiscard]] ComPointer<IChart2d> MakeChart() const { return Make<IChart2d>(__uuidof(Chart2d)); }
+    [[nodiscard]] ComPointer<IPieChart3d> MakePie() const
+    {
+        return Make<IPieChart3d>(__uuidof(PieChart3d));
+    }
 
 private:
+    template <class Interface> [[nodiscard]] ComPointer<Interface> Make(REFCLSID wanted) const
+    {
+        ComPointer<Interface> object;
+        MakeObject(wanted, __uuidof(Interface), reinterpret_cast<void**>(object.Receive()));
+        return object;
+    }
+    void MakeObject(REFCLSID wanted, REFIID interfaceId, void** receiver) const;
     void ActivateManifest();
 
     ServerSource m_source;

@@ -19,7 +19,7 @@ constexpr int largestSide = 8192;
 }
 
 // Digits alone; anything longer than five of them is beyond every limit anyway.
-std::optional<int> ParseSide(std::u16string_view text)
+std::optional<int> ParseWhole(std::u16string_view text)
 {
     if (text.empty() || text.size() > 5) {
         return std::nullopt;
@@ -31,7 +31,13 @@ std::optional<int> ParseSide(std::u16string_view text)
         }
         value = value * 10 + (unit - u'0');
     }
-    return value >= smallestSide && value <= largestSide ? std::optional(value) : std::nullopt;
+    return value;
+}
+
+std::optional<int> ParseSide(std::u16string_view text)
+{
+    const std::optional<int> value = ParseWhole(text);
+    return value && *value >= smallestSide && *value <= largestSide ? value : std::nullopt;
 }
 
 void ParseSize(std::u16string_view text, Options& options)
@@ -56,10 +62,11 @@ bool ParseFlag(std::u16string_view name, Options& options)
         bool Options::*field;
         bool value;
     };
-    static constexpr std::array<Flag, 7> flags = {{
+    static constexpr std::array<Flag, 8> flags = {{
         {u"--points", &Options::points, true},
         {u"--no-legend", &Options::legend, false},
         {u"--registered", &Options::registered, true},
+        {u"--gradient", &Options::gradient, true},
         {u"--help", &Options::help, true},
         {u"-h", &Options::help, true},
         {u"/?", &Options::help, true},
@@ -74,35 +81,107 @@ bool ParseFlag(std::u16string_view name, Options& options)
     return false;
 }
 
-bool TakesValue(std::u16string_view name)
+using Store = void (*)(std::u16string_view value, Options& options);
+
+template <auto find, auto field> void StoreWord(std::u16string_view value, Options& options)
 {
-    static constexpr std::array<std::u16string_view, 6> names = {u"--x",     u"--y",   u"--y2",
-                                                                 u"--group", u"--png", u"--size"};
-    for (const std::u16string_view known : names) {
-        if (known == name) {
-            return true;
+    const auto found = find(value);
+    if (!found) {
+        Refuse(u"there is no " + Quote(value) + u" to choose");
+    }
+    options.*field = *found;
+}
+
+template <auto field, int low, int high> void StoreNumber(std::u16string_view value, Options& options)
+{
+    const std::optional<int> number = ParseWhole(value);
+    if (!number || *number < low || *number > high) {
+        Refuse(u"a whole number from " + ToText(low) + u" to " + ToText(high) + u" is wanted, not " +
+               Quote(value));
+    }
+    options.*field = *number;
+}
+
+template <auto field> void StoreText(std::u16string_view value, Options& options)
+{
+    options.*field = value;
+}
+
+template <auto field> void AppendText(std::u16string_view value, Options& options)
+{
+    (options.*field).emplace_back(value);
+}
+
+struct ValueOption {
+    std::u16string_view name;
+    Store store;
+};
+
+constexpr std::array valueOptions = {
+    ValueOption{u"--x", StoreText<&Options::x>},
+    ValueOption{u"--y", AppendText<&Options::y>},
+    ValueOption{u"--y2", AppendText<&Options::y2>},
+    ValueOption{u"--group", StoreText<&Options::group>},
+    ValueOption{u"--png", StoreText<&Options::png>},
+    ValueOption{u"--size", ParseSize},
+    ValueOption{u"--script", StoreText<&Options::script>},
+    ValueOption{u"--chart", StoreWord<FindChartKind, &Options::chart>},
+    ValueOption{u"--pick", StoreText<&Options::pick>},
+    ValueOption{u"--title", StoreText<&Options::title>},
+    ValueOption{u"--subtitle", StoreText<&Options::subtitle>},
+    ValueOption{u"--animation", StoreText<&Options::animation>},
+    ValueOption{u"--tick", StoreNumber<&Options::tick, 0, 10000>},
+    ValueOption{u"--style", StoreWord<FindPieStyle, &Options::style>},
+    ValueOption{u"--tilt", StoreNumber<&Options::tilt, 0, 85>},
+    ValueOption{u"--start", StoreNumber<&Options::start, 0, 359>},
+    ValueOption{u"--depth", StoreNumber<&Options::depth, 0, 1000>},
+    ValueOption{u"--sort", StoreWord<FindPieOrder, &Options::order>},
+};
+
+Store FindStore(std::u16string_view name)
+{
+    for (const ValueOption& option : valueOptions) {
+        if (option.name == name) {
+            return option.store;
         }
     }
-    return false;
+    Refuse(u"unknown option " + Quote(name));
 }
 
 void StoreValue(std::u16string_view name, std::u16string_view value, Options& options)
 {
+    const Store store = FindStore(name);
     if (value.empty()) {
         Refuse(std::u16string(name) + u" needs a value");
     }
-    if (name == u"--x") {
-        options.x = value;
-    } else if (name == u"--y") {
-        options.y.emplace_back(value);
-    } else if (name == u"--y2") {
-        options.y2.emplace_back(value);
-    } else if (name == u"--group") {
-        options.group = value;
-    } else if (name == u"--png") {
-        options.png = value;
-    } else {
-        ParseSize(value, options);
+    try {
+        store(value, options);
+    } catch (const Error& error) {
+        const bool named = error.text.starts_with(name);
+        Refuse(named ? error.text : std::u16string(name) + u": " + error.text);
+    }
+}
+
+// Options that mean something only together.
+void CheckTogether(const Options& options)
+{
+    if (options.help || options.version) {
+        return;
+    }
+    if (!options.png.empty() && options.file.empty()) {
+        Refuse(u"--png needs a CSV file to draw");
+    }
+    if (!options.script.empty() && options.file.empty()) {
+        Refuse(u"--script needs a CSV file to work with");
+    }
+    if (!options.script.empty() && !options.png.empty()) {
+        Refuse(u"--script takes its own pictures; leave --png out");
+    }
+    if (!options.animation.empty() && !FindAnimation(options.chart, options.animation)) {
+        Refuse(u"--animation: this kind of chart has no " + Quote(options.animation));
+    }
+    if (options.tick >= 0 && options.animation.empty()) {
+        Refuse(u"--tick needs an --animation");
     }
 }
 
@@ -138,9 +217,7 @@ Options ParseCommandLine(std::span<const std::u16string> arguments)
         }
         const std::size_t equals = argument.find(u'=');
         const std::u16string name = argument.substr(0, equals);
-        if (!TakesValue(name)) {
-            Refuse(u"unknown option " + Quote(argument));
-        }
+        (void)FindStore(name);
         if (equals != argument.npos) {
             StoreValue(name, std::u16string_view(argument).substr(equals + 1), options);
         } else if (at + 1 < arguments.size()) {
@@ -149,36 +226,8 @@ Options ParseCommandLine(std::span<const std::u16string> arguments)
             Refuse(name + u" needs a value");
         }
     }
-    if (!options.help && !options.version && !options.png.empty() && options.file.empty()) {
-        Refuse(u"--png needs a CSV file to draw");
-    }
+    CheckTogether(options);
     return options;
-}
-
-std::u16string_view HelpText() noexcept
-{
-    return uR"(vantoplex-viewer [OPTIONS] [FILE.csv]
-
-Shows the columns of a CSV file as a graph. The first row names the columns; ISO dates
-(2012-01-31, 2012-01-31T06:30) become a date axis. A row with an empty or unreadable cell
-is left out, counted and told. Without a FILE the program asks for one.
-
-  --x NAME         column along the X axis (default: the first column)
-  --y NAME         column for the Y axis; may be given again (default: all numeric ones)
-  --y2 NAME        column for a second Y axis on the right; may be given again
-  --group NAME     one curve for each word in this column
-  --points         single points instead of lines
-  --no-legend      no legend beside the graph
-  --png FILE       draws into a PNG file and ends, without a person
-  --size WxH       size of the picture or the window in pixels (default: 800x600)
-  --registered     uses the Vantoplex.dll that is registered on this machine,
-                   not the one beside this program
-  --help           this text
-  --version        the version of this program
-
-Exit codes: 0 done, 1 the file can't be read or plotted, 2 wrong command line,
-3 the chart server can't be started, 4 the picture can't be drawn or written.
-)";
 }
 
 } // namespace Viewer

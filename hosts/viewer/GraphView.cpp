@@ -1,6 +1,6 @@
 #include "viewer/GraphView.h"
 
-#include "viewer/ViewerError.h"
+#include "viewer/Palette.h"
 
 #include <array>
 #include <vector>
@@ -9,22 +9,6 @@ namespace Viewer
 {
 namespace
 {
-
-constexpr UINT graphId = 100;
-
-// Colours that stay apart from each other and from a light background, also in print.
-constexpr std::array<COLORREF, 10> palette = {
-    RGB(0x1F, 0x5F, 0xB4), RGB(0xD6, 0x27, 0x28), RGB(0x2C, 0x8A, 0x2C), RGB(0xE0, 0x7B, 0x00),
-    RGB(0x7B, 0x4F, 0xB5), RGB(0x8C, 0x56, 0x4B), RGB(0xC9, 0x4F, 0xA5), RGB(0x40, 0x40, 0x40),
-    RGB(0x8A, 0x8A, 0x10), RGB(0x0E, 0x93, 0xA6)};
-
-void Check(HRESULT result)
-{
-    if (FAILED(result)) {
-        throw Error{ExitCode::NoServer,
-                    u"the graph refuses to work (" + SystemText(static_cast<DWORD>(result)) + u")"};
-    }
-}
 
 std::vector<TDataPoint> ToServerPoints(const std::vector<Point>& points)
 {
@@ -42,16 +26,18 @@ GraphView::GraphView(const ChartServer& server, HWND parent, const RECT& place)
     : m_graph(server.MakeGraph())
 {
     RECT rectangle = place;
-    Check(m_graph->Create(Bstr(u"").Get(), &rectangle, ToWire(parent), graphId));
-    wireHWND window = nullptr;
-    Check(m_graph->GetHandle(&window));
-    m_window = FromWire(window);
-    if (!m_window) {
-        throw Error{ExitCode::NoServer, u"the graph has no window"};
-    }
+    Check(m_graph->Create(Bstr(u"").Get(), &rectangle, ToWire(parent), chartId));
+    m_window = HandleOf(*m_graph.Get());
 }
 
 void GraphView::Show(const PlotPlan& plan, const Options& options)
+{
+    Check(m_graph->SetInnerColor(RGB(0xFC, 0xFC, 0xFC)));
+    Check(m_graph->SetShowLegend(options.legend));
+    Refill(plan, options);
+}
+
+void GraphView::Refill(const PlotPlan& plan, const Options& options)
 {
     for (std::size_t at = 0; at < plan.curves.size(); ++at) {
         AddCurve(plan.curves[at], static_cast<int>(at), options.points);
@@ -70,11 +56,9 @@ void GraphView::Show(const PlotPlan& plan, const Options& options)
         Check(axis->SetShowGrid(at == 0));
         Check(axis->SetShowMarker(plan.y.size() > 1));
         if (plan.y.size() == 2 && plan.curves.size() == 2) {
-            Check(axis->SetColor(palette[at]));
+            Check(axis->SetColor(ColorOf(at)));
         }
     }
-    Check(m_graph->SetInnerColor(RGB(0xFC, 0xFC, 0xFC)));
-    Check(m_graph->SetShowLegend(options.legend));
     Check(m_graph->Invalidate(TRUE));
 }
 
@@ -86,7 +70,7 @@ void GraphView::AddCurve(const Curve& curve, int index, bool points)
     Check(m_graph->SetData(serie.Receive(), data.data(), static_cast<long>(data.size()), index, 0,
                            curve.yAxis, TRUE));
     Check(serie->SetLabel(Bstr(curve.label).Get()));
-    Check(serie->SetColor(palette[static_cast<std::size_t>(index) % palette.size()]));
+    Check(serie->SetColor(ColorOf(static_cast<std::size_t>(index))));
     Check(serie->SetType(points ? gtScatter : gtLine));
 }
 

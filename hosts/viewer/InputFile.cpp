@@ -52,19 +52,6 @@ std::string ReadWholeFile(const std::u16string& path)
     return bytes;
 }
 
-std::u16string AskForFile(HWND owner)
-{
-    std::array<wchar_t, 1024> path{};
-    OPENFILENAMEW request{};
-    request.lStructSize = sizeof request;
-    request.hwndOwner = owner;
-    request.lpstrFilter = L"CSV files (*.csv)\0*.csv\0All files\0*.*\0";
-    request.lpstrFile = path.data();
-    request.nMaxFile = static_cast<DWORD>(path.size());
-    request.Flags = OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-    return GetOpenFileNameW(&request) ? FromWide(path.data()) : std::u16string();
-}
-
 std::u16string NameOfFile(const std::u16string& path)
 {
     const std::size_t slash = path.find_last_of(u"\\/");

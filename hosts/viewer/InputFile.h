@@ -11,9 +11,6 @@ namespace Viewer
 // All bytes of a file of at most 256 MB. Throws Error(BadData).
 [[nodiscard]] std::string ReadWholeFile(const std::u16string& path);
 
-// Asks a person; empty if the person doesn't want to.
-[[nodiscard]] std::u16string AskForFile(HWND owner);
-
 // "C:\data\co2.csv" to "co2.csv".
 [[nodiscard]] std::u16string NameOfFile(const std::u16string& path);
 

@@ -1,10 +1,12 @@
 #include "viewer/MainWindow.h"
 
+#include "viewer/MainMenu.h"
 #include "viewer/ViewerError.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <array>
 
 namespace Viewer
 {
@@ -12,6 +14,8 @@ namespace
 {
 
 constexpr wchar_t className[] = L"VantoplexViewer";
+constexpr UINT chartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
+constexpr unsigned passedOn = 40012; // a command of the graph that comes back as a message
 
 struct FrameStyle {
     DWORD style;
@@ -46,12 +50,12 @@ MainWindow::MainWindow(FrameKind kind, int width, int height, std::u16string_vie
     RegisterFrameClass(Procedure);
     const FrameStyle style = StyleOf(kind);
     RECT frame = {0, 0, width, height};
-    AdjustWindowRectEx(&frame, style.style, FALSE, style.extended);
     const bool picture = kind == FrameKind::ForPicture;
+    AdjustWindowRectEx(&frame, style.style, !picture, style.extended);
     const int place = picture ? 0 : CW_USEDEFAULT;
     CreateWindowExW(style.extended, className, ToWide(title).c_str(), style.style, place, place,
-                    frame.right - frame.left, frame.bottom - frame.top, nullptr, nullptr,
-                    GetModuleHandleW(nullptr), this);
+                    frame.right - frame.left, frame.bottom - frame.top, nullptr,
+                    picture ? nullptr : MakeMainMenu(), GetModuleHandleW(nullptr), this);
     if (!m_window) {
         throw Error{ExitCode::NoPicture, u"no window can be made (" + SystemText(GetLastError()) + u")"};
     }
@@ -59,22 +63,35 @@ MainWindow::MainWindow(FrameKind kind, int width, int height, std::u16string_vie
 
 MainWindow::~MainWindow()
 {
+    m_events = nullptr;
     m_view.reset();
     if (m_window) {
         DestroyWindow(m_window);
     }
 }
 
-void MainWindow::ShowPlan(const ChartServer& server, const PlotPlan& plan, const Options& options)
+void MainWindow::SetTitle(std::u16string_view title)
 {
-    m_view.emplace(server, m_window, GraphPlace());
-    m_view->Show(plan, options);
+    SetWindowTextW(m_window, ToWide(title).c_str());
 }
 
-void MainWindow::SetStatus(std::u16string_view text)
+void MainWindow::SetView(std::unique_ptr<ChartView> view)
+{
+    m_view = std::move(view);
+}
+
+void MainWindow::SetStatus(StatusPart part, std::u16string_view text)
 {
     if (m_status) {
-        SendMessageW(m_status, SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+        SendMessageW(m_status, SB_SETTEXTW, static_cast<WPARAM>(part),
+                     reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+    }
+}
+
+void MainWindow::ShowTools(bool graph, int operation)
+{
+    if (m_tools) {
+        m_tools->Show(graph, operation);
     }
 }
 
@@ -91,14 +108,22 @@ LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam,
                 : DefWindowProcW(window, message, wParam, lParam);
 }
 
+void MainWindow::MakeBars()
+{
+    m_tools.emplace(m_window);
+    m_status = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0,
+                               0, m_window, nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
 LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (HandleEvent(message, wParam)) {
+        return 0;
+    }
     switch (message) {
     case WM_CREATE:
         if (m_kind == FrameKind::ForPerson) {
-            m_status =
-                CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0,
-                                0, 0, m_window, nullptr, GetModuleHandleW(nullptr), nullptr);
+            MakeBars();
         }
         return 0;
     case WM_SIZE:
@@ -111,6 +136,11 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
         break;
+    case WM_SETFOCUS:
+        if (m_view) {
+            SetFocus(m_view->Window());
+        }
+        return 0;
     case WM_DESTROY:
         m_view.reset();
         PostQuitMessage(0);
@@ -127,20 +157,63 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     return DefWindowProcW(m_window, message, wParam, lParam);
 }
 
+bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
+{
+    if (!m_events) {
+        return false;
+    }
+    switch (message) {
+    case WM_COMMAND:
+        if (HIWORD(wParam) > 1) { // neither a menu, a key nor a button
+            return false;
+        }
+        m_events->OnCommand(LOWORD(wParam));
+        return true;
+    case WM_INITMENU:
+        m_events->OnOpenMenu(reinterpret_cast<HMENU>(wParam));
+        return true;
+    case WM_PARENTNOTIFY:
+        if (LOWORD(wParam) == WM_LBUTTONDOWN) {
+            PostMessageW(m_window, chartClicked, 0, 0);
+        }
+        return false;
+    case chartClicked:
+        m_events->OnChartClicked();
+        return true;
+    default:
+        break;
+    }
+    const bool ofChart = (message >= XG_YAXISCLICK && message <= XG_POINTCHANGED) || message == passedOn;
+    return ofChart && m_events->OnChartMessage(message, wParam);
+}
+
 void MainWindow::LayOut()
 {
+    if (m_tools) {
+        m_tools->LayOut();
+    }
     if (m_status) {
         SendMessageW(m_status, WM_SIZE, 0, 0); // it finds its place itself
+        RECT client{};
+        GetClientRect(m_window, &client);
+        constexpr int zoomWidth = 80;
+        constexpr int operationWidth = 110;
+        std::array<int, 3> ends = {std::max<int>(client.right - zoomWidth - operationWidth, 50),
+                                   std::max<int>(client.right - operationWidth, 100), -1};
+        SendMessageW(m_status, SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
     }
     if (m_view) {
-        m_view->MoveTo(GraphPlace());
+        m_view->MoveTo(ChartPlace());
     }
 }
 
-RECT MainWindow::GraphPlace() const
+RECT MainWindow::ChartPlace() const
 {
     RECT place{};
     GetClientRect(m_window, &place);
+    if (m_tools) {
+        place.top = std::min<LONG>(m_tools->Height(), place.bottom);
+    }
     if (m_status) {
         RECT status{};
         GetWindowRect(m_status, &status);

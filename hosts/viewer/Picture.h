@@ -1,15 +1,14 @@
 #pragma once
-// A window's contents as a PNG file.
-
-#include <windows.h>
+// A captured window as a PNG file.
 
 #include <string>
 
 namespace Viewer
 {
 
-// Paints the window, which is shown at its frame's top left corner, and writes what is then in it.
-// The frame is moved about for that if it is larger than the screen. Throws Error(NoPicture).
-void SaveWindowAsPng(HWND window, const std::u16string& path);
+class Capture;
+
+// Throws Error(NoPicture).
+void SaveAsPng(const Capture& capture, const std::u16string& path);
 
 } // namespace Viewer

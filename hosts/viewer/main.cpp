@@ -1,13 +1,20 @@
-// vantoplex-viewer: shows a CSV file in an SGraph, or draws it into a PNG file.
+// vantoplex-viewer: shows a CSV file in a chart, draws it into a PNG file, or works with it as a script says.
 
+#include "viewer/Capture.h"
 #include "viewer/ChartServer.h"
 #include "viewer/CommandLine.h"
+#include "viewer/CsvText.h"
+#include "viewer/Document.h"
+#include "viewer/FileDialogs.h"
+#include "viewer/HelpText.h"
 #include "viewer/InputFile.h"
+#include "viewer/MainMenu.h"
 #include "viewer/MainWindow.h"
 #include "viewer/Output.h"
 #include "viewer/Picture.h"
 #include "viewer/PlainText.h"
-#include "viewer/PlotPlan.h"
+#include "viewer/ScriptRunner.h"
+#include "viewer/Session.h"
 #include "viewer/ViewerError.h"
 
 #include <windows.h>
@@ -15,8 +22,8 @@
 #include <commctrl.h>
 #include <shellapi.h>
 
+#include <memory>
 #include <new>
-#include <span>
 #include <vector>
 
 namespace
@@ -36,56 +43,86 @@ std::vector<std::u16string> ReadArguments()
     return arguments;
 }
 
-PlotPlan ReadPlan(const Options& options)
+int RunMessageLoop(HWND frame)
+{
+    const std::unique_ptr<HACCEL__, decltype(&DestroyAcceleratorTable)> keys(MakeAccelerators(),
+                                                                             DestroyAcceleratorTable);
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        // A label that is being written in keeps its keys.
+        wchar_t name[8] = L"";
+        GetClassNameW(message.hwnd, name, 8);
+        const bool writing = lstrcmpiW(name, L"Edit") == 0;
+        if (writing || !TranslateAcceleratorW(frame, keys.get(), &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    return static_cast<int>(message.wParam);
+}
+
+Document Read(const Options& options)
 {
     try {
-        return MakePlan(MakeTable(SplitCsv(DecodeText(ReadWholeFile(options.file)))), options);
+        return ReadDocument(options);
     } catch (const Error& error) {
         const bool named = error.text.find(NameOfFile(options.file)) != std::u16string::npos;
         throw Error{error.exitCode, named ? error.text : NameOfFile(options.file) + u": " + error.text};
     }
 }
 
-std::size_t SkippedRows(const PlotPlan& plan)
-{
-    std::size_t skipped = 0;
-    for (const Curve& curve : plan.curves) {
-        skipped += curve.skipped;
-    }
-    return skipped;
-}
-
-int RunMessageLoop()
-{
-    MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-    return static_cast<int>(message.wParam);
-}
-
-int DrawPicture(const Options& options, const PlotPlan& plan, const ChartServer& server)
+int DrawPicture(const Options& options, const ChartServer& server)
 {
     MainWindow window(FrameKind::ForPicture, options.width, options.height, u"");
-    window.ShowPlan(server, plan, options);
+    Session session(server, window, Read(options), true);
+    Print(Stream::Output, session.ShowChart());
     ShowWindow(window.Window(), SW_SHOWNOACTIVATE);
-    SaveWindowAsPng(window.GraphWindow(), options.png);
+    session.StopAtTick();
+    SaveAsPng(Capture(window.Window(), Capture::Paint::Again), options.png);
     return 0;
 }
 
-int ShowToPerson(const Options& options, const PlotPlan& plan, const ChartServer& server)
+int RunScript(const Options& options, const ChartServer& server)
+{
+    const std::vector<Step> steps = ParseScript(DecodeText(ReadWholeFile(options.script)));
+    MainWindow window(FrameKind::ForPerson, options.width, options.height, u"");
+    SetWindowPos(window.Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    RECT frame{};
+    GetWindowRect(window.Window(), &frame);
+    if (frame.right > GetSystemMetrics(SM_CXSCREEN) || frame.bottom > GetSystemMetrics(SM_CYSCREEN)) {
+        throw Error{ExitCode::BadCommandLine, u"--script: the window is larger than the screen"};
+    }
+    Session session(server, window, Read(options), true);
+    Print(Stream::Output, session.ShowChart());
+    ShowWindow(window.Window(), SW_SHOW);
+    session.StopAtTick();
+    SetFocus(session.ChartWindow());
+    ScriptRunner(session).Run(steps);
+    return 0;
+}
+
+// The last line of what was read, for the status bar.
+std::u16string LastLine(std::u16string text)
+{
+    while (text.ends_with(u'\n')) {
+        text.pop_back();
+    }
+    return std::u16string(TrimBlanks(text.substr(text.find_last_of(u'\n') + 1)));
+}
+
+int ShowToPerson(const Options& options, const ChartServer& server)
 {
     MainWindow window(FrameKind::ForPerson, options.width, options.height,
                       NameOfFile(options.file) + u" - Vantoplex Viewer");
-    window.ShowPlan(server, plan, options);
-    const std::size_t skipped = SkippedRows(plan);
-    window.SetStatus(ToText(plan.rows) + u" rows, " +
-                     (skipped ? ToText(skipped) : std::u16string(u"none")) +
-                     u" skipped for want of a value");
+    Session session(server, window, Read(options), false);
+    const std::u16string description = session.ShowChart();
+    Print(Stream::Output, description);
+    window.SetStatus(MainWindow::StatusPart::Text, LastLine(description));
     ShowWindow(window.Window(), SW_SHOWDEFAULT);
     UpdateWindow(window.Window());
-    return RunMessageLoop();
+    session.StopAtTick();
+    SetFocus(session.ChartWindow());
+    return RunMessageLoop(window.Window());
 }
 
 int Run()
@@ -96,21 +133,21 @@ int Run()
         return 0;
     }
     if (options.version) {
-        Tell(Stream::Output, u"vantoplex-viewer 1.0.0\n");
+        Tell(Stream::Output, VersionText());
         return 0;
     }
     if (options.file.empty()) {
-        options.file = AskForFile(nullptr);
+        options.file = AskForCsv(nullptr);
         if (options.file.empty()) {
             return 0;
         }
     }
-    const PlotPlan plan = ReadPlan(options);
-    Print(Stream::Output, Describe(plan, NameOfFile(options.file)));
     const ChartServer server(options.registered ? ServerSource::Registered
                                                 : ServerSource::BesideProgram);
-    return options.png.empty() ? ShowToPerson(options, plan, server)
-                               : DrawPicture(options, plan, server);
+    if (!options.script.empty()) {
+        return RunScript(options, server);
+    }
+    return options.png.empty() ? ShowToPerson(options, server) : DrawPicture(options, server);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "viewer/CommandLine.h"
 
+#include "viewer/HelpText.h"
 #include "viewer/ViewerError.h"
 
 #include <gtest/gtest.h>
@@ -89,6 +90,59 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow)
     EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u"--png", u"o.png"}));
     EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u""}));
     EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u"--help=yes"}));
+}
+
+TEST(CommandLine, TakesTheKindsOfChartAndTheirLooks)
+{
+    const Options options = ParseCommandLine(
+        Arguments{u"a.csv", u"--chart", u"pie3d", u"--style=doughnut", u"--tilt=30", u"--start", u"359",
+                  u"--depth=0", u"--sort=ascending", u"--pick=2017", u"--title=T", u"--gradient"});
+
+    EXPECT_EQ(Viewer::ChartKind::Pie3d, options.chart);
+    EXPECT_EQ(Viewer::PieStyle::Doughnut, options.style);
+    EXPECT_EQ(Viewer::PieOrder::Ascending, options.order);
+    EXPECT_EQ(30, options.tilt);
+    EXPECT_EQ(359, options.start);
+    EXPECT_EQ(0, options.depth);
+    EXPECT_EQ(u"2017", options.pick);
+    EXPECT_EQ(u"T", options.title);
+    EXPECT_TRUE(options.gradient);
+}
+
+TEST(CommandLine, AnAnimationBelongsToItsKindOfChart)
+{
+    const Options options = ParseCommandLine(
+        Arguments{u"a.csv", u"--animation", u"sweep", u"--tick", u"70", u"--chart", u"pie"});
+
+    EXPECT_EQ(u"sweep", options.animation);
+    EXPECT_EQ(70, options.tick);
+    EXPECT_EQ(Viewer::ExitCode::BadCommandLine,
+              Refusal({u"a.csv", u"--chart", u"bar", u"--animation", u"sweep"}));
+    EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u"a.csv", u"--chart=pie", u"--tick=5"}));
+}
+
+TEST(CommandLine, RefusesChartsAndNumbersThatDoNotExist)
+{
+    for (const char16_t* option : {u"--chart=donut", u"--style=round", u"--sort=up", u"--tilt=86",
+                                   u"--tilt=-1", u"--start=360", u"--tick=10001", u"--depth=1e2"}) {
+        EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u"a.csv", option}));
+    }
+}
+
+TEST(CommandLine, AScriptNeedsAFileAndTakesItsOwnPictures)
+{
+    EXPECT_EQ(u"s.txt", ParseCommandLine(Arguments{u"a.csv", u"--script", u"s.txt"}).script);
+    EXPECT_EQ(Viewer::ExitCode::BadCommandLine, Refusal({u"--script", u"s.txt"}));
+    EXPECT_EQ(Viewer::ExitCode::BadCommandLine,
+              Refusal({u"a.csv", u"--script", u"s.txt", u"--png", u"o.png"}));
+}
+
+TEST(CommandLine, TheHelpNamesEveryAnimation)
+{
+    for (const Viewer::Animation& animation : Viewer::Animations()) {
+        EXPECT_NE(std::u16string_view::npos, Viewer::HelpText().find(animation.word));
+        EXPECT_EQ(&animation, Viewer::FindAnimation(animation.kind, animation.word));
+    }
 }
 
 } // namespace

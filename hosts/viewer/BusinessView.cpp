@@ -1,0 +1,124 @@
+#include "viewer/BusinessView.h"
+
+#include "viewer/Palette.h"
+
+namespace Viewer
+{
+namespace
+{
+
+constexpr UINT_PTR animationTimer = 50000; // the chart's own
+
+int NumberOf(ChartKind kind) noexcept
+{
+    switch (kind) {
+    case ChartKind::Pie:
+        return 1;
+    case ChartKind::Line:
+        return 2;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+BusinessView::BusinessView(const ChartServer& server, HWND parent, const RECT& place,
+                           const CategoryPlan& plan, const Options& options)
+    : m_chart(server.MakeChart()), m_kind(options.chart)
+{
+    RECT rectangle = place;
+    Check(m_chart->Create(&rectangle, ToWire(parent), chartId));
+    m_window = HandleOf(*m_chart.Get());
+    Check(m_chart->CreateGraph(NumberOf(m_kind)));
+    SetLooks(options);
+    if (m_kind == ChartKind::Pie) {
+        AddSlices(plan);
+    } else if (m_kind == ChartKind::Line) {
+        AddLines(plan);
+    } else {
+        AddBars(plan);
+    }
+    Check(m_chart->ShowGraphLegend(options.legend));
+    Check(m_chart->Invalidate(TRUE));
+}
+
+void BusinessView::SetLooks(const Options& options)
+{
+    Check(m_chart->SetGraphTitle(Bstr(options.title).Get()));
+    Check(m_chart->SetGraphSubtitle(Bstr(options.subtitle).Get()));
+    Check(m_chart->SetGraphTitleColor(RGB(0x20, 0x30, 0x50)));
+    Check(m_chart->SetGraphSubtitleColor(RGB(0x50, 0x60, 0x80)));
+    if (options.gradient) {
+        constexpr int gradientFill = 11;
+        constexpr int fromTopToBottom = 21;
+        Check(m_chart->SetGraphFillType(gradientFill));
+        Check(m_chart->SetGradientFillType(fromTopToBottom));
+        Check(m_chart->SetGraphGradientColors(RGB(0xFF, 0xFF, 0xFF), RGB(0xB8, 0xCC, 0xE8)));
+        Check(m_chart->SetGraphTitleShadow(TRUE));
+    }
+}
+
+// Segments and series are counted from 1, and segments come first.
+void BusinessView::AddBars(const CategoryPlan& plan)
+{
+    for (const std::u16string& name : plan.categories) {
+        Check(m_chart->Add2DBarGraphSegment(Bstr(name).Get()));
+    }
+    for (std::size_t at = 0; at < plan.series.size(); ++at) {
+        const Series& series = plan.series[at];
+        Check(m_chart->Add2DBarGraphSeries(Bstr(series.name).Get(), ColorOf(at)));
+        for (std::size_t segment = 0; segment < series.values.size(); ++segment) {
+            Check(m_chart->Set2DBarGraphValue(static_cast<int>(segment + 1), static_cast<int>(at + 1),
+                                              ToWholeValue(series.values[segment])));
+        }
+    }
+}
+
+void BusinessView::AddLines(const CategoryPlan& plan)
+{
+    for (const std::u16string& name : plan.categories) {
+        Check(m_chart->Add2DLineGraphSegment(Bstr(name).Get()));
+    }
+    for (std::size_t at = 0; at < plan.series.size(); ++at) {
+        const Series& series = plan.series[at];
+        Check(m_chart->Add2DLineGraphSeries(Bstr(series.name).Get(), ColorOf(at)));
+        for (std::size_t segment = 0; segment < series.values.size(); ++segment) {
+            Check(m_chart->Set2DLineGraphValue(static_cast<int>(segment + 1), static_cast<int>(at + 1),
+                                               ToWholeValue(series.values[segment])));
+        }
+    }
+}
+
+void BusinessView::AddSlices(const CategoryPlan& plan)
+{
+    for (std::size_t at = 0; at < plan.slices.size(); ++at) {
+        Check(m_chart->Add2DPieGraphSegment(plan.slices[at].percent, ColorOf(at),
+                                            Bstr(plan.slices[at].name).Get()));
+    }
+}
+
+void BusinessView::Animate(std::u16string_view word)
+{
+    const Animation* animation = FindAnimation(m_kind, word);
+    Check(m_chart->SetGraphAnimation(animation ? TRUE : FALSE, animation ? animation->number : 0));
+    Check(m_chart->Invalidate(TRUE));
+}
+
+void BusinessView::StopAtTick(int tick)
+{
+    KillTimer(m_window, animationTimer);
+    UpdateWindow(m_window);
+    for (int at = 0; at < tick; ++at) {
+        SendMessageW(m_window, WM_TIMER, animationTimer, 0);
+        UpdateWindow(m_window);
+    }
+}
+
+void BusinessView::MoveTo(const RECT& place) noexcept
+{
+    (void)m_chart->SetGraphPosition(place.left, place.top);
+    (void)m_chart->SetGraphSize(place.right - place.left, place.bottom - place.top);
+}
+
+} // namespace Viewer

@@ -1,0 +1,22 @@
+#pragma once
+// Colours that stay apart from each other and from a light background, also in print.
+
+#include <windows.h>
+
+#include <array>
+#include <cstddef>
+
+namespace Viewer
+{
+
+constexpr std::array<COLORREF, 10> palette = {
+    RGB(0x1F, 0x5F, 0xB4), RGB(0xD6, 0x27, 0x28), RGB(0x2C, 0x8A, 0x2C), RGB(0xE0, 0x7B, 0x00),
+    RGB(0x7B, 0x4F, 0xB5), RGB(0x8C, 0x56, 0x4B), RGB(0xC9, 0x4F, 0xA5), RGB(0x40, 0x40, 0x40),
+    RGB(0x8A, 0x8A, 0x10), RGB(0x0E, 0x93, 0xA6)};
+
+constexpr COLORREF ColorOf(std::size_t index) noexcept
+{
+    return palette[index % palette.size()];
+}
+
+} // namespace Viewer

@@ -1,0 +1,86 @@
+#include "viewer/ToolRow.h"
+
+#include "viewer/GraphCommands.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+namespace Viewer
+{
+namespace
+{
+
+constexpr int noOperation = -1;
+
+struct Button {
+    unsigned command; // 0: a gap
+    const wchar_t* text;
+    int operation;
+};
+
+constexpr std::array<Button, 11> buttons = {{
+    {GraphCommand::Select, L"Select", 0},
+    {GraphCommand::Zoom, L"Zoom", 1},
+    {GraphCommand::Pan, L"Pan", 3},
+    {GraphCommand::Cursor, L"Cursor", 4},
+    {GraphCommand::Measure, L"Measure", 8},
+    {GraphCommand::Edit, L"Edit points", 7},
+    {0, nullptr, noOperation},
+    {GraphCommand::ZoomBack, L"Zoom back", noOperation},
+    {GraphCommand::ResetZoom, L"Reset zoom", noOperation},
+    {0, nullptr, noOperation},
+    {GraphCommand::InsertLabel, L"Insert label", noOperation},
+}};
+
+} // namespace
+
+ToolRow::ToolRow(HWND parent)
+    : m_window(CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
+                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_FLAT | TBSTYLE_LIST |
+                                   CCS_TOP | CCS_NODIVIDER,
+                               0, 0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr))
+{
+    SendMessageW(m_window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    for (const Button& button : buttons) {
+        TBBUTTON item{};
+        item.iBitmap = button.command ? I_IMAGENONE : 0;
+        item.idCommand = static_cast<int>(button.command);
+        item.fsState = TBSTATE_ENABLED;
+        const bool mode = button.operation != noOperation;
+        item.fsStyle = static_cast<BYTE>(!button.command ? BTNS_SEP
+                                         : mode          ? BTNS_CHECKGROUP | BTNS_AUTOSIZE
+                                                         : BTNS_BUTTON | BTNS_AUTOSIZE);
+        item.iString = reinterpret_cast<INT_PTR>(button.text);
+        SendMessageW(m_window, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&item));
+    }
+    LayOut();
+}
+
+void ToolRow::Show(bool graph, int operation)
+{
+    for (const Button& button : buttons) {
+        if (!button.command) {
+            continue;
+        }
+        SendMessageW(m_window, TB_ENABLEBUTTON, button.command, graph);
+        if (button.operation != noOperation) {
+            SendMessageW(m_window, TB_CHECKBUTTON, button.command,
+                         graph && button.operation == operation);
+        }
+    }
+}
+
+void ToolRow::LayOut()
+{
+    SendMessageW(m_window, TB_AUTOSIZE, 0, 0);
+}
+
+int ToolRow::Height() const
+{
+    RECT place{};
+    GetWindowRect(m_window, &place);
+    return place.bottom - place.top;
+}
+
+} // namespace Viewer
