@@ -169,6 +169,9 @@ BOOL CRectTracker::TrackHandle(int nHandle, CWnd* pWnd, CPoint point, CWnd* pWnd
             break;
         }
         over = HandleDragMessage(drag, message);
+        // What ran just now may have destroyed the window; no further message need ever come.
+        if (!over && !capture.IsHeld())
+            over = drag.cancelled = true;
     }
 
     m_bFinalErase = TRUE;
