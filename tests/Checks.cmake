@@ -45,3 +45,11 @@ target_link_options(vantoplex-readme PRIVATE -municode)
 add_test(NAME readme-program-compiles
   COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-readme)
 set_tests_properties(readme-program-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
+
+# The example that analyses a curve.
+add_executable(vantoplex-analysis-host WIN32 EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/docs/examples/analysis-host.cpp)
+target_link_libraries(vantoplex-analysis-host PRIVATE vantoplex-flags vantoplex-typelib ole32 oleaut32 uuid)
+target_link_options(vantoplex-analysis-host PRIVATE -municode)
+add_test(NAME analysis-example-compiles
+  COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-analysis-host)
+set_tests_properties(analysis-example-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)

@@ -57,6 +57,12 @@ void ClipTo(CDCEx* pDC, CRect rect, CRgn& region)
     pDC->SelectClipRgn(&region);
 }
 
+// A file can put axes and curves into the list of objects, where they have no place to be drawn.
+bool IsFreeObject(const CXGraphObject& object)
+{
+    return !object.IsKindOf(RUNTIME_CLASS(CXGraphAxis)) && !object.IsKindOf(RUNTIME_CLASS(CXGraphDataSerie));
+}
+
 } // namespace
 
 void CXGraph::Invalidate(BOOL bErase)
@@ -178,8 +184,11 @@ void CXGraph::DrawOverlay(CDCEx* pDC)
     }
     if (m_opOperation == opCursor)
         DrawCursor(pDC);
-    for (POSITION pos = m_Objects.GetHeadPosition(); pos != nullptr;)
-        static_cast<CXGraphObject*>(m_Objects.GetNext(pos))->Draw(pDC);
+    for (POSITION pos = m_Objects.GetHeadPosition(); pos != nullptr;) {
+        auto* pObject = static_cast<CXGraphObject*>(m_Objects.GetNext(pos));
+        if (IsFreeObject(*pObject))
+            pObject->Draw(pDC);
+    }
     if (m_bPointDragged)
         DrawPointValue(pDC);
 }

@@ -53,6 +53,7 @@ void CXGraphLabel::Serialize(CArchive& ar)
     } else {
         ar >> m_cText;
         ar.ReadExactly(&font, sizeof font);
+        font.lfFaceName[LF_FACESIZE - 1] = 0;
         SetFont(font);
         ar >> m_crFillColor >> m_crTextColor >> m_bBorder >> m_bTransparent >> m_nAlignment >> m_nCurve;
     }

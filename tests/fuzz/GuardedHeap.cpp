@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -13,7 +14,9 @@ namespace
 constexpr std::size_t PageSize = 4096;
 constexpr std::size_t Alignment = 16;
 constexpr std::size_t MostFreed = 2000;
+constexpr std::size_t MostGuarded = 8000; // blocks in use; the system maps so many pieces and no more
 constexpr std::uint64_t Magic = 0x5AFEB10C5AFEB10C;
+constexpr std::uint64_t PlainMagic = 0x91A18B10C91A18B1;
 constexpr unsigned char SlackByte = 0xA5;
 
 struct alignas(Alignment) THeader {
@@ -27,10 +30,27 @@ struct alignas(Alignment) THeader {
 constinit GuardedHeap::TUse use;
 constinit std::array<std::byte*, MostFreed> freed{};
 constinit std::size_t nextFreed = 0;
+constinit std::size_t guarded = 0;
 
 std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
 {
     return (nSize + nUnit - 1) / nUnit * nUnit;
+}
+
+void Count(std::size_t nSize)
+{
+    use.nLive += nSize;
+    use.nPeak = std::max(use.nPeak, use.nLive);
+    use.nLargest = std::max(use.nLargest, nSize);
+}
+
+void* AllocatePlain(std::size_t nSize)
+{
+    void* const base = std::malloc(sizeof(THeader) + nSize);
+    if (base == nullptr)
+        throw std::bad_alloc();
+    Count(nSize);
+    return new (base) THeader{PlainMagic, nullptr, 0, nSize} + 1;
 }
 
 void* Allocate(std::size_t nSize)
@@ -38,6 +58,8 @@ void* Allocate(std::size_t nSize)
     constexpr std::size_t most = std::size_t{1} << 32; // far beyond any request that is in order
     if (nSize > most)
         throw std::bad_alloc();
+    if (guarded >= MostGuarded)
+        return AllocatePlain(nSize);
     const std::size_t block = RoundUp(std::max<std::size_t>(nSize, 1), Alignment);
     const std::size_t committed = RoundUp(sizeof(THeader) + block, PageSize);
     auto* base = static_cast<std::byte*>(
@@ -48,9 +70,8 @@ void* Allocate(std::size_t nSize)
     std::byte* const result = base + committed - block;
     new (result - sizeof(THeader)) THeader{Magic, base, committed, nSize};
     std::memset(result + nSize, SlackByte, block - nSize);
-    use.nLive += nSize;
-    use.nPeak = std::max(use.nPeak, use.nLive);
-    use.nLargest = std::max(use.nLargest, nSize);
+    ++guarded;
+    Count(nSize);
     return result;
 }
 
@@ -60,12 +81,18 @@ void Free(void* pBlock) noexcept
         return;
     auto* const block = static_cast<std::byte*>(pBlock);
     const THeader header = *reinterpret_cast<const THeader*>(block - sizeof(THeader));
+    if (header.nMagic == PlainMagic) {
+        use.nLive -= header.nSize;
+        std::free(block - sizeof(THeader));
+        return;
+    }
     if (header.nMagic != Magic)
         __builtin_trap();
     for (const std::byte* slack = block + header.nSize; slack != header.pBase + header.nCommitted; ++slack)
         if (*slack != std::byte{SlackByte})
             __builtin_trap();
     use.nLive -= header.nSize;
+    --guarded;
 
     DWORD before = 0;
     ::VirtualProtect(header.pBase, header.nCommitted, PAGE_NOACCESS, &before);

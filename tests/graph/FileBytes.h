@@ -100,8 +100,8 @@ struct TObject {
 };
 
 struct TCurve {
-    TObject base;
-    std::vector<TDataPoint> points;
+    TObject base{};
+    std::vector<TDataPoint> points{};
     std::int32_t nReserved1 = 0;
     std::int32_t nReserved2 = 0;
     std::int32_t nXAxis = 0;
@@ -128,7 +128,7 @@ struct TRange {
     COLORREF crMin = 0;
     COLORREF crMax = 0;
     std::uint32_t nStyle = 6;
-    std::wstring label;
+    std::wstring label{};
 };
 
 struct TMarker {
@@ -164,8 +164,8 @@ struct TAxis {
     std::int32_t nMarkerSize = 10;
     std::int32_t nPlacement = 2;
     bool bShowMarker = true;
-    std::vector<TRange> ranges;
-    std::vector<TMarker> markers;
+    std::vector<TRange> ranges{};
+    std::vector<TMarker> markers{};
 };
 
 struct TLabel {
@@ -185,7 +185,7 @@ struct TNotation {
     double fY = 0;
     std::int32_t nCurve = 0;
     std::int32_t nIndex = 0;
-    std::wstring text;
+    std::wstring text{};
 };
 
 struct TBitmap {
@@ -197,7 +197,7 @@ struct TBitmap {
     std::int32_t nWidthBytes = 0;
     std::uint16_t nPlanes = 0;
     std::uint16_t nBitsPixel = 0;
-    std::string bits;
+    std::string bits{};
 };
 
 // 47 bytes.
@@ -251,7 +251,7 @@ inline std::string Bytes(const TMarker& marker)
 {
     CBytes bytes;
     bytes.Add(marker.fValue).Add(marker.crColor).Flag(true).Flag(true).Zeros(2);
-    bytes.Add(marker.nStyle).Add<std::uint16_t>(1).Zeros(2).Font(13, 400, L"Arial").Zeros(8);
+    bytes.Add(marker.nStyle).Add<std::uint16_t>(1).Zeros(2).Font(13, 400, L"Arial").Zeros(12);
     return bytes.m_bytes;
 }
 
