@@ -1,0 +1,295 @@
+// Labels under the mouse: selection, sizing frame, in-place edit, the Delete key, and hosts that
+// pull something away while one of our loops runs.
+
+#include "InteractionHost.h"
+
+namespace
+{
+
+class InteractionObjects : public FrontDoorInteraction
+{
+protected:
+    static constexpr RECT kPlace = {80, 40, 180, 110};
+    static constexpr POINT kInside = {100, 60};
+    static constexpr POINT kOutside = {250, 150};
+    static constexpr COLORREF kFill = 0x30C010;
+
+    void SetUp() override
+    {
+        FrontDoorInteraction::SetUp();
+        graph->ResetAll();
+        AddLine(0);
+        ShowAsTold();
+        Curve(0)->SetVisible(0);
+        label = AddLabel(kPlace);
+        label->SetColor(kFill);
+        Frame();
+    }
+    bool IsShown() { return Shoot().Count(kFill) > 1000; }
+    // Presses at `from` with a drag to `to` waiting in the queue: the frame's own loop takes it.
+    void Drag(POINT from, POINT to)
+    {
+        ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
+        ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
+        Press(from);
+        Hover(to);
+    }
+    void PostKey(WPARAM nKey)
+    {
+        ::PostMessageW(Handle(), WM_KEYDOWN, nKey, 0);
+        HostWindow::Pump();
+    }
+    static void ExpectRect(const RECT& found, const RECT& expected)
+    {
+        EXPECT_EQ(found.left, expected.left);
+        EXPECT_EQ(found.top, expected.top);
+        EXPECT_EQ(found.right, expected.right);
+        EXPECT_EQ(found.bottom, expected.bottom);
+    }
+    // Runs the action from the next message loop, whoever runs it.
+    void OnceInALoop(std::function<void()> action)
+    {
+        Pending() = std::move(action);
+        ::SetTimer(nullptr, 0, 1, [](HWND, UINT, UINT_PTR id, DWORD) {
+            ::KillTimer(nullptr, id);
+            std::exchange(Pending(), nullptr)();
+        });
+    }
+    static std::function<void()>& Pending()
+    {
+        static std::function<void()> action;
+        return action;
+    }
+
+    Holder<ISGraphLabel> label;
+};
+
+} // namespace
+
+TEST_F(InteractionObjects, AClickSelectsAndFramesAndOneElsewhereLetsGo)
+{
+    const Picture before = Shoot();
+    Click(kInside);
+    EXPECT_TRUE(IsSelected(label.Get()));
+    EXPECT_EQ(Shoot().At(79, 39), 0u) << "a handle at the corner";
+    Click(kOutside);
+    EXPECT_FALSE(IsSelected(label.Get()));
+    EXPECT_EQ(Shoot().CountDifferences(before), 0);
+    EXPECT_TRUE(Heards().empty()) << "nothing is told of objects";
+}
+
+TEST_F(InteractionObjects, AHiddenObjectIsNeverSelected)
+{
+    label->SetVisible(0);
+    Click(kInside);
+    EXPECT_FALSE(IsSelected(label.Get()));
+}
+
+TEST_F(InteractionObjects, AnObjectKeepsClicksFromTheCurvesBelow)
+{
+    Curve(0)->SetVisible(1);
+    Frame();
+    const POINT at = At(5, 5);
+    Click(at);
+    EXPECT_EQ(Heards(), std::vector{FromGraph(XG_CURVECLICK)});
+    auto above = AddLabel({at.x - 30, at.y - 30, at.x + 30, at.y + 30});
+    Click(at);
+    EXPECT_TRUE(Heards().empty());
+    EXPECT_TRUE(IsSelected(above.Get()));
+}
+
+TEST_F(InteractionObjects, OnlyOneObjectIsFramedAtATime)
+{
+    auto second = AddLabel({200, 40, 260, 110});
+    Click(kInside);
+    Click({220, 60});
+    EXPECT_TRUE(IsSelected(second.Get()));
+    const Picture picture = Shoot();
+    EXPECT_NE(picture.At(79, 39), 0u);
+    EXPECT_EQ(picture.At(199, 39), 0u);
+}
+
+TEST_F(InteractionObjects, TheFrameMovesAndSizesTheObject)
+{
+    Click(kInside);
+    Drag(kInside, {kInside.x + 25, kInside.y + 12});
+    ExpectRect(RectOf(label.Get()), {105, 52, 205, 122});
+    EXPECT_EQ(::GetCapture(), nullptr);
+    Drag({206, 123}, {226, 133}); // the corner's handle, outside the box
+    ExpectRect(RectOf(label.Get()), {105, 52, 225, 132});
+}
+
+TEST_F(InteractionObjects, EscapeLeavesTheObjectWhereItWas)
+{
+    Click(kInside);
+    ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(140, 90));
+    ::PostMessageW(Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+    Press(kInside);
+    ExpectRect(RectOf(label.Get()), kPlace);
+    Hover(kOutside);
+}
+
+TEST_F(InteractionObjects, AnObjectThatIsNotFramedIsNotDragged)
+{
+    Drag(kInside, {150, 90});
+    HostWindow::Pump();
+    ExpectRect(RectOf(label.Get()), kPlace);
+}
+
+TEST_F(InteractionObjects, ADoubleClickEditsInPlaceAndAClickElsewhereTakesTheText)
+{
+    DoubleClick(kInside);
+    const HWND hEdit = ::GetWindow(Handle(), GW_CHILD);
+    ASSERT_NE(hEdit, nullptr);
+    EXPECT_EQ(::GetFocus(), hEdit);
+    ::SetWindowTextW(hEdit, L"typed");
+    Click(kOutside);
+    EXPECT_FALSE(::IsWindow(hEdit));
+    Text text;
+    label->GetText(text.Out());
+    EXPECT_EQ(text.Str(), L"typed");
+    EXPECT_TRUE(Heards().empty());
+}
+
+TEST_F(InteractionObjects, DeleteInAHostsPlainLoopRemovesTheFramedObjectThatWasPressed)
+{
+    PostKey(VK_DELETE);
+    EXPECT_TRUE(IsShown()) << "not framed";
+    Click(kInside);
+    PostKey(VK_RETURN);
+    EXPECT_TRUE(IsShown());
+    label.Release();
+    PostKey(VK_DELETE);
+    EXPECT_FALSE(IsShown());
+    PostKey(VK_DELETE);
+    Click(kInside);
+}
+
+TEST_F(InteractionObjects, DeleteWorksOnTheKeysWayUpToo)
+{
+    Click(kInside);
+    label.Release();
+    ::PostMessageW(Handle(), WM_KEYUP, VK_DELETE, 0);
+    HostWindow::Pump();
+    EXPECT_FALSE(IsShown());
+}
+
+TEST_F(InteractionObjects, DeleteSparesTheFrameThatWasNotPressedLast)
+{
+    Click(kInside);
+    Press(kOutside); // nothing is pressed now, and the frame stays until the release
+    PostKey(VK_DELETE);
+    EXPECT_TRUE(IsShown());
+    Release(kOutside);
+}
+
+TEST_F(InteractionObjects, TheCursorsBoxIsNotDeleted)
+{
+    Curve(0)->SetVisible(1);
+    Send(Command::cursor);
+    Frame();
+    Hover(kOutside);
+    Send(Command::edit); // its box stays
+    const RECT inner = Inner();
+    const POINT inBox = {inner.left + 30, inner.top + 30};
+    Click(inBox);
+    const Picture before = Shoot();
+    PostKey(VK_DELETE);
+    EXPECT_EQ(Shoot().CountDifferences(before), 0);
+    Send(Command::noOp);
+    Frame();
+}
+
+TEST_F(InteractionObjects, ARightClickOnThePressedObjectShowsItsMenuAndTellsNothing)
+{
+    Click(kInside);
+    bool bInMenu = false;
+    OnceInALoop([&] {
+        GUITHREADINFO info = {};
+        info.cbSize = sizeof info;
+        ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+        bInMenu = (info.flags & GUI_POPUPMENUMODE) != 0;
+        ::EndMenu();
+    });
+    RightClick(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    EXPECT_TRUE(bInMenu);
+    EXPECT_TRUE(Heards().empty());
+    RightClick(kOutside);
+    EXPECT_EQ(Heards(), std::vector{FromWindow(XG_RBUTTONUP)});
+}
+
+TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheMenuIsOpen)
+{
+    Click(kInside);
+    OnceInALoop([&] {
+        label.Release();
+        graph->ResetAll();
+        ::EndMenu();
+    });
+    RightClick(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    EXPECT_FALSE(IsShown());
+    Click(kInside);
+    PostKey(VK_DELETE);
+}
+
+TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheFrameIsDragged)
+{
+    Click(kInside);
+    OnceInALoop([&] {
+        label.Release();
+        graph->ResetAll();
+        AddLabel({10, 10, 60, 60}); // takes the freed memory
+        ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(150, 90));
+        ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(150, 90));
+    });
+    Press(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    Hover(kInside);
+    EXPECT_FALSE(IsShown());
+}
+
+TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheFrameIsDragged)
+{
+    Click(kInside);
+    OnceInALoop([&] { host.Destroy(); });
+    Press(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    EXPECT_EQ(Handle(), nullptr);
+    EXPECT_EQ(graph->Zoom(), S_OK);
+    EXPECT_EQ(graph->ResetZoom(), S_OK);
+}
+
+TEST_F(InteractionObjects, AHostMayReleaseTheGraphAndItsWindowWhileTheFrameIsDragged)
+{
+    Click(kInside);
+    OnceInALoop([&] {
+        label.Release();
+        graph.Release();
+        host.Destroy();
+    });
+    Press(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+}
+
+TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheMenuIsOpen)
+{
+    Click(kInside);
+    OnceInALoop([&] {
+        host.Destroy();
+        ::EndMenu();
+    });
+    RightClick(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    EXPECT_EQ(Handle(), nullptr);
+}
+
+TEST_F(InteractionObjects, AnOpenEditorGoesWithTheWindowAndTheTextStays)
+{
+    DoubleClick(kInside);
+    host.Destroy();
+    Text text;
+    label->GetText(text.Out());
+    EXPECT_EQ(text.Str(), L"label");
+}
