@@ -5,13 +5,12 @@
 // A count is written in 8 bytes and read in 4, so files come in two forms: as they are saved,
 // and as the reader understands them item for item.
 
-#include "base/Vocabulary.h"
-
 #include <windows.h>
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace FileBytes
@@ -101,7 +100,7 @@ struct TObject {
 
 struct TCurve {
     TObject base{};
-    std::vector<TDataPoint> points{};
+    std::vector<std::pair<double, double>> points{}; // x, y
     std::int32_t nReserved1 = 0;
     std::int32_t nReserved2 = 0;
     std::int32_t nXAxis = 0;
@@ -227,8 +226,8 @@ inline std::string Bytes(const TCurve& curve)
 {
     CBytes bytes;
     bytes.Raw(Bytes(curve.base)).Add(static_cast<std::int32_t>(curve.points.size()));
-    for (const TDataPoint& point : curve.points)
-        bytes.Add(point.fXVal).Add(point.fYVal);
+    for (const auto& [x, y] : curve.points)
+        bytes.Add(x).Add(y);
     bytes.Add(curve.nReserved1).Add(curve.nReserved2).Add(curve.nXAxis).Add(curve.nYAxis);
     bytes.Add(curve.nIndex).Add(curve.nLineSize).Add(curve.nFillStyle).Add(curve.nMarkerType);
     bytes.Add(curve.nMarker).Add(curve.nMarkerSize).Add(curve.nLineStyle);

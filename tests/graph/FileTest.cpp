@@ -162,16 +162,16 @@ TEST_F(GraphFile, UnknownFlagsAreKeptInTheHeadAndIgnoredOnReading)
 
 TEST_F(GraphFile, CurvesAndAxesAreWrittenWithCountsOfEightBytesAndNoTags)
 {
-    const std::vector<TDataPoint> points = {{1, 2}, {3, 4}};
+    TDataPoint points[] = {{1, 2}, {3, 4}};
     for (int n = 0; n < 2; ++n)
-        graph.SetData(const_cast<TDataPoint*>(points.data()), 2, n, 0, 0, true);
+        graph.SetData(points, 2, n, 0, 0, true);
     graph.m_XAxes[0].SetRange(0, 10);
     graph.m_YAxes[0].SetRange(-5, 5);
     graph.m_XAxes[0].m_fStep = graph.m_YAxes[0].m_fStep = 1;
 
-    TCurve first{.points = points};
+    TCurve first{.points = {{1, 2}, {3, 4}}};
     first.base.crColor = 0x000080;
-    TCurve second{.points = points, .nIndex = 1};
+    TCurve second{.points = first.points, .nIndex = 1};
     second.base.crColor = 0x0000FF;
     TAxis xAxis;
     TAxis yAxis{.fMax = 5, .fMin = -5, .fCurMax = 5, .fCurMin = -5};
