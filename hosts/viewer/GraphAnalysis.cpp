@@ -27,8 +27,8 @@ Points WorkOut(ISGraphDataSerie& curve, Analysis analysis, int parameter)
     case Analysis::CubicTrend:
         Check(curve.GetCubicTrend(&points, 0));
         break;
-    case Analysis::PolynomialTrend:
-        Check(curve.GetPolynomialTrend(&points, parameter, 0));
+    case Analysis::PolynomialTrend: // told by the number of its terms
+        Check(curve.GetPolynomialTrend(&points, parameter + 1, 0));
         break;
     case Analysis::SimpleAverage:
         Check(curve.GetSimpleMovingAverage(&points, parameter));

@@ -1,13 +1,17 @@
 #include "viewer/GraphControl.h"
 
+#include "viewer/AxisText.h"
 #include "viewer/GraphCommands.h"
 #include "viewer/StatusText.h"
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Viewer
 {
+
+GraphControl::GraphControl(ISGraph& graph) : m_graph(graph), m_rounding(Rounding()) {}
 
 bool GraphControl::Send(unsigned command)
 {
@@ -25,7 +29,80 @@ bool GraphControl::Send(unsigned command)
     default:
         break;
     }
-    return m_graph.SendMessage(WM_COMMAND, command, 0) == S_OK;
+    const std::vector<LONG> rounding = Rounding();
+    const bool done = m_graph.SendMessage(WM_COMMAND, command, 0) == S_OK;
+    if (command == GraphCommand::Cursor) {
+        // It takes the rounding from all axes, as panning does, though it moves none of them.
+        SetRounding(rounding);
+    } else if (command == GraphCommand::ResetZoom) {
+        SetRounding(m_rounding);
+        FitDateLabels();
+    }
+    return done;
+}
+
+template <class Action> void GraphControl::ForEachAxis(Action action) const
+{
+    int xCount = 0;
+    int yCount = 0;
+    Check(m_graph.GetXAxisCount(&xCount));
+    Check(m_graph.GetYAxisCount(&yCount));
+    ComPointer<ISGraphAxis> axis;
+    for (int at = 0; at < xCount + yCount; ++at) {
+        Check(at < xCount ? m_graph.GetXAxis(axis.Receive(), at)
+                          : m_graph.GetYAxis(axis.Receive(), at - xCount));
+        action(*axis.Get());
+    }
+}
+
+std::vector<LONG> GraphControl::Rounding() const
+{
+    std::vector<LONG> rounding;
+    ForEachAxis([&](ISGraphAxis& axis) {
+        rounding.push_back(0);
+        Check(axis.GetAutoScale(&rounding.back()));
+    });
+    return rounding;
+}
+
+void GraphControl::SetRounding(const std::vector<LONG>& rounding)
+{
+    std::size_t at = 0;
+    ForEachAxis([&](ISGraphAxis& axis) {
+        if (at < rounding.size()) {
+            Check(axis.SetAutoScale(rounding[at++]));
+        }
+    });
+}
+
+void GraphControl::FitDateLabels()
+{
+    wireHWND window = nullptr;
+    int count = 0;
+    Check(m_graph.GetHandle(&window));
+    Check(m_graph.GetXAxisCount(&count));
+    RECT client{};
+    GetClientRect(FromWire(window), &client);
+    for (int at = 0; at < count; ++at) {
+        ComPointer<ISGraphAxis> axis;
+        Check(m_graph.GetXAxis(axis.Receive(), at));
+        LONG date = 0;
+        double low = 0;
+        double high = 0;
+        Check(axis->GetDateTime(&date));
+        Check(axis->GetValueForPos(0, &low));
+        Check(axis->GetValueForPos(client.right, &high));
+        if (date && low < high) {
+            Check(axis->SetDisplayFmt(Bstr(DateFormatFor(low, high)).Get()));
+        }
+    }
+}
+
+ComPointer<ISGraphAxis> GraphControl::YAxis(int axis) const
+{
+    ComPointer<ISGraphAxis> found;
+    Check(m_graph.GetYAxis(found.Receive(), axis));
+    return found;
 }
 
 // Stored measures take their texts from the cursor's curve, so there has to be one.
@@ -151,8 +228,7 @@ int GraphControl::PixelOnCurve(int curve, int x) const
 
     int yAxis = 0;
     Check(Curve(curve)->GetYAxis(&yAxis));
-    ComPointer<ISGraphAxis> axis;
-    Check(m_graph.GetYAxis(axis.Receive(), yAxis));
+    const ComPointer<ISGraphAxis> axis = YAxis(yAxis);
     // A linear axis, of which the graph tells values for pixels alone.
     constexpr int distant = 10000;
     double atTop = 0;

@@ -5,6 +5,7 @@
 #include "viewer/GraphAnalysis.h"
 
 #include <string>
+#include <vector>
 
 namespace Viewer
 {
@@ -12,11 +13,14 @@ namespace Viewer
 class GraphControl
 {
 public:
-    explicit GraphControl(ISGraph& graph) : m_graph(graph) {}
+    // The graph has its axes already.
+    explicit GraphControl(ISGraph& graph);
 
     // One of GraphCommand. Trends work on the curve in question. False if nothing could be done.
     bool Send(unsigned command);
     bool Analyse(Analysis analysis, int parameter);
+    // To be called when the view has changed.
+    void FitDateLabels();
     void DeleteMeasures();
 
     [[nodiscard]] int Operation() const;
@@ -44,8 +48,15 @@ public:
 private:
     [[nodiscard]] ComPointer<ISGraphDataSerie> Curve(int curve) const;
     void BindCursor();
+    [[nodiscard]] ComPointer<ISGraphAxis> YAxis(int axis) const;
+
+    // For each axis, X before Y, whether it rounds its range.
+    [[nodiscard]] std::vector<LONG> Rounding() const;
+    void SetRounding(const std::vector<LONG>& rounding);
+    template <class Action> void ForEachAxis(Action action) const;
 
     ISGraph& m_graph;
+    std::vector<LONG> m_rounding; // as the graph was made
     int m_curve = 0;
     bool m_mayHaveMeasures = false;
 };

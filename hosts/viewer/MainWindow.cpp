@@ -113,6 +113,7 @@ void MainWindow::MakeBars()
     m_tools.emplace(m_window);
     m_status = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0,
                                0, m_window, nullptr, GetModuleHandleW(nullptr), nullptr);
+    LayOut();
 }
 
 LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)

@@ -32,7 +32,7 @@ constexpr std::array<Word, 24> commands = {{
     {u"delete-measures", MenuCommand::DeleteMeasures},
     {u"linear-trend", GraphCommand::LinearTrend},
     {u"cubic-trend", GraphCommand::CubicTrend},
-    {u"polynomial", MenuCommand::LastDegree},
+    {u"polynomial", MenuCommand::FirstDegree},
     {u"simple-average", MenuCommand::FirstAverage},
     {u"exponential-average", MenuCommand::FirstAverage + 1},
     {u"linear-average", MenuCommand::FirstAverage + 2},

@@ -252,6 +252,7 @@ bool Session::AnswerGraph(UINT message, WPARAM wParam)
         m_window.SetStatus(Part::Text, m_control->Reading());
         break;
     case XG_ZOOMCHANGE:
+        m_control->FitDateLabels();
         ShowState();
         break;
     case XG_RBUTTONUP:

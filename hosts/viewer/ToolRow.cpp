@@ -37,11 +37,12 @@ constexpr std::array<Button, 11> buttons = {{
 
 ToolRow::ToolRow(HWND parent)
     : m_window(CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
-                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_FLAT | TBSTYLE_LIST |
+                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_FLAT |
                                    CCS_TOP | CCS_NODIVIDER,
                                0, 0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr))
 {
     SendMessageW(m_window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    SendMessageW(m_window, TB_SETBITMAPSIZE, 0, MAKELPARAM(0, 0)); // the buttons have texts alone
     for (const Button& button : buttons) {
         TBBUTTON item{};
         item.iBitmap = button.command ? I_IMAGENONE : 0;
