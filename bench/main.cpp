@@ -7,6 +7,7 @@
 //   search  ratio to finding 800 column starts by binary search
 //   copy    ratio to copying the array
 
+#include "AnalysisBench.h"
 #include "Chart2dBench.h"
 #include "Floors.h"
 #include "PieBench.h"
@@ -132,6 +133,7 @@ int main(int argc, char** argv)
     TimeManyCurves(options);
     TimeScatter(options);
     TimeSetData(options);
+    BenchAnalysis(options.nRuns);
     BenchChart2d(options.nRuns);
     BenchPie(options.nRuns);
     return 0;
