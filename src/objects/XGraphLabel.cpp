@@ -19,6 +19,8 @@ constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr UINT kEditorId = 65534;
 constexpr DWORD kEditorStyle =
     WS_CHILD | WS_VISIBLE | ES_WANTRETURN | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE;
+// Styles that a stray alignment may hold and that would leave no usable child window.
+constexpr DWORD kNoEditorStyle = WS_POPUP | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE;
 constexpr UINT kPropertiesItem = 40006;
 
 } // namespace
@@ -127,14 +129,16 @@ void CXGraphLabel::BeginEdit()
     CRect rcEditor = m_rcObject;
     rcEditor.DeflateRect(1, 1);
     // The alignment's bits are the editor's own styles too.
-    m_Edit.Create(m_nAlignment | kEditorStyle, rcEditor, m_pGraph, kEditorId);
+    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor, m_pGraph, kEditorId);
     m_Edit.SetFont(&m_Font);
     m_Edit.SetWindowText(m_cText);
     m_Edit.ShowWindow(SW_SHOW);
     m_pGraph->Invalidate();
-    m_Edit.SetFocus();
-    m_Edit.SendMessage(EM_SETSEL, 0, -1);
-    m_Edit.SendMessage(EM_SCROLLCARET);
+    // Whoever loses the focus hears of it at once, and may remove this label.
+    const HWND hEdit = m_Edit.m_hWnd;
+    ::SetFocus(hEdit);
+    ::SendMessageW(hEdit, EM_SETSEL, 0, -1);
+    ::SendMessageW(hEdit, EM_SCROLLCARET, 0, 0);
 }
 
 void CXGraphLabel::EndEdit()

@@ -1,0 +1,143 @@
+// Pictures on the graph.
+
+#include "GraphHost.h"
+#include "draw/BitmapEx.h"
+#include "objects/XGraphBitmap.h"
+
+namespace
+{
+
+// Left half red, right half blue.
+class PictureObject : public GraphTest
+{
+protected:
+    PictureObject()
+    {
+        graph.m_bShowLegend = false;
+        picture = new CXGraphBitmap;
+        picture->m_rcObject = CRect(100, 50, 202, 152);
+        picture->m_pBitmap = new CBitmapEx;
+        picture->m_bOwnsBitmap = true;
+        const DWORD bits[] = {0xFF0000, 0x0000FF, 0xFF0000, 0x0000FF};
+        picture->m_pBitmap->CreateBitmap(2, 2, 1, 32, bits);
+        graph.m_Objects.AddTail(picture);
+    }
+    CXGraphBitmap* picture;
+};
+
+constexpr COLORREF kRed = 0x0000FF;
+constexpr COLORREF kBlue = 0xFF0000;
+
+// A canvas in memory that scales by two.
+class ScaledCanvas
+{
+public:
+    ScaledCanvas() : m_hBitmap(::CreateBitmap(400, 400, 1, 32, nullptr))
+    {
+        m_dc.CreateCompatibleDC(nullptr);
+        m_hOld = ::SelectObject(m_dc, m_hBitmap);
+        m_dc.m_bScaleReady = m_dc.m_bScaling = true;
+        m_dc.m_fScaleX = m_dc.m_fScaleY = 2.0f;
+    }
+    ScaledCanvas(const ScaledCanvas&) = delete;
+    ScaledCanvas& operator=(const ScaledCanvas&) = delete;
+    ~ScaledCanvas()
+    {
+        ::SelectObject(m_dc, m_hOld);
+        ::DeleteObject(m_hBitmap);
+    }
+    COLORREF At(int x, int y) { return ::GetPixel(m_dc, x, y); }
+
+    CDCEx m_dc;
+
+private:
+    HBITMAP m_hBitmap;
+    HGDIOBJ m_hOld;
+};
+
+} // namespace
+
+TEST_F(PictureObject, DefaultsAreThoseOfAFreshPicture)
+{
+    const CXGraphBitmap fresh;
+    EXPECT_EQ(fresh.m_pBitmap, nullptr);
+    EXPECT_FALSE(fresh.m_bOwnsBitmap || fresh.m_bEditing);
+    EXPECT_TRUE(fresh.m_bBorder && fresh.m_bCanMove && fresh.m_bCanResize);
+}
+
+TEST_F(PictureObject, ItIsStretchedInsideABlackBorder)
+{
+    const Picture shot = Shoot();
+    EXPECT_EQ(shot.Count(picture->m_rcObject, 0x000000), 102 * 102 - 100 * 100);
+    EXPECT_EQ(shot.Count({101, 51, 151, 151}, kRed), 50 * 100);
+    EXPECT_EQ(shot.Count({151, 51, 201, 151}, kBlue), 50 * 100);
+}
+
+TEST_F(PictureObject, WithoutABorderItFillsItsRectangle)
+{
+    picture->m_bBorder = false;
+    const Picture shot = Shoot();
+    EXPECT_EQ(shot.Count({100, 50, 151, 152}, kRed), 51 * 102);
+    EXPECT_EQ(shot.Count({151, 50, 202, 152}, kBlue), 51 * 102);
+}
+
+TEST_F(PictureObject, AHiddenOneIsNotDrawn)
+{
+    picture->m_bVisible = false;
+    EXPECT_EQ(Shoot().Count(kRed), 0);
+}
+
+TEST_F(PictureObject, OneWithoutABitmapIsItsFrameAlone)
+{
+    auto* frame = new CXGraphBitmap;
+    frame->m_rcObject = CRect(220, 50, 260, 90);
+    graph.m_Objects.AddTail(frame);
+    const Picture shot = Shoot();
+    EXPECT_EQ(shot.Count(frame->m_rcObject, 0x000000), 40 * 40 - 38 * 38);
+    EXPECT_EQ(shot.Count(frame->m_rcObject, kRed), 0);
+}
+
+TEST_F(PictureObject, ItsTrackerIsDrawnAroundItWhileItIsSized)
+{
+    const Picture loose = Shoot();
+    picture->BeginSize();
+    const Picture sized = Shoot();
+    EXPECT_EQ(sized.At(98, 48), 0x000000u); // a handle outside the corner
+    EXPECT_NE(loose.At(98, 48), 0x000000u);
+    EXPECT_EQ(sized.Count({110, 60, 150, 140}, kRed), loose.Count({110, 60, 150, 140}, kRed));
+}
+
+TEST_F(PictureObject, AClickSelectsItAndADragMovesIt)
+{
+    Paint();
+    graph.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(120, 70));
+    graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(120, 70));
+    graph.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(120, 70));
+    EXPECT_TRUE(picture->m_bSizing);
+    EXPECT_EQ(graph.m_pTracker, &picture->m_Tracker);
+    EXPECT_EQ(picture->m_Tracker.m_rect, picture->m_rcObject);
+}
+
+TEST_F(PictureObject, OnAScalingCanvasPictureAndTrackerScale)
+{
+    ScaledCanvas canvas;
+    picture->m_rcObject = CRect(10, 10, 62, 62);
+    picture->BeginSize();
+    picture->Draw(&canvas.m_dc);
+    EXPECT_EQ(canvas.At(60, 60), kRed);
+    EXPECT_EQ(canvas.At(100, 60), kBlue);
+    EXPECT_EQ(canvas.At(20, 60), 0x000000u); // the border
+    EXPECT_EQ(canvas.At(18, 18), 0x000000u); // a handle at the scaled corner
+    EXPECT_EQ(picture->m_Tracker.m_rect, CRect(10, 10, 62, 62));
+}
+
+TEST_F(PictureObject, WhatItDoesNotOwnStays)
+{
+    CBitmapEx bitmap;
+    bitmap.CreateBitmap(2, 2, 1, 32, nullptr);
+    {
+        CXGraphBitmap borrowed;
+        borrowed.m_pBitmap = &bitmap;
+    }
+    EXPECT_NE(bitmap.GetSafeHandle(), nullptr);
+}
