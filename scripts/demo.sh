@@ -57,7 +57,7 @@ electricity bar-groups.png "${business[@]}" "${year[@]}" --chart bar --animation
 electricity bar-fading.png "${business[@]}" "${year[@]}" --chart bar --animation fade-series --tick 130
 electricity line.png "${business[@]}" "${year[@]}" --chart line
 electricity line-drawing.png "${business[@]}" "${year[@]}" --chart line --animation draw --tick 48
-electricity line-series.png "${business[@]}" "${year[@]}" --chart line --animation draw-series --tick 120 --gradient
+electricity line-series.png "${business[@]}" "${year[@]}" --chart line --animation draw-series --tick 65 --gradient
 electricity pie.png "${business[@]}" "${share[@]}" --chart pie
 electricity pie-sweeping.png "${business[@]}" "${share[@]}" --chart pie --animation sweep --tick 70
 electricity pie-fading.png "${business[@]}" "${share[@]}" --chart pie --animation fade --tick 80

@@ -55,7 +55,6 @@ void BusinessView::SetLooks(const Options& options)
         Check(m_chart->SetGraphFillType(gradientFill));
         Check(m_chart->SetGradientFillType(fromTopToBottom));
         Check(m_chart->SetGraphGradientColors(RGB(0xFF, 0xFF, 0xFF), RGB(0xB8, 0xCC, 0xE8)));
-        Check(m_chart->SetGraphTitleShadow(TRUE));
     }
 }
 

@@ -30,6 +30,14 @@ GraphView::GraphView(const ChartServer& server, HWND parent, const RECT& place)
     m_window = HandleOf(*m_graph.Get());
 }
 
+// A graph's window doesn't go with its object.
+GraphView::~GraphView()
+{
+    if (IsWindow(m_window)) {
+        DestroyWindow(m_window);
+    }
+}
+
 void GraphView::Show(const PlotPlan& plan, const Options& options)
 {
     Check(m_graph->SetInnerColor(RGB(0xFC, 0xFC, 0xFC)));

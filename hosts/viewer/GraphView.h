@@ -13,6 +13,7 @@ public:
     // Makes the graph window as a child of `parent`. The parent is still hidden: only then does
     // an axis that can't choose its step divide its range into tenths. Throws Error.
     GraphView(const ChartServer& server, HWND parent, const RECT& place);
+    ~GraphView() override;
 
     // Into an empty graph.
     void Show(const PlotPlan& plan, const Options& options);

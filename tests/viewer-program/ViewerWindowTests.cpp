@@ -1,0 +1,166 @@
+#include "viewer-program/ViewerRun.h"
+
+#include <gtest/gtest.h>
+
+#include <commctrl.h>
+
+#include <array>
+#include <string>
+
+// The viewer's window, worked from another process as a person would.
+
+using ViewerRun::Process;
+using ViewerRun::TemporaryFile;
+
+namespace
+{
+
+constexpr std::string_view weather = "date,temp,wind\n"
+                                     "2012-01-01,12.8,4.7\n"
+                                     "2012-01-02,10.6,\n"
+                                     "2012-01-03,11.7,2.3\n"
+                                     "2012-01-04,12.2,4.7\n";
+
+struct Search {
+    DWORD process;
+    HWND found;
+};
+
+HWND FindFrame(DWORD process)
+{
+    Search search = {process, nullptr};
+    EnumWindows(
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& sought = *reinterpret_cast<Search*>(parameter);
+            DWORD owner = 0;
+            GetWindowThreadProcessId(window, &owner);
+            wchar_t name[32] = L"";
+            GetClassNameW(window, name, 32);
+            if (owner == sought.process && IsWindowVisible(window) &&
+                std::wstring(name) == L"VantoplexViewer") {
+                sought.found = window;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+// A time limit for a window that never comes, not a measure of speed.
+HWND WaitForFrame(DWORD process)
+{
+    HWND frame = nullptr;
+    for (int turn = 0; turn < 600 && !frame; ++turn) {
+        frame = FindFrame(process);
+        if (!frame) {
+            Sleep(100);
+        }
+    }
+    return frame;
+}
+
+TEST(ViewerWindow, TheGraphFillsTheWindowAndResizesWithIt)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND graph = GetDlgItem(frame, 100);
+    ASSERT_NE(nullptr, graph);
+
+    for (const SIZE size : {SIZE{700, 500}, SIZE{400, 300}, SIZE{1000, 700}}) {
+        SetWindowPos(frame, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        RECT client{};
+        GetClientRect(frame, &client);
+        RECT place{};
+        GetWindowRect(graph, &place);
+        MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
+        RECT status{};
+        GetWindowRect(FindWindowExW(frame, nullptr, L"msctls_statusbar32", nullptr), &status);
+        RECT buttons{};
+        GetWindowRect(FindWindowExW(frame, nullptr, L"ToolbarWindow32", nullptr), &buttons);
+        EXPECT_EQ(0, place.left);
+        EXPECT_EQ(buttons.bottom - buttons.top, place.top);
+        EXPECT_EQ(client.right, place.right);
+        EXPECT_EQ(client.bottom - (status.bottom - status.top), place.bottom);
+    }
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+std::wstring StatusOf(HWND frame)
+{
+    std::array<wchar_t, 200> text{};
+    SendMessageW(FindWindowExW(frame, nullptr, L"msctls_statusbar32", nullptr), WM_GETTEXT, text.size(),
+                 reinterpret_cast<LPARAM>(text.data()));
+    return text.data();
+}
+
+TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+
+    const struct {
+        unsigned command;
+        const wchar_t* hint;
+    } modes[] = {{40002, L"Zoom:"},   {40004, L"Pan:"},         {40011, L"Cursor:"},
+                 {40015, L"Measure:"}, {40014, L"Edit points:"}, {40000, L"Select:"}};
+    for (const auto& mode : modes) {
+        SendMessageW(frame, WM_COMMAND, mode.command, 0);
+        EXPECT_EQ(0u, StatusOf(frame).find(mode.hint)) << mode.command;
+    }
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND buttons = FindWindowExW(frame, nullptr, L"ToolbarWindow32", nullptr);
+    const auto isPressed = [&](WPARAM command) {
+        return SendMessageW(buttons, TB_ISBUTTONCHECKED, command, 0) != 0;
+    };
+    const auto isEnabled = [&](WPARAM command) {
+        return SendMessageW(buttons, TB_ISBUTTONENABLED, command, 0) != 0;
+    };
+
+    EXPECT_TRUE(isPressed(40000));
+    for (const WPARAM mode : {40002u, 40004u, 40011u, 40015u, 40014u}) {
+        SendMessageW(frame, WM_COMMAND, mode, 0);
+        EXPECT_TRUE(isPressed(mode)) << mode;
+        EXPECT_FALSE(isPressed(40000)) << mode;
+        EXPECT_TRUE(isEnabled(mode)) << mode;
+    }
+    SendMessageW(frame, WM_COMMAND, 1062, 0); // the bar chart
+    EXPECT_FALSE(isPressed(40014));
+    EXPECT_FALSE(isEnabled(40002));
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, SwitchesThroughAllKindsOfChartAndBack)
+{
+    const TemporaryFile data(L"power.csv", "k,a,b\nx,3,1\ny,4,2\n");
+    Process bars(L"\"" + data.Path() + L"\" --chart bar");
+    const HWND chart = WaitForFrame(bars.Id());
+    ASSERT_NE(nullptr, chart);
+    HWND before = GetDlgItem(chart, 100);
+    for (const unsigned kind : {1063u, 1064u, 1065u, 1061u, 1062u}) {
+        SendMessageW(chart, WM_COMMAND, kind, 0);
+        const HWND now = GetDlgItem(chart, 100);
+        EXPECT_TRUE(IsWindowVisible(now)) << kind;
+        EXPECT_NE(before, now) << kind;
+        before = now;
+    }
+    PostMessageW(chart, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, bars.ExitCode());
+}
+
+} // namespace
