@@ -9,6 +9,7 @@
 
 #include "AnalysisBench.h"
 #include "Chart2dBench.h"
+#include "CursorBench.h"
 #include "Floors.h"
 #include "PieBench.h"
 #include "Scene.h"
@@ -133,6 +134,7 @@ int main(int argc, char** argv)
     TimeManyCurves(options);
     TimeScatter(options);
     TimeSetData(options);
+    BenchCursor(options.nRuns);
     BenchAnalysis(options.nRuns);
     BenchChart2d(options.nRuns);
     BenchPie(options.nRuns);

@@ -1,0 +1,82 @@
+#include "CursorBench.h"
+
+#include "Scene.h"
+#include "Stopwatch.h"
+
+#include <cmath>
+#include <cstdio>
+
+namespace
+{
+
+constexpr int kCurves = 10;
+constexpr int kCount = 1'000'000;
+constexpr int kMoves = 50; // of one run, over the width of the plot
+
+// x ascends, evenly or by ever longer steps.
+std::vector<TDataPoint> Points(bool bEven)
+{
+    std::vector<TDataPoint> points = NoisyWaves(kCount);
+    if (!bEven) {
+        for (int i = 0; i < kCount; ++i)
+            points[i].fXVal = static_cast<double>(i) * i / kCount;
+    }
+    return points;
+}
+
+double TimeMoves(CXGraph& graph, int nRuns, const std::function<void(CPoint)>& move)
+{
+    const CRect plot = graph.m_rcInner;
+    int nAt = 0;
+    return Stopwatch::Median(nRuns,
+                             [&] {
+                                 for (int i = 0; i < kMoves; ++i) {
+                                     nAt = (nAt + 7) % plot.Width();
+                                     move({plot.left + nAt, plot.top + 5 + nAt % 20});
+                                 }
+                                 ::GdiFlush();
+                             }) /
+           kMoves;
+}
+
+void TimeCase(const char* pszCase, bool bOwned, bool bEven, int nRuns)
+{
+    std::vector<TDataPoint> points = Points(bEven);
+    Scene scene;
+    CXGraph& graph = *scene.m_graph;
+    for (int i = 0; i < kCurves; ++i)
+        graph.SetData(points.data(), kCount, i, 0, 0, bOwned);
+    scene.Repaint();
+    graph.Cursor();
+    scene.Repaint();
+    auto mouse = [&](CPoint at) { graph.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)); };
+    const double withText = TimeMoves(graph, nRuns, mouse);
+    graph.m_nCursorFlags = XGC_HORIZ | XGC_VERT;
+    graph.m_CursorLabel.m_bVisible = false;
+    scene.Repaint();
+    const double lines = TimeMoves(graph, nRuns, mouse);
+    const double search = TimeMoves(graph, nRuns, [&](CPoint at) {
+        for (int i = 0; i < kCurves; ++i) {
+            graph.m_ptCurrent = at;
+            graph.GetCursorAbsolute(i);
+        }
+    });
+    const double hit = TimeMoves(graph, nRuns, [&](CPoint at) {
+        graph.m_ptCurrent = at;
+        graph.HitTest(false, true);
+    });
+    std::printf("%-34s %10.4f %10.4f %10.4f %10.4f\n", pszCase, withText, lines, search, hit);
+    std::fflush(stdout);
+}
+
+} // namespace
+
+void BenchCursor(int nRuns)
+{
+    std::printf("%-34s %10s %10s %10s %10s\n", "cursor, 10 x 1000000, ms a move", "with text", "lines",
+                "search", "hit test");
+    TimeCase("owned, even", true, true, nRuns);
+    TimeCase("owned, uneven", true, false, nRuns);
+    TimeCase("caller's, even", false, true, nRuns);
+    TimeCase("caller's, uneven", false, false, nRuns);
+}
