@@ -47,6 +47,8 @@ protected:
     // One curve from (0, 0) to (10, 10), no legend, and axes that show what they are told.
     void SetUp() override
     {
+        // The pointer of the screen tells its window where it is, and must not be in ours.
+        ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
         FrontDoorGraph::SetUp();
         graph->SetShowLegend(0);
         graph->SetInnerColor(kInner);
