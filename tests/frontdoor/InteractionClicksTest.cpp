@@ -130,7 +130,8 @@ TEST_F(InteractionClicks, DoubleClicksHaveNumbersOfTheirOwn)
 
 TEST_F(InteractionClicks, ADoubleClickOutsideTheNormalStateDoesNothing)
 {
-    for (WPARAM entry : {Command::zoom, Command::pan, Command::cursor, Command::edit, Command::measure}) {
+    for (WPARAM entry :
+         {Command::zoom, Command::pan, Command::cursor, Command::edit, Command::measure}) {
         Send(entry);
         Hover(OnYAxis());
         Heards();

@@ -127,7 +127,10 @@ protected:
         host.m_notifications.clear();
         return heards;
     }
-    [[nodiscard]] Heard FromGraph(UINT message, WPARAM wParam = 0) const { return {message, wParam, graphHalf}; }
+    [[nodiscard]] Heard FromGraph(UINT message, WPARAM wParam = 0) const
+    {
+        return {message, wParam, graphHalf};
+    }
     [[nodiscard]] Heard FromWindow(UINT message) const
     {
         return {message, 0, static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Handle()))};
@@ -181,7 +184,10 @@ protected:
         pObject->GetRect(&rect);
         return rect;
     }
-    static POINT Middle(const RECT& rect) { return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}; }
+    static POINT Middle(const RECT& rect)
+    {
+        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    }
     static bool IsSelected(ISGraphObject* pObject)
     {
         long bSelected = -1;

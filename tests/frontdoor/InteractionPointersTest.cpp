@@ -76,7 +76,9 @@ TEST_F(InteractionPointers, EachStateHasItsPointer)
 TEST_F(InteractionPointers, AHandTellsInTheNormalStateThatSomethingReacts)
 {
     AddLabel({60, 20, 110, 50});
-    const POINT places[] = {At(5, 5), {At(5, 0).x, Middle(RectOf(XAxis().Get())).y}, {80, 30},
+    const POINT places[] = {At(5, 5),
+                            {At(5, 0).x, Middle(RectOf(XAxis().Get())).y},
+                            {80, 30},
                             {Middle(RectOf(YAxis().Get())).x, At(0, 5).y}};
     for (POINT at : places) {
         Hover(at);

@@ -47,7 +47,8 @@ protected:
     void Send(WPARAM nCommand) { ::SendMessageW(graph.m_hWnd, WM_COMMAND, nCommand, 0); }
     CPoint At(double x, double y)
     {
-        return {graph.m_XAxes[0].GetPointForValue({x, y}).x, graph.m_YAxes[0].GetPointForValue({x, y}).y};
+        return {graph.m_XAxes[0].GetPointForValue({x, y}).x,
+                graph.m_YAxes[0].GetPointForValue({x, y}).y};
     }
     // What waits for the parent.
     std::vector<MSG> Heard()
@@ -113,7 +114,8 @@ TEST_F(InteractionState, TheCursorsBoxIsHiddenByNoOpZoomPanAndResetAlone)
     const struct {
         WPARAM command;
         bool bShown;
-    } rows[] = {{40000, false}, {40002, false}, {40004, false}, {40003, false}, {40014, true}, {40015, true}};
+    } rows[] = {{40000, false}, {40002, false}, {40004, false},
+                {40003, false}, {40014, true},  {40015, true}};
     for (const auto& row : rows) {
         graph.m_CursorLabel.m_bVisible = true;
         Send(row.command);
