@@ -22,6 +22,7 @@
 #include <commctrl.h>
 #include <shellapi.h>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <vector>
@@ -101,13 +102,20 @@ int RunScript(const Options& options, const ChartServer& server)
     return 0;
 }
 
-// The last line of what was read, for the status bar.
-std::u16string LastLine(std::u16string text)
+// Of what was read, for the status bar: the first line, and one about rows that were left out.
+std::u16string Summary(std::u16string_view description)
 {
-    while (text.ends_with(u'\n')) {
-        text.pop_back();
+    std::u16string summary;
+    while (!description.empty()) {
+        const std::u16string_view line = description.substr(0, description.find(u'\n'));
+        description.remove_prefix(std::min(line.size() + 1, description.size()));
+        if (summary.empty()) {
+            summary = line;
+        } else if (line.find(u"skipped") != line.npos || line.find(u"without") != line.npos) {
+            return summary + u"; " + std::u16string(TrimBlanks(line));
+        }
     }
-    return std::u16string(TrimBlanks(text.substr(text.find_last_of(u'\n') + 1)));
+    return summary;
 }
 
 int ShowToPerson(const Options& options, const ChartServer& server)
@@ -117,7 +125,7 @@ int ShowToPerson(const Options& options, const ChartServer& server)
     Session session(server, window, Read(options), false);
     const std::u16string description = session.ShowChart();
     Print(Stream::Output, description);
-    window.SetStatus(MainWindow::StatusPart::Text, LastLine(description));
+    window.SetStatus(MainWindow::StatusPart::Text, Summary(description));
     ShowWindow(window.Window(), SW_SHOWDEFAULT);
     UpdateWindow(window.Window());
     session.StopAtTick();

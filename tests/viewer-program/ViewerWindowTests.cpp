@@ -145,6 +145,59 @@ TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
     EXPECT_EQ(0u, viewer.ExitCode());
 }
 
+TEST(ViewerWindow, TheStatusBarTellsTheRowsThatWereLeftOut)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+
+    EXPECT_NE(std::wstring::npos, StatusOf(frame).find(L"4 rows; wind: 3 points, 1 row skipped"))
+        << StatusOf(frame).size();
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+// A popup menu has a window of this class.
+HWND WaitForMenu()
+{
+    HWND menu = nullptr;
+    for (int turn = 0; turn < 600; ++turn) {
+        menu = FindWindowW(L"#32768", nullptr);
+        if (menu && IsWindowVisible(menu)) {
+            break;
+        }
+        Sleep(100);
+    }
+    return menu;
+}
+
+TEST(ViewerWindow, ARightClickOnTheGraphOpensItsMenu)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND graph = GetDlgItem(frame, 100);
+
+    const LPARAM place = MAKELPARAM(200, 200);
+    PostMessageW(graph, WM_MOUSEMOVE, 0, place);
+    PostMessageW(graph, WM_RBUTTONDOWN, MK_RBUTTON, place);
+    PostMessageW(graph, WM_RBUTTONUP, 0, place);
+    const HWND menu = WaitForMenu();
+    EXPECT_NE(nullptr, menu);
+    // Down to "Zoom", the second item.
+    for (const WPARAM key : {WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, WPARAM{VK_RETURN}}) {
+        PostMessageW(frame, WM_KEYDOWN, key, 1);
+    }
+    for (int turn = 0; turn < 600 && StatusOf(frame).find(L"Zoom:") != 0; ++turn) {
+        Sleep(100);
+    }
+    EXPECT_EQ(0u, StatusOf(frame).find(L"Zoom:"));
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
 TEST(ViewerWindow, SwitchesThroughAllKindsOfChartAndBack)
 {
     const TemporaryFile data(L"power.csv", "k,a,b\nx,3,1\ny,4,2\n");
