@@ -2,8 +2,8 @@
 // parabola. S saves the graph's settings, L loads them, P prints.
 // Build it like the first program of the README.
 
-#include <windows.h>
 #include <ole2.h>
+#include <windows.h>
 
 #include "vantoplex.h"
 
@@ -11,7 +11,6 @@
 #include <vector>
 
 static ISGraph* graph = nullptr;
-static constexpr UINT PrintCommand = 40007; // what the graph's window answers
 
 // Adds the points as the next curve. The graph copies them.
 static ISGraphDataSerie* Add(TDataPoint* points, long count, const wchar_t* label)
@@ -44,10 +43,10 @@ static void Plot()
     ISGraphDataSerie* curve = Add(points.data(), count, L"measured");
 
     TDataPoint *trend = nullptr, *average = nullptr, *parabola = nullptr;
-    curve->GetLinearTrend(&trend, count / 4);        // count + count / 4 points
-    curve->GetSimpleMovingAverage(&average, 20);     // count points
-    curve->GetPolynomialTrend(&parabola, 3, 0);      // three terms
-    curve->Release();
+    curve->GetLinearTrend(&trend, count / 4);    // count + count / 4 points
+    curve->GetSimpleMovingAverage(&average, 20); // count points
+    curve->GetPolynomialTrend(&parabola, 3, 0);  // three terms
+    curve->Release();                            // it would not outlive the next curve
     AddResult(trend, count + count / 4, L"trend");
     AddResult(average, count, L"average of 20 days");
     AddResult(parabola, count, L"parabola");
@@ -66,7 +65,7 @@ static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam
     }
     SysFreeString(file);
     if (message == WM_CHAR && wParam == 'p')
-        graph->SendMessage(WM_COMMAND, PrintCommand, 0);
+        graph->SendMessage(WM_COMMAND, 40007, 0); // the graph's print command
     if (message == WM_DESTROY)
         PostQuitMessage(0);
     return DefWindowProcW(window, message, wParam, lParam);
@@ -78,19 +77,18 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show)
     if (FAILED(CoCreateInstance(__uuidof(SGraph), nullptr, CLSCTX_INPROC_SERVER, __uuidof(ISGraph),
                                 reinterpret_cast<void**>(&graph))))
         return 1; // the server isn't registered
-    WNDCLASSW description{};
-    description.lpfnWndProc = WindowProcedure;
-    description.hInstance = instance;
-    description.lpszClassName = L"Analysis";
+    WNDCLASSW description{0,       WindowProcedure, 0,       0,       instance,
+                          nullptr, nullptr,         nullptr, nullptr, L"Analysis"};
     RegisterClassW(&description);
-    HWND window = CreateWindowW(L"Analysis", L"Analysis: S saves, L loads, P prints", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                                CW_USEDEFAULT, CW_USEDEFAULT, 900, 600, nullptr, nullptr, instance, nullptr);
+    HWND window = CreateWindowW(L"Analysis", L"Analysis: S saves, L loads, P prints",
+                                WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 900,
+                                600, nullptr, nullptr, instance, nullptr);
     RECT place{};
     GetClientRect(window, &place);
-    graph->Create(nullptr, &place, reinterpret_cast<wireHWND>(window), 1);
-    BSTR header = SysAllocString(L"Two hundred days"), footer = SysAllocString(L"analysis-host");
+    graph->Create(nullptr, &place, ToWire(window), 1);
+    BSTR header = SysAllocString(L"Two hundred days");
     graph->SetPrintHeader(header);
-    graph->SetPrintFooter(footer);
+    SysFreeString(header);
     Plot();
     ShowWindow(window, show);
     for (MSG message{}; GetMessageW(&message, nullptr, 0, 0) > 0; DispatchMessageW(&message))

@@ -19,7 +19,8 @@ protected:
     Holder<ISGraphDataSerie> Curve(std::vector<TDataPoint> points)
     {
         Holder<ISGraphDataSerie> curve;
-        graph->SetData(curve.Out(), points.data(), static_cast<long>(points.size()), CurveCount(), 0, 0, 1);
+        graph->SetData(curve.Out(), points.data(), static_cast<long>(points.size()), CurveCount(), 0, 0,
+                       1);
         return curve;
     }
     // Y at X 1, 2, 3 ...
@@ -32,8 +33,8 @@ protected:
     }
     // One of the array methods, which hands out nCount points.
     template <class Method, class... Arguments>
-    static std::vector<TDataPoint> Get(const Holder<ISGraphDataSerie>& curve, std::size_t nCount, Method method,
-                                       Arguments... arguments)
+    static std::vector<TDataPoint> Get(const Holder<ISGraphDataSerie>& curve, std::size_t nCount,
+                                       Method method, Arguments... arguments)
     {
         TDataPoint* pArray = nullptr;
         EXPECT_EQ((curve.Get()->*method)(&pArray, arguments...), S_OK);

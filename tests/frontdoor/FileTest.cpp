@@ -49,9 +49,9 @@ TEST_F(GraphFiles, SettingsGoToTheFileAndComeBack)
     graph->SetLegendAlignment(top);
     const Text path(m_path.c_str());
     ASSERT_EQ(graph->Save(path, PERSIST_PROPERTIES), S_OK);
-    EXPECT_EQ(Read(), FileBytes::Flags(1) +
-                          FileBytes::Bytes(FileBytes::TSettings{
-                              .crBack = 0x010203, .nLegendAlignment = 2, .nSnapRange = 77}));
+    EXPECT_EQ(Read(),
+              FileBytes::Flags(1) + FileBytes::Bytes(FileBytes::TSettings{
+                                        .crBack = 0x010203, .nLegendAlignment = 2, .nSnapRange = 77}));
 
     graph->SetBackColor(0);
     graph->SetSnapRange(1);
@@ -97,7 +97,8 @@ TEST_F(GraphFiles, TrendCommandsAddCurvesToTheOneThatTheFileSelected)
     for (const UINT nCommand : {40009u, 40010u, 40009u, 40008u, 40006u})
         graph->SendMessage(WM_COMMAND, nCommand, 0);
 
-    const wchar_t* const labels[] = {L"Load", L"Load linear trend", L"Load cubic trend", L"Load linear trend"};
+    const wchar_t* const labels[] = {L"Load", L"Load linear trend", L"Load cubic trend",
+                                     L"Load linear trend"};
     ASSERT_EQ(CurveCount(), 4);
     for (int n = 0; n < 4; ++n) {
         Holder<ISGraphDataSerie> curve;
@@ -132,7 +133,8 @@ TEST_F(GraphFiles, EachFailureIsFalse)
 TEST_F(GraphFiles, AFileInUseCantBeSavedTo)
 {
     Write("kept");
-    const HANDLE file = ::CreateFileW(m_path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE file =
+        ::CreateFileW(m_path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     EXPECT_EQ(graph->Save(Text(m_path.c_str()), 7), S_FALSE);
     ::CloseHandle(file);
     EXPECT_EQ(Read(), "kept");

@@ -88,7 +88,8 @@ void Free(void* pBlock) noexcept
     }
     if (header.nMagic != Magic)
         __builtin_trap();
-    for (const std::byte* slack = block + header.nSize; slack != header.pBase + header.nCommitted; ++slack)
+    for (const std::byte* slack = block + header.nSize; slack != header.pBase + header.nCommitted;
+         ++slack)
         if (*slack != std::byte{SlackByte})
             __builtin_trap();
     use.nLive -= header.nSize;

@@ -9,11 +9,17 @@ namespace
 constexpr std::size_t MostBytes = 1 << 16;
 
 // Counts, tags, lengths and enumerations that a reader may stumble over.
-constexpr std::array<std::uint64_t, 22> Numbers = {
-    0,          1,          2,          3,          0x7F,       0x80,       0xFF,
-    0x100,      0x7FFE,     0x7FFF,     0x8000,     0x8001,     0x8003,     0xFFFE,
-    0xFFFF,     0x10000,    0x7FFFFFFF, 0x80000000, 0x80000001, 0xFFFFFFFE, 0xFFFFFFFF,
-    0x7FFFFFFFFFFFFFFF};
+constexpr std::array<std::uint64_t, 22> Numbers = {0,          1,
+                                                   2,          3,
+                                                   0x7F,       0x80,
+                                                   0xFF,       0x100,
+                                                   0x7FFE,     0x7FFF,
+                                                   0x8000,     0x8001,
+                                                   0x8003,     0xFFFE,
+                                                   0xFFFF,     0x10000,
+                                                   0x7FFFFFFF, 0x80000000,
+                                                   0x80000001, 0xFFFFFFFE,
+                                                   0xFFFFFFFF, 0x7FFFFFFFFFFFFFFF};
 constexpr std::array<std::uint64_t, 6> Doubles = {0x7FF0000000000000, 0xFFF0000000000000,
                                                   0x7FF8000000000001, 0x0000000000000001,
                                                   0x7FEFFFFFFFFFFFFF, 0x8000000000000000};

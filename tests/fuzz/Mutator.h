@@ -8,7 +8,8 @@
 class CMutator
 {
 public:
-    CMutator(std::vector<std::string> seeds, std::uint64_t nSeed) : m_seeds(std::move(seeds)), m_nSeed(nSeed)
+    CMutator(std::vector<std::string> seeds, std::uint64_t nSeed)
+        : m_seeds(std::move(seeds)), m_nSeed(nSeed)
     {
     }
 

@@ -79,6 +79,11 @@ std::string LogGraph()
 }
 } // namespace
 
+std::string DefaultSettings()
+{
+    return Flags(1) + Bytes(TSettings());
+}
+
 std::vector<std::string> SeedFiles()
 {
     const std::string settings = Bytes(TSettings());

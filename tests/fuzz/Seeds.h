@@ -5,3 +5,5 @@
 #include <vector>
 
 [[nodiscard]] std::vector<std::string> SeedFiles();
+// A file that puts a graph's settings back to those it starts with.
+[[nodiscard]] std::string DefaultSettings();

@@ -38,9 +38,8 @@ public:
         ::DeleteObject(m_hBitmap);
     }
 
-    [[nodiscard]] COLORREF At(int x, int y)
+    [[nodiscard]] COLORREF At(int x, int y) const
     {
-        ::GdiFlush();
         const DWORD pixel = m_pixels[y * m_size.cx + x];
         return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);
     }
@@ -68,6 +67,12 @@ public:
         return canvas.GetTextExtent(text).cy;
     }
 
+    void Show(CXGraph& graph)
+    {
+        graph.PaintPage(canvas);
+        ::GdiFlush(); // the pixels are read from memory
+    }
+
     CSize m_size;
     CDCEx canvas;
 
@@ -84,7 +89,7 @@ TEST_F(GraphPrint, TheFrameReachesThePrintersCanvasInItsResolution)
     AddLine();
     graph.m_bShowLegend = false;
     Page page;
-    graph.PaintPage(page.canvas);
+    page.Show(graph);
 
     EXPECT_EQ(graph.m_rcPrint, CRect(0, 0, page.m_size.cx / 2, page.m_size.cy / 2));
     EXPECT_EQ(graph.m_pPrintDC, nullptr);
@@ -105,7 +110,7 @@ TEST_F(GraphPrint, HeaderAndFooterStandCentredAndTakeTheirHeightAndFiveFromThePa
     graph.m_strPrintHeader = L"Header & title";
     graph.m_strPrintFooter = L"Footer";
     Page page;
-    graph.PaintPage(page.canvas);
+    page.Show(graph);
 
     const int header = page.TextHeight(graph.m_strPrintHeader) + 5;
     const int footer = page.TextHeight(graph.m_strPrintFooter) + 5;
@@ -126,7 +131,7 @@ TEST_F(GraphPrint, EmptyTextsTakeNothing)
 {
     graph.m_strPrintFooter = L"x";
     Page page;
-    graph.PaintPage(page.canvas);
+    page.Show(graph);
     EXPECT_EQ(graph.m_rcPrint.top, 0);
     EXPECT_LT(graph.m_rcPrint.bottom, page.m_size.cy / 2);
 }
@@ -148,7 +153,7 @@ TEST_F(GraphPrint, TheWindowsOwnLayoutComesBackWithItsNextFrame)
     Paint();
     const CRect inner = graph.m_rcInner;
     Page page;
-    graph.PaintPage(page.canvas);
+    page.Show(graph);
     EXPECT_NE(graph.m_rcInner, inner);
     Paint();
     EXPECT_EQ(graph.m_rcInner, inner);
