@@ -42,10 +42,10 @@ bool IsHandle(int nHandle)
 }
 
 // The size of the border of an object that is edited in place is what the user chose for
-// such handles; it is a profile setting of the system.
+// such handles; it is a profile setting of the system. Read once: trackers are made in masses.
 int SystemHandleSize()
 {
-    const int size =
+    static const int size =
         static_cast<int>(::GetProfileInt(L"windows", L"oleinplaceborderwidth", DefaultHandleSize));
     return size > 0 && size < 100 ? size : DefaultHandleSize;
 }
