@@ -19,6 +19,17 @@ int GuessIndex(std::span<const TDataPoint> points, double x) noexcept
     return std::clamp(guess, 0, static_cast<int>(points.size()) - 1);
 }
 
+// Long walks go by blocks, whose points are tested without a branch.
+constexpr int Block = 16;
+
+template <class Condition> bool HoldsInBlock(const TDataPoint* block, Condition condition) noexcept
+{
+    unsigned holds = 1;
+    for (int i = 0; i < Block; ++i)
+        holds &= static_cast<unsigned>(condition(block[i].fXVal));
+    return holds != 0;
+}
+
 } // namespace
 
 int FindIndexForX(std::span<const TDataPoint> points, double x) noexcept
@@ -28,10 +39,16 @@ int FindIndexForX(std::span<const TDataPoint> points, double x) noexcept
     const int count = static_cast<int>(points.size());
     int index = GuessIndex(points, x);
     if (points[index].fXVal > x) {
-        while (index > 0 && points[index].fXVal > x)
+        const auto isPast = [x](double value) { return value > x; };
+        while (index >= Block && HoldsInBlock(&points[index - Block + 1], isPast))
+            index -= Block;
+        while (index > 0 && isPast(points[index].fXVal))
             --index;
     } else {
-        while (index < count && x >= points[index].fXVal)
+        const auto isNotPast = [x](double value) { return x >= value; };
+        while (count - index >= Block && HoldsInBlock(&points[index], isNotPast))
+            index += Block;
+        while (index < count && isNotPast(points[index].fXVal))
             ++index;
     }
     return index;

@@ -63,6 +63,47 @@ TEST(FindIndexForX, HostileValuesStayInTheArray)
     EXPECT_EQ(Find({std::nan(""), 1, 2}, 1), 0);
 }
 
+// The walk point by point, as it is defined.
+int WalkPointByPoint(const std::vector<TDataPoint>& points, double x, int guess)
+{
+    const int count = static_cast<int>(points.size());
+    int index = guess;
+    if (points[index].fXVal > x) {
+        while (index > 0 && points[index].fXVal > x)
+            --index;
+    } else {
+        while (index < count && x >= points[index].fXVal)
+            ++index;
+    }
+    return index;
+}
+
+TEST(FindIndexForX, LongWalksStopAtEveryPointThatEndsThem)
+{
+    // Level runs with one point out of line, which the walk may not pass.
+    constexpr int count = 100;
+    for (int odd = 2; odd < count; ++odd) {
+        for (const double value : {-50.0, 50.0, std::nan(""), kInfinity, -kInfinity}) {
+            std::vector<double> xs(count, 10.0);
+            xs[0] = 0;
+            xs[1] = 1; // so that x itself is the guess
+            xs[static_cast<std::size_t>(odd)] = value;
+            const auto points = PointsAt(xs);
+            for (const double x : {2.0, 5.0, 9.0, 50.0, 98.0, 11.0, 33.0})
+                ASSERT_EQ(FindIndexForX(points, x), WalkPointByPoint(points, x, static_cast<int>(x)))
+                    << odd << ' ' << value << ' ' << x;
+            xs.assign(count, 1000.0);
+            xs[0] = 0;
+            xs[1] = 1;
+            xs[static_cast<std::size_t>(odd)] = value;
+            const auto falling = PointsAt(xs);
+            for (const double x : {40.0, 90.0, 99.0})
+                ASSERT_EQ(FindIndexForX(falling, x), WalkPointByPoint(falling, x, static_cast<int>(x)))
+                    << odd << ' ' << value << ' ' << x;
+        }
+    }
+}
+
 TEST(FindIndexForX, TheSearchEqualsTheWalkOnAscendingPoints)
 {
     std::mt19937 random(11);
