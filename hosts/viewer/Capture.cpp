@@ -21,7 +21,8 @@ Capture::Capture(HWND window, Paint paint)
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = bitsOfPixel;
     m_bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
-    const bool done = m_bitmap && (paint == Paint::Again ? CopyInPieces(window) : CopyPiece(window, client));
+    const bool done =
+        m_bitmap && (paint == Paint::Again ? CopyInPieces(window) : CopyPiece(window, client));
     if (!done) {
         throw Error{ExitCode::NoPicture,
                     u"the window can't be read back (" + SystemText(GetLastError()) + u")"};

@@ -26,11 +26,11 @@ struct Slice {
 struct CategoryPlan {
     std::vector<std::u16string> categories; // in the order of the file
     std::vector<Series> series;
-    std::vector<Slice> slices;      // of a pie
-    std::u16string sliceTitle;      // what the slices are shares of
+    std::vector<Slice> slices; // of a pie
+    std::u16string sliceTitle; // what the slices are shares of
     std::size_t rows = 0;
-    std::size_t skipped = 0;        // cells without a number
-    std::size_t slicesLeftOut = 0;  // of 0 or less: a pie has no room for them
+    std::size_t skipped = 0;       // cells without a number
+    std::size_t slicesLeftOut = 0; // of 0 or less: a pie has no room for them
 };
 
 // Throws Error(BadData) if a column doesn't exist, nothing can be shown or there is far too much.

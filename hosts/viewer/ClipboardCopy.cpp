@@ -78,9 +78,11 @@ void CopyAsMetafile(HWND owner, const Capture& capture, const std::u16string& ti
 {
     const HDC reference = GetDC(owner);
     // Hundredths of a millimetre.
-    const RECT frame = {
-        0, 0, MulDiv(capture.Width(), GetDeviceCaps(reference, HORZSIZE) * 100, GetDeviceCaps(reference, HORZRES)),
-        MulDiv(capture.Height(), GetDeviceCaps(reference, VERTSIZE) * 100, GetDeviceCaps(reference, VERTRES))};
+    const RECT frame = {0, 0,
+                        MulDiv(capture.Width(), GetDeviceCaps(reference, HORZSIZE) * 100,
+                               GetDeviceCaps(reference, HORZRES)),
+                        MulDiv(capture.Height(), GetDeviceCaps(reference, VERTSIZE) * 100,
+                               GetDeviceCaps(reference, VERTRES))};
     std::wstring description = L"Vantoplex Viewer";
     description += L'\0' + ToWide(title) + L'\0';
     const HDC target = CreateEnhMetaFileW(reference, nullptr, &frame, description.c_str());

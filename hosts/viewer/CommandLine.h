@@ -29,7 +29,7 @@ struct Options {
     bool version = false;
 
     ChartKind chart = ChartKind::Graph;
-    std::u16string title;     // of bar, line and pie charts; empty: the file's name
+    std::u16string title; // of bar, line and pie charts; empty: the file's name
     std::u16string subtitle;
     std::u16string pick;      // the one category that a pie shows; empty: all of them, summed
     std::u16string animation; // a word of Animations(); empty: still

@@ -36,17 +36,13 @@ constexpr std::array editItems = {Item{CopyBitmap, L"&Copy picture\tCtrl+C"},
                                   Item{GraphCommand::InsertLabel, L"Insert &label"},
                                   Item{DeleteMeasures, L"&Delete measures"},
                                   Item{GraphCommand::Properties, L"&Properties..."}};
-constexpr std::array modeItems = {Item{GraphCommand::Select, L"&Select"},
-                                  Item{GraphCommand::Zoom, L"&Zoom"},
-                                  Item{GraphCommand::Pan, L"&Pan"},
-                                  Item{GraphCommand::Cursor, L"&Cursor"},
-                                  Item{GraphCommand::Measure, L"&Measure"},
-                                  Item{GraphCommand::Edit, L"&Edit points"}};
+constexpr std::array modeItems = {
+    Item{GraphCommand::Select, L"&Select"},   Item{GraphCommand::Zoom, L"&Zoom"},
+    Item{GraphCommand::Pan, L"&Pan"},         Item{GraphCommand::Cursor, L"&Cursor"},
+    Item{GraphCommand::Measure, L"&Measure"}, Item{GraphCommand::Edit, L"&Edit points"}};
 constexpr std::array viewItems = {Item{GraphCommand::ZoomBack, L"Zoom &back"},
-                                  Item{GraphCommand::ResetZoom, L"&Reset zoom"},
-                                  line,
-                                  Item{Legend, L"&Legend"},
-                                  Item{Snap, L"Cursor s&naps to curves"}};
+                                  Item{GraphCommand::ResetZoom, L"&Reset zoom"}, line,
+                                  Item{Legend, L"&Legend"}, Item{Snap, L"Cursor s&naps to curves"}};
 constexpr std::array trendItems = {Item{GraphCommand::LinearTrend, L"&Linear trend"},
                                    Item{GraphCommand::CubicTrend, L"&Cubic trend"},
                                    Item{FirstDegree, L"Polynomial of degree &2"},
@@ -59,24 +55,19 @@ constexpr std::array trendItems = {Item{GraphCommand::LinearTrend, L"&Linear tre
                                    Item{FirstAverage + 1, L"&Exponential moving average"},
                                    Item{FirstAverage + 2, L"L&inear moving average"},
                                    Item{LastAverage, L"&Triangular moving average"}};
-constexpr std::array spanItems = {
-    Item{FirstSpan, L"&3 points"},        Item{FirstSpan + 1, L"&5 points"},
-    Item{FirstSpan + 2, L"&7 points"},    Item{FirstSpan + 3, L"&12 points"},
-    Item{FirstSpan + 4, L"3&0 points"},   Item{FirstSpan + 5, L"100 points"},
-    Item{LastSpan, L"365 points"}};
+constexpr std::array spanItems = {Item{FirstSpan, L"&3 points"},      Item{FirstSpan + 1, L"&5 points"},
+                                  Item{FirstSpan + 2, L"&7 points"},  Item{FirstSpan + 3, L"&12 points"},
+                                  Item{FirstSpan + 4, L"3&0 points"}, Item{FirstSpan + 5, L"100 points"},
+                                  Item{LastSpan, L"365 points"}};
 constexpr std::array kindItems = {Item{FirstKind, L"&XY graph"}, Item{FirstKind + 1, L"&Bar chart"},
-                                  Item{FirstKind + 2, L"&Line chart"}, Item{FirstKind + 3, L"&Pie chart"},
-                                  Item{LastKind, L"&3D pie"}};
-constexpr std::array pieItems = {Item{FirstStyle, L"&Doughnut"},
-                                 Item{FirstStyle + 1, L"&Flat"},
-                                 Item{LastStyle, L"&Three-dimensional"},
-                                 line,
-                                 Item{FirstOrder, L"&Order of the file"},
-                                 Item{FirstOrder + 1, L"&Largest first"},
-                                 Item{LastOrder, L"&Smallest first"},
-                                 line,
-                                 Item{TiltMore, L"Tilt &more"},
-                                 Item{TiltLess, L"Tilt l&ess"}};
+                                  Item{FirstKind + 2, L"&Line chart"},
+                                  Item{FirstKind + 3, L"&Pie chart"}, Item{LastKind, L"&3D pie"}};
+constexpr std::array pieItems = {
+    Item{FirstStyle, L"&Doughnut"},          Item{FirstStyle + 1, L"&Flat"},
+    Item{LastStyle, L"&Three-dimensional"},  line,
+    Item{FirstOrder, L"&Order of the file"}, Item{FirstOrder + 1, L"&Largest first"},
+    Item{LastOrder, L"&Smallest first"},     line,
+    Item{TiltMore, L"Tilt &more"},           Item{TiltLess, L"Tilt l&ess"}};
 constexpr std::array helpItems = {Item{Keys, L"&Keys and mouse\tF1"}, Item{About, L"&About"}};
 
 void Append(HMENU menu, std::span<const Item> items)
@@ -178,7 +169,7 @@ void Check(HMENU menu, unsigned command, bool checked)
 unsigned CommandOf(int operation)
 {
     static constexpr std::array<unsigned, 9> commands = {
-        GraphCommand::Select, GraphCommand::Zoom, 0, GraphCommand::Pan,    GraphCommand::Cursor, 0, 0,
+        GraphCommand::Select, GraphCommand::Zoom,   0, GraphCommand::Pan, GraphCommand::Cursor, 0, 0,
         GraphCommand::Edit,   GraphCommand::Measure};
     return commands[static_cast<std::size_t>(operation) % commands.size()];
 }
@@ -241,7 +232,8 @@ void UpdateMenu(HMENU menu, const MenuState& state)
     for (const Item& item : kindItems) {
         Check(menu, item.command, item.command - FirstKind == static_cast<unsigned>(state.kind));
     }
-    Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Doughnut), state.style == PieStyle::Doughnut);
+    Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Doughnut),
+          state.style == PieStyle::Doughnut);
     Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Flat), state.style == PieStyle::Flat);
     Check(menu, LastStyle, state.style == PieStyle::Solid);
     for (unsigned order = FirstOrder; order <= LastOrder; ++order) {

@@ -15,7 +15,7 @@ namespace
 
 constexpr wchar_t className[] = L"VantoplexViewer";
 constexpr UINT chartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
-constexpr unsigned passedOn = 40012; // a command of the graph that comes back as a message
+constexpr unsigned passedOn = 40012;  // a command of the graph that comes back as a message
 
 struct FrameStyle {
     DWORD style;

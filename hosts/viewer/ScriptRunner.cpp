@@ -182,8 +182,9 @@ POINT ScriptRunner::Find(const Place& place, const Step& step) const
     RECT client{};
     GetClientRect(m_session.ChartWindow(), &client);
     const auto pixel = [](const Coordinate& coordinate, LONG length) {
-        const double part =
-            coordinate.unit == Coordinate::Unit::Percent ? length * coordinate.value / 100 : coordinate.value;
+        const double part = coordinate.unit == Coordinate::Unit::Percent
+                                ? length * coordinate.value / 100
+                                : coordinate.value;
         return static_cast<LONG>(std::lround(part));
     };
     POINT point = {pixel(place.x, client.right), 0};
@@ -253,8 +254,7 @@ void ScriptRunner::Turn(int notches)
 {
     const short delta = notches < 0 ? -WHEEL_DELTA : WHEEL_DELTA;
     for (int at = 0; at < std::abs(notches); ++at) {
-        SendMessageW(m_session.ChartWindow(), WM_MOUSEWHEEL,
-                     MAKEWPARAM(0, static_cast<WORD>(delta)), 0);
+        SendMessageW(m_session.ChartWindow(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(delta)), 0);
     }
 }
 

@@ -46,12 +46,15 @@ constexpr std::array<VerbForm, 17> forms = {{
 constexpr std::u16string_view modes[] = {u"select", u"zoom", u"pan", u"cursor", u"measure", u"edit"};
 constexpr std::u16string_view keys[] = {u"home",  u"add", u"subtract", u"left",
                                         u"right", u"up",  u"down",     u"delete"};
-constexpr std::u16string_view commands[] = {
-    u"label",          u"zoom-back",           u"reset-zoom",     u"delete-measures",
-    u"linear-trend",   u"cubic-trend",         u"polynomial",     u"simple-average",
-    u"linear-average", u"exponential-average", u"copy-bitmap",    u"triangular-average",
-    u"copy-metafile",  u"bar",                 u"line",           u"pie",
-    u"pie3d",          u"graph"};
+constexpr std::u16string_view commands[] = {u"label",          u"zoom-back",
+                                            u"reset-zoom",     u"delete-measures",
+                                            u"linear-trend",   u"cubic-trend",
+                                            u"polynomial",     u"simple-average",
+                                            u"linear-average", u"exponential-average",
+                                            u"copy-bitmap",    u"triangular-average",
+                                            u"copy-metafile",  u"bar",
+                                            u"line",           u"pie",
+                                            u"pie3d",          u"graph"};
 
 class LineParser
 {

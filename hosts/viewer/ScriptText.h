@@ -43,7 +43,7 @@ struct Place {
 
 struct Step {
     Verb verb;
-    std::size_t line;    // of the script, counted from 1
+    std::size_t line; // of the script, counted from 1
     std::vector<Place> places;
     std::u16string text; // a word, a file or what is typed
     int number = 0;      // notches of the wheel, or the number of a command (text is empty then)

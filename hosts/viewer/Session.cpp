@@ -190,9 +190,9 @@ void Session::ShowState()
     const bool graph = m_control.has_value();
     const int operation = graph ? m_control->Operation() : 0;
     m_window.ShowTools(graph, operation);
-    m_window.SetStatus(Part::Zoom, graph ? u"zoom " + ToText(static_cast<std::size_t>(
-                                                          m_control->ZoomDepth()))
-                                         : std::u16string());
+    m_window.SetStatus(Part::Zoom,
+                       graph ? u"zoom " + ToText(static_cast<std::size_t>(m_control->ZoomDepth()))
+                             : std::u16string());
     m_window.SetStatus(Part::Operation,
                        graph ? OperationName(operation) : NameOfKind(m_document.options.chart));
     m_window.SetTitle(m_document.name + u" - Vantoplex Viewer");

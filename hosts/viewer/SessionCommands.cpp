@@ -135,8 +135,8 @@ bool Session::RunGraph(unsigned command)
     } else if (IsIn(command, FirstDegree, LastDegree)) {
         Analyse(Analysis::PolynomialTrend, static_cast<int>(command - FirstDegree) + 2);
     } else if (IsIn(command, FirstAverage, LastAverage)) {
-        const int analysis = static_cast<int>(Analysis::SimpleAverage) +
-                             static_cast<int>(command - FirstAverage);
+        const int analysis =
+            static_cast<int>(Analysis::SimpleAverage) + static_cast<int>(command - FirstAverage);
         Analyse(static_cast<Analysis>(analysis), spans[static_cast<std::size_t>(m_span)]);
     } else if (IsIn(command, FirstSpan, LastSpan)) {
         m_span = static_cast<int>(command - FirstSpan);

@@ -28,12 +28,12 @@ constexpr std::array<Operation, 6> operations = {{
     {8, u"measure", u"Measure: drag from one point of a curve to another"},
 }};
 
-template <std::size_t size, class... Values>
-std::u16string Format(const char* format, Values... values)
+template <std::size_t size, class... Values> std::u16string Format(const char* format, Values... values)
 {
     std::array<char, size> text{};
     const int length = std::snprintf(text.data(), text.size(), format, values...);
-    return {text.data(), text.data() + (length > 0 ? std::min(static_cast<std::size_t>(length), size - 1) : 0)};
+    return {text.data(),
+            text.data() + (length > 0 ? std::min(static_cast<std::size_t>(length), size - 1) : 0)};
 }
 
 } // namespace

@@ -37,8 +37,8 @@ constexpr std::array<Button, 11> buttons = {{
 
 ToolRow::ToolRow(HWND parent)
     : m_window(CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr,
-                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_FLAT |
-                                   CCS_TOP | CCS_NODIVIDER,
+                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | TBSTYLE_FLAT | CCS_TOP |
+                                   CCS_NODIVIDER,
                                0, 0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr))
 {
     SendMessageW(m_window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);

@@ -1,4 +1,5 @@
-// vantoplex-viewer: shows a CSV file in a chart, draws it into a PNG file, or works with it as a script says.
+// vantoplex-viewer: shows a CSV file in a chart, draws it into a PNG file, or works with it as a script
+// says.
 
 #include "viewer/Capture.h"
 #include "viewer/ChartServer.h"

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 // A scripted session: the viewer's own mouse and keys on its graph.
 
 using ViewerRun::Pixels;

@@ -107,7 +107,7 @@ TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
     const struct {
         unsigned command;
         const wchar_t* hint;
-    } modes[] = {{40002, L"Zoom:"},   {40004, L"Pan:"},         {40011, L"Cursor:"},
+    } modes[] = {{40002, L"Zoom:"},    {40004, L"Pan:"},         {40011, L"Cursor:"},
                  {40015, L"Measure:"}, {40014, L"Edit points:"}, {40000, L"Select:"}};
     for (const auto& mode : modes) {
         SendMessageW(frame, WM_COMMAND, mode.command, 0);

@@ -68,10 +68,11 @@ TEST(ScriptText, NamesTheLineOfAFault)
 {
     EXPECT_EQ(u"script, line 2: unknown step \"jump\"", Refusal(u"print\njump 1 2"));
     for (const char16_t* line :
-         {u"mode", u"mode fly", u"command", u"command fly", u"command 70000", u"click", u"click 1",
-          u"click a 2", u"click 1e9 2", u"click 1 2 3", u"click on:1 2", u"click 1 on:0", u"click 1 on:x",
-          u"click 1 2%%", u"click 1 nan%", u"drag 1 2 3", u"key f5", u"type", u"wheel", u"wheel 1.5",
-          u"print now", u"picture "}) {
+         {u"mode",         u"mode fly",     u"command",      u"command fly", u"command 70000",
+          u"click",        u"click 1",      u"click a 2",    u"click 1e9 2", u"click 1 2 3",
+          u"click on:1 2", u"click 1 on:0", u"click 1 on:x", u"click 1 2%%", u"click 1 nan%",
+          u"drag 1 2 3",   u"key f5",       u"type",         u"wheel",       u"wheel 1.5",
+          u"print now",    u"picture "}) {
         EXPECT_TRUE(Refusal(line).starts_with(u"script, line 1: "));
     }
 }
