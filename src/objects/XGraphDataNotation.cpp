@@ -14,7 +14,7 @@ namespace
 {
 constexpr COLORREF Black = 0x000000;
 constexpr COLORREF White = 0xFFFFFF;
-constexpr int BoxAbove = 20; // pixels from the box's top down to the point
+constexpr int BoxAbove = 20;            // pixels from the box's top down to the point
 constexpr LONG FarthestPixel = 1 << 26; // nothing beyond it is seen, and sums stay sums
 } // namespace
 

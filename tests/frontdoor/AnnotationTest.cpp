@@ -59,7 +59,8 @@ private:
         }
         const HWND hActive = ::GetActiveWindow();
         wchar_t name[16] = {};
-        if (hActive != nullptr && ::GetClassNameW(hActive, name, 16) > 0 && std::wstring(name) == L"#32770") {
+        if (hActive != nullptr && ::GetClassNameW(hActive, name, 16) > 0 &&
+            std::wstring(name) == L"#32770") {
             wchar_t caption[64] = {};
             ::GetWindowTextW(hActive, caption, 64);
             m_dialog = caption;

@@ -181,7 +181,8 @@ TEST_F(FrontDoorCursor, HostileFormatsAndTitlesPaint)
     Holder<ISGraphAxis> x = XAxis();
     Holder<ISGraphAxis> y = YAxis();
     const std::wstring longTitle(100000, L'%');
-    for (const wchar_t* pszFormat : {L"%s%n", L"%%s", L"%9999.9999f", L"%Y%%n\r\n", L"%", L"", L"%*d%5$s"}) {
+    for (const wchar_t* pszFormat :
+         {L"%s%n", L"%%s", L"%9999.9999f", L"%Y%%n\r\n", L"%", L"", L"%*d%5$s"}) {
         for (const long bDate : {0, 1}) {
             x->SetDisplayFmt(Text(pszFormat));
             y->SetDisplayFmt(Text(pszFormat));

@@ -83,7 +83,7 @@ TEST_F(FrontDoorMeasure, ManySpansAndEveryPlainClickAreKept)
         Send(WM_LBUTTONUP, 0, 60 + 5 * i, 100);
     }
     EXPECT_GT(Shoot().Count(kElbow), nBefore + 60); // arrows on most of the eleven points
-    graph->ResetAll(); // they survive, and name a curve that is not there
+    graph->ResetAll();                              // they survive, and name a curve that is not there
     graph->DeleteMeasures();
     Shoot();
     EXPECT_TRUE(::IsWindow(Handle()));

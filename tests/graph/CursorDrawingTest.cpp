@@ -2,6 +2,7 @@
 
 #include "GraphHost.h"
 #include "objects/XGraphBitmap.h"
+#include "support/GdiCount.h"
 
 #include <cfloat>
 
@@ -46,9 +47,13 @@ protected:
     void ExpectMovesToLookLikeFrames()
     {
         const CRect plot = graph.m_rcInner;
-        const CPoint places[] = {{plot.left + 40, plot.top + 30}, {plot.left + 2, plot.top + 1},
-                                 {plot.right - 2, plot.bottom - 2}, {150, 110}, {160, 115},
-                                 {Middle(), Row(2) + 3},           {plot.right + 20, plot.bottom + 10}};
+        const CPoint places[] = {{plot.left + 40, plot.top + 30},
+                                 {plot.left + 2, plot.top + 1},
+                                 {plot.right - 2, plot.bottom - 2},
+                                 {150, 110},
+                                 {160, 115},
+                                 {Middle(), Row(2) + 3},
+                                 {plot.right + 20, plot.bottom + 10}};
         for (const CPoint& place : places) {
             Move(place.x, place.y);
             const Picture moved(graph.m_hWnd);
@@ -110,7 +115,8 @@ TEST_F(CursorDrawing, WithoutSnappingThereIsNoCurveNoLineForItAndNoNote)
     EnterCursor(XGC_LEGEND);
     Move(Middle(), Row(2));
     EXPECT_EQ(graph.m_nCursorCurve, -1);
-    EXPECT_EQ(graph.m_CursorLabel.m_cText.Find(L"[01] : ", 12), graph.m_CursorLabel.m_cText.Find(L"Y[01]") + 1);
+    EXPECT_EQ(graph.m_CursorLabel.m_cText.Find(L"[01] : ", 12),
+              graph.m_CursorLabel.m_cText.Find(L"Y[01]") + 1);
     Click(Middle(), Row(2));
     EXPECT_EQ(graph.m_Objects.GetCount(), 1);
     graph.m_bSnapCursor = true;
@@ -306,4 +312,25 @@ TEST_F(CursorDrawing, WithoutCurvesOrPointsItMovesFreely)
     Move(101, 101);
     EXPECT_EQ(graph.GetCursorAbsolute(0).fYVal, 0);
     Paint();
+}
+
+TEST_F(CursorDrawing, MovesNotesAndEditsLeaveNoDrawingObjects)
+{
+    CXGraphLabel* label = graph.InsertLabel(CRect(120, 90, 180, 130), L"label");
+    EnterCursor(XGC_HORIZ | XGC_VERT | XGC_LEGEND);
+    auto cycle = [&] {
+        for (int x = 60; x < 300; x += 20)
+            Move(x, Row(2));
+        label->BeginEdit();
+        Paint();
+        label->EndEdit();
+        graph.m_Measures.push_back({0, 0, 1, 2});
+        graph.m_nCursorCurve = 0;
+        Paint();
+        graph.m_Measures.clear();
+    };
+    cycle();
+    const int nBefore = GdiCount::All();
+    cycle();
+    EXPECT_EQ(GdiCount::All(), nBefore);
 }

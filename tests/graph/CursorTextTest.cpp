@@ -34,7 +34,8 @@ TEST(CursorText, ADateTakesOneLine)
 {
     EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%Y-%m-%d\r\n%H:%M", L"UTC", true), kNoon),
               L" X[01] : 2020-01-01  12:00 UTC\r\n");
-    EXPECT_EQ(CursorText::XAxisLine(2, Axis(L"%Y", L"t", true), 1e300), L" X[02] : Invalid DateTime t\r\n");
+    EXPECT_EQ(CursorText::XAxisLine(2, Axis(L"%Y", L"t", true), 1e300),
+              L" X[02] : Invalid DateTime t\r\n");
 }
 
 TEST(CursorText, APercentSignInADateIsTakenForAFormat)
@@ -60,26 +61,30 @@ TEST(CursorText, FormatsFromOutsideTakeOneNumberAndReadNothingElse)
 
 TEST(CursorText, TheCurvesLineHasBothValues)
 {
-    EXPECT_EQ(CursorText::CurveLine(L"speed", 3, Axis(L"%.1f\r\nm", L"x"), 1.5, Axis(L"%.2f\n", L"y"), 2.5),
-              L" speed[03] : 1.5  m, 2.50\n\r\n");
+    EXPECT_EQ(
+        CursorText::CurveLine(L"speed", 3, Axis(L"%.1f\r\nm", L"x"), 1.5, Axis(L"%.2f\n", L"y"), 2.5),
+        L" speed[03] : 1.5  m, 2.50\n\r\n");
     EXPECT_EQ(CursorText::CurveLine(L"%s%n", 1, Axis(L"%.1f", L"x"), 1.5, Axis(L"%.2f", L"y"), 2.5),
               L" %s%n[01] : 1.5, 2.50\r\n");
 }
 
 TEST(CursorText, TheCurvesLineWithADateHandsYToTheWholeOfIt)
 {
-    EXPECT_EQ(CursorText::CurveLine(L"c", 1, Axis(L"%d.%m.\n%Y", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
-              L" c[01] : 01.01. 2020, 2.50\r\n");
-    EXPECT_EQ(CursorText::CurveLine(L"c", 1, Axis(L"%%.1f", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
-              L" c[01] : 2.5, %.2f\r\n");
+    EXPECT_EQ(
+        CursorText::CurveLine(L"c", 1, Axis(L"%d.%m.\n%Y", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
+        L" c[01] : 01.01. 2020, 2.50\r\n");
+    EXPECT_EQ(
+        CursorText::CurveLine(L"c", 1, Axis(L"%%.1f", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
+        L" c[01] : 2.5, %.2f\r\n");
 }
 
 TEST(CursorText, LongTitlesStayWhole)
 {
     const std::wstring title(100000, L'%');
     EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%.0f", title.c_str()), 1).GetLength(), 100000 + 13);
-    EXPECT_EQ(CursorText::CurveLine(title.c_str(), 1, Axis(L"1", L""), 1, Axis(L"2", L""), 1).GetLength(),
-              100000 + 14);
+    EXPECT_EQ(
+        CursorText::CurveLine(title.c_str(), 1, Axis(L"1", L""), 1, Axis(L"2", L""), 1).GetLength(),
+        100000 + 14);
 }
 
 TEST_F(CursorTextBox, HasALineForEveryAxisAndOneForTheCurve)
@@ -103,12 +108,12 @@ TEST_F(CursorTextBox, HasALineForEveryAxisAndOneForTheCurve)
         return text;
     };
     const CPoint at = graph.m_ptCurrent;
-    const CString expected =
-        L" X[01] : " + number(graph.GetXAxis(0)->GetValueForPos(at.x)) + L" a\r\n X[02] : " +
-        number(graph.GetXAxis(1)->GetValueForPos(at.x)) + L" b\r\n Y[01] : " +
-        number(graph.GetYAxis(0)->GetValueForPos(at.y)) + L" c\r\n Y[02] : " +
-        number(graph.GetYAxis(1)->GetValueForPos(at.y)) + L" d\r\n second[02] : " +
-        number(graph.m_fCursorX) + L", " + number(graph.m_fCursorY) + L"\r\n";
+    const CString expected = L" X[01] : " + number(graph.GetXAxis(0)->GetValueForPos(at.x)) +
+                             L" a\r\n X[02] : " + number(graph.GetXAxis(1)->GetValueForPos(at.x)) +
+                             L" b\r\n Y[01] : " + number(graph.GetYAxis(0)->GetValueForPos(at.y)) +
+                             L" c\r\n Y[02] : " + number(graph.GetYAxis(1)->GetValueForPos(at.y)) +
+                             L" d\r\n second[02] : " + number(graph.m_fCursorX) + L", " +
+                             number(graph.m_fCursorY) + L"\r\n";
     EXPECT_EQ(graph.m_CursorLabel.m_cText, expected);
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject.Size(), CSize(149, 50)); // whatever the text's length
 }

@@ -136,7 +136,8 @@ TEST_F(LabelEditing, LongTextsWithPercentSignsAndLinesComeBackWhole)
     Paint();
     label->EndEdit();
     EXPECT_TRUE(label->m_cText == text);
-    for (const UINT nAlignment : {DT_WORDBREAK, DT_SINGLELINE | DT_VCENTER | DT_RIGHT, DT_END_ELLIPSIS}) {
+    for (const UINT nAlignment :
+         {DT_WORDBREAK, DT_SINGLELINE | DT_VCENTER | DT_RIGHT, DT_END_ELLIPSIS}) {
         label->m_nAlignment = nAlignment;
         Paint();
     }
@@ -233,7 +234,8 @@ TEST_F(LabelEditing, OnAMonochromeTargetTheBoxIsWhiteAndTheTextBlack)
     const FrameRecording recording(graph, [](CDCEx& dc) { dc.m_bMono = true; });
     recording.ForEach([&](const ENHMETARECORD* pRecord) {
         if (pRecord->iType == EMR_SETTEXTCOLOR)
-            crText = reinterpret_cast<const EMRSETTEXTCOLOR*>(pRecord)->crColor == 0x0000FF ? 0x0000FF : crText;
+            crText = reinterpret_cast<const EMRSETTEXTCOLOR*>(pRecord)->crColor == 0x0000FF ? 0x0000FF
+                                                                                            : crText;
     });
     EXPECT_EQ(crText, 1u); // its own colour was never set
     for (const COLORREF color : recording.FilledColors())

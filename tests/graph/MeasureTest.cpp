@@ -34,8 +34,8 @@ protected:
         std::vector<TDataPoint> points;
         for (int i = 0; i <= 100; ++i)
             points.push_back({i / 10.0, fLevel});
-        graph.SetData(points.data(), 101, static_cast<int>(graph.m_Curves.size()), 0, 0, true)->m_bVisible =
-            false; // only the measures are to be seen
+        graph.SetData(points.data(), 101, static_cast<int>(graph.m_Curves.size()), 0, 0, true)
+            ->m_bVisible = false; // only the measures are to be seen
     }
     void Store(int nCurve1, int nIndex1, int nCurve2, int nIndex2)
     {

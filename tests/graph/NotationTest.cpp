@@ -26,7 +26,8 @@ protected:
     }
     CPoint PixelOf(double fX, double fY)
     {
-        return {graph.GetXAxis(0)->GetPointForValue({fX, 0}).x, graph.GetYAxis(0)->GetPointForValue({0, fY}).y};
+        return {graph.GetXAxis(0)->GetPointForValue({fX, 0}).x,
+                graph.GetYAxis(0)->GetPointForValue({0, fY}).y};
     }
 };
 
@@ -120,7 +121,8 @@ TEST_F(Notation, ABoxAboveThePlotIsClipped)
     ASSERT_LT(note.m_rcObject.top, graph.m_rcInner.top - 2);
     ASSERT_GT(note.m_rcObject.bottom, graph.m_rcInner.top);
     for (int y = note.m_rcObject.top - 1; y < graph.m_rcInner.top; ++y)
-        EXPECT_EQ(picture.At(PixelOf(10, 10).x, std::max(y, 0)), without.At(PixelOf(10, 10).x, std::max(y, 0)));
+        EXPECT_EQ(picture.At(PixelOf(10, 10).x, std::max(y, 0)),
+                  without.At(PixelOf(10, 10).x, std::max(y, 0)));
     EXPECT_EQ(picture.At(note.m_rcObject.left - 1, graph.m_rcInner.top), 0x000000u); // its frame
 }
 
@@ -155,8 +157,13 @@ TEST_F(Notation, OneWithoutAPixelLeavesThePlotClean)
     const Picture without = Shoot();
     CXGraphDataNotation& note = Insert(5);
     const double inf = std::numeric_limits<double>::infinity();
-    for (const TDataPoint& value : {TDataPoint{1e300, 1e300}, {-1e300, 5}, {5, -1e300}, {5, 1e300},
-                                    {std::nan(""), 5}, {5, -inf}, {3e9, -3e9}}) {
+    for (const TDataPoint& value : {TDataPoint{1e300, 1e300},
+                                    {-1e300, 5},
+                                    {5, -1e300},
+                                    {5, 1e300},
+                                    {std::nan(""), 5},
+                                    {5, -inf},
+                                    {3e9, -3e9}}) {
         note.m_fXVal = value.fXVal;
         note.m_fYVal = value.fYVal;
         note.m_bPositioned = false;
