@@ -20,7 +20,8 @@ if(WIN32)
   target_link_options(vantoplex-flags INTERFACE
     -static -fstack-protector-strong -Wl,--nxcompat,--dynamicbase,--high-entropy-va)
 else()
-  target_compile_options(vantoplex-flags INTERFACE -O1 -g -fno-omit-frame-pointer
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
+  target_compile_options(vantoplex-flags INTERFACE -fno-omit-frame-pointer
     -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_link_options(vantoplex-flags INTERFACE -fsanitize=address,undefined)
 endif()
