@@ -105,6 +105,13 @@ bool CXGraph::Save(const CString& strFile, UINT nFlags)
 
 bool CXGraph::Load(const CString& strFile)
 {
+    const bool read = Read(strFile);
+    HideIncompleteCurves();
+    return read;
+}
+
+bool CXGraph::Read(const CString& strFile)
+{
     try {
         CFile file;
         if (!file.Open(strFile, CFile::modeRead))
@@ -116,6 +123,23 @@ bool CXGraph::Load(const CString& strFile)
     } catch (CException* exception) {
         exception->Delete();
         return false;
+    }
+}
+
+// A file that ends early, or was never whole, may leave curves without their axes or the partner
+// of their fill. Painting one would end the host's process for what the host had no part in; so
+// such curves stay, but unseen.
+void CXGraph::HideIncompleteCurves()
+{
+    const auto inside = [](int nIndex, const auto& list) {
+        return nIndex >= 0 && static_cast<std::size_t>(nIndex) < list.size();
+    };
+    for (CXGraphDataSerie& curve : m_Curves) {
+        const bool partner = !curve.m_bFillBeneath ||
+                             curve.m_nFillCurve == CXGraphDataSerie::kFillToBottom ||
+                             inside(static_cast<short>(curve.m_nFillCurve), m_Curves);
+        if (!partner || !inside(curve.m_nXAxis, m_XAxes) || !inside(curve.m_nYAxis, m_YAxes))
+            curve.m_bVisible = false;
     }
 }
 

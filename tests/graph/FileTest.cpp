@@ -292,6 +292,17 @@ TEST_F(GraphFile, AFailedLoadLeavesAnEmptiedGraphWithWhatWasReadUpToThere)
     EXPECT_TRUE(graph.m_YAxes.empty());
 }
 
+TEST_F(GraphFile, ACurveWithoutItsAxesStaysUnseenSoTheNextFrameIsPainted)
+{
+    TCurve curve;
+    curve.points = {{1, 2}, {3, 4}};
+    EXPECT_FALSE(Load(Flags(2) + CBytes().Add(1).Raw(Bytes(curve)).m_bytes));
+    ASSERT_EQ(graph.m_Curves.size(), 1u);
+    EXPECT_EQ(graph.m_Curves[0].m_nCount, 2);
+    EXPECT_FALSE(graph.m_Curves[0].m_bVisible);
+    Paint();
+}
+
 TEST_F(GraphFile, EachFailureHasItsCause)
 {
     const std::string head = Flags(4) + CBytes().Add(0).Add(1).m_bytes;
