@@ -60,7 +60,8 @@ void ClipTo(CDCEx* pDC, CRect rect, CRgn& region)
 // A file can put axes and curves into the list of objects, where they have no place to be drawn.
 bool IsFreeObject(const CXGraphObject& object)
 {
-    return !object.IsKindOf(RUNTIME_CLASS(CXGraphAxis)) && !object.IsKindOf(RUNTIME_CLASS(CXGraphDataSerie));
+    return !object.IsKindOf(RUNTIME_CLASS(CXGraphAxis)) &&
+           !object.IsKindOf(RUNTIME_CLASS(CXGraphDataSerie));
 }
 
 } // namespace

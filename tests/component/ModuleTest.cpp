@@ -8,10 +8,10 @@
 namespace
 {
 
-class Module : public testing::Test
+class ComModule : public testing::Test
 {
 protected:
-    Module()
+    ComModule()
     {
         CCounted::Reset();
         rows[0] = Row(CLSID_Other);
@@ -50,13 +50,13 @@ void __stdcall Note(DWORD_PTR dw)
 
 } // namespace
 
-TEST_F(Module, InitCallsEveryRow)
+TEST_F(ComModule, InitCallsEveryRow)
 {
     EXPECT_EQ(CCounted::started, 2);
     EXPECT_EQ(module.m_hInstResource, GetModuleHandleW(nullptr));
 }
 
-TEST_F(Module, UnknownClassIsNotAvailable)
+TEST_F(ComModule, UnknownClassIsNotAvailable)
 {
     void* object = reinterpret_cast<void*>(1);
 
@@ -65,7 +65,7 @@ TEST_F(Module, UnknownClassIsNotAvailable)
     EXPECT_EQ(module.GetClassObject(CLSID_Counted, IID_IClassFactory, nullptr), E_POINTER);
 }
 
-TEST_F(Module, ClassObjectIsMadeOnceAndKept)
+TEST_F(ComModule, ClassObjectIsMadeOnceAndKept)
 {
     EXPECT_EQ(rows[1].pCF, nullptr);
 
@@ -77,7 +77,7 @@ TEST_F(Module, ClassObjectIsMadeOnceAndKept)
     EXPECT_EQ(rows[0].pCF, nullptr);
 }
 
-TEST_F(Module, ClassObjectCountsOnlyBeyondTheRowsOwnReference)
+TEST_F(ComModule, ClassObjectCountsOnlyBeyondTheRowsOwnReference)
 {
     CComPtr<IClassFactory> first = Factory();
     EXPECT_EQ(module.GetLockCount(), 1);
@@ -91,7 +91,7 @@ TEST_F(Module, ClassObjectCountsOnlyBeyondTheRowsOwnReference)
     EXPECT_NE(rows[1].pCF, nullptr);
 }
 
-TEST_F(Module, ClassObjectThatCannotAnswerIsStillKept)
+TEST_F(ComModule, ClassObjectThatCannotAnswerIsStillKept)
 {
     void* object = nullptr;
 
@@ -101,7 +101,7 @@ TEST_F(Module, ClassObjectThatCannotAnswerIsStillKept)
     EXPECT_EQ(module.GetLockCount(), 0);
 }
 
-TEST_F(Module, ClassObjectThatCannotBeMadeIsTriedAgain)
+TEST_F(ComModule, ClassObjectThatCannotBeMadeIsTriedAgain)
 {
     const auto works = rows[1].pfnGetClassObject;
     rows[1].pfnGetClassObject = [](void*, REFIID, void** ppv) -> HRESULT {
@@ -116,7 +116,7 @@ TEST_F(Module, ClassObjectThatCannotBeMadeIsTriedAgain)
     EXPECT_NE(Factory().p, nullptr);
 }
 
-TEST_F(Module, ThreadsThatAskAtOnceGetOneClassObject)
+TEST_F(ComModule, ThreadsThatAskAtOnceGetOneClassObject)
 {
     constexpr int count = 8;
     IUnknown* found[count] = {};
@@ -137,7 +137,7 @@ TEST_F(Module, ThreadsThatAskAtOnceGetOneClassObject)
     EXPECT_EQ(module.GetLockCount(), 0);
 }
 
-TEST_F(Module, LockServerCounts)
+TEST_F(ComModule, LockServerCounts)
 {
     const CComPtr<IClassFactory> factory = Factory();
     const LONG before = module.GetLockCount();
@@ -148,7 +148,7 @@ TEST_F(Module, LockServerCounts)
     EXPECT_EQ(module.GetLockCount(), before);
 }
 
-TEST_F(Module, ClassObjectMakesInstances)
+TEST_F(ComModule, ClassObjectMakesInstances)
 {
     const CComPtr<IClassFactory> factory = Factory();
     CComPtr<IPersist> persist;
@@ -159,7 +159,7 @@ TEST_F(Module, ClassObjectMakesInstances)
     EXPECT_EQ(factory->CreateInstance(nullptr, __uuidof(IPersist), nullptr), E_POINTER);
 }
 
-TEST_F(Module, OuterMayAskForItsUnknownAlone)
+TEST_F(ComModule, OuterMayAskForItsUnknownAlone)
 {
     const CComPtr<IClassFactory> factory = Factory();
     Outer outer;
@@ -172,7 +172,7 @@ TEST_F(Module, OuterMayAskForItsUnknownAlone)
     EXPECT_EQ(factory->CreateInstance(&outer, IID_IUnknown, reinterpret_cast<void**>(&inner)), S_OK);
 }
 
-TEST_F(Module, TermReleasesClassObjectsAndCallsEveryRow)
+TEST_F(ComModule, TermReleasesClassObjectsAndCallsEveryRow)
 {
     Factory();
 
@@ -183,7 +183,7 @@ TEST_F(Module, TermReleasesClassObjectsAndCallsEveryRow)
     EXPECT_EQ(module.cbSize, 0U);
 }
 
-TEST_F(Module, SecondTermDoesNothing)
+TEST_F(ComModule, SecondTermDoesNothing)
 {
     terminated.clear();
     module.AddTermFunc(&Note, 1);
@@ -195,7 +195,7 @@ TEST_F(Module, SecondTermDoesNothing)
     EXPECT_EQ(CCounted::stopped, 2);
 }
 
-TEST_F(Module, TerminationFunctionsRunLastFirst)
+TEST_F(ComModule, TerminationFunctionsRunLastFirst)
 {
     terminated.clear();
     EXPECT_EQ(module.AddTermFunc(&Note, 1), S_OK);
@@ -206,7 +206,7 @@ TEST_F(Module, TerminationFunctionsRunLastFirst)
     EXPECT_EQ(terminated, (std::vector<DWORD_PTR>{2, 1}));
 }
 
-TEST_F(Module, CallsFailWithoutTheModulesSections)
+TEST_F(ComModule, CallsFailWithoutTheModulesSections)
 {
     module.Term();
     void* object = nullptr;
@@ -221,7 +221,7 @@ TEST_F(Module, CallsFailWithoutTheModulesSections)
     EXPECT_EQ(module.GetGITPtr(&table), E_FAIL);
 }
 
-TEST_F(Module, ObjectsMayOutliveTheTermination)
+TEST_F(ComModule, ObjectsMayOutliveTheTermination)
 {
     CComPtr<IPersist> persist;
     ASSERT_EQ(CCounted::CreateInstance(&persist), S_OK);
@@ -233,7 +233,7 @@ TEST_F(Module, ObjectsMayOutliveTheTermination)
     EXPECT_EQ(module.GetLockCount(), 0);
 }
 
-TEST_F(Module, InterfaceTableIsHeldUntilTheEnd)
+TEST_F(ComModule, InterfaceTableIsHeldUntilTheEnd)
 {
     ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
     {
@@ -248,7 +248,7 @@ TEST_F(Module, InterfaceTableIsHeldUntilTheEnd)
     CoUninitialize();
 }
 
-TEST_F(Module, RegistrationWalksTheTableAndStopsAtTheFirstFailure)
+TEST_F(ComModule, RegistrationWalksTheTableAndStopsAtTheFirstFailure)
 {
     EXPECT_EQ(module.RegisterServer(FALSE), S_OK);
     EXPECT_EQ(CCounted::registered, 2);
@@ -260,18 +260,18 @@ TEST_F(Module, RegistrationWalksTheTableAndStopsAtTheFirstFailure)
     EXPECT_EQ(CCounted::registered, 3);
 }
 
-TEST_F(Module, OneClassCanBeRegisteredAlone)
+TEST_F(ComModule, OneClassCanBeRegisteredAlone)
 {
     EXPECT_EQ(module.RegisterServer(FALSE, &CLSID_Other), S_OK);
     EXPECT_EQ(CCounted::registered, 1);
 }
 
-TEST_F(Module, ScriptThatIsMissingIsAFailure)
+TEST_F(ComModule, ScriptThatIsMissingIsAFailure)
 {
     EXPECT_TRUE(FAILED(module.UpdateRegistryFromResource(54321, TRUE)));
 }
 
-TEST_F(Module, PathOfAModule)
+TEST_F(ComModule, PathOfAModule)
 {
     const std::wstring path = AtlGetModulePath(nullptr);
 

@@ -45,8 +45,8 @@ public:
             const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
             if (pText->emrtext.nChars == 0)
                 return; // a filled rectangle
-            const auto* pUnits = reinterpret_cast<const wchar_t*>(reinterpret_cast<const BYTE*>(pRecord) +
-                                                                  pText->emrtext.offString);
+            const auto* pUnits = reinterpret_cast<const wchar_t*>(
+                reinterpret_cast<const BYTE*>(pRecord) + pText->emrtext.offString);
             texts.push_back({std::wstring(pUnits, pText->emrtext.nChars),
                              CPoint(pText->emrtext.ptlReference.x, pText->emrtext.ptlReference.y),
                              CRect(pText->rclBounds.left, pText->rclBounds.top, pText->rclBounds.right,

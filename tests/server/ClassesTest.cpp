@@ -235,10 +235,12 @@ TEST_F(Classes, ManyInstancesComeAndGo)
 
 TEST(Module, LoadsAndUnloadsAgain)
 {
+    // Other tests of the program may hold it for good.
+    const HMODULE held = GetModuleHandleW(L"Vantoplex.dll");
     for (int round = 0; round < 5; ++round) {
         const LoadedServer server;
         const auto object = server.Make<SGraphObject, ISGraphObject>();
         EXPECT_NE(object.p, nullptr);
     }
-    EXPECT_EQ(GetModuleHandleW(L"Vantoplex.dll"), nullptr);
+    EXPECT_EQ(GetModuleHandleW(L"Vantoplex.dll"), held);
 }

@@ -17,7 +17,7 @@ public:
         WNDCLASSW looks{};
         looks.lpfnWndProc = &Procedure;
         looks.hInstance = ::GetModuleHandleW(nullptr);
-        looks.lpszClassName = L"VantoplexTestHost";
+        looks.lpszClassName = L"FrameworkTestHost";
         ::RegisterClassW(&looks);
         m_hWnd = ::CreateWindowExW(0, looks.lpszClassName, L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50,
                                    50, 400, 300, nullptr, nullptr, looks.hInstance, this);
