@@ -41,7 +41,7 @@ BITMAPINFOHEADER HeaderOf(const Capture& capture)
     header.biHeight = -capture.Height();
     header.biPlanes = 1;
     header.biBitCount = 24;
-    header.biSizeImage = static_cast<DWORD>(capture.Stride() * capture.Height());
+    header.biSizeImage = static_cast<DWORD>(capture.Stride()) * static_cast<DWORD>(capture.Height());
     return header;
 }
 

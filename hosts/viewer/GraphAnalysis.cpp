@@ -78,7 +78,7 @@ bool AddAnalysis(ISGraph& graph, int curve, Analysis analysis, int parameter)
 std::u16string NameOfAnalysis(std::u16string_view curve, Analysis analysis, int parameter)
 {
     const std::u16string number = ToText(static_cast<std::size_t>(parameter));
-    const std::u16string name(curve);
+    std::u16string name(curve);
     switch (analysis) {
     case Analysis::LinearTrend:
         return name + u" linear trend";
@@ -106,7 +106,7 @@ std::u16string NameOfCurve(ISGraph& graph, int curve)
     if (serie->GetLabel(&label) != S_OK || !label) {
         return {};
     }
-    const std::u16string text = FromWide({label, SysStringLen(label)});
+    std::u16string text = FromWide({label, SysStringLen(label)});
     SysFreeString(label);
     return text;
 }

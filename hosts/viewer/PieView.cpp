@@ -66,7 +66,7 @@ std::u16string PieView::SelectedName()
     if (!item || m_pie->GetElementName(item, &name) != S_OK || !name) {
         return {};
     }
-    const std::u16string text = FromWide({name, SysStringLen(name)});
+    std::u16string text = FromWide({name, SysStringLen(name)});
     SysFreeString(name);
     return text;
 }

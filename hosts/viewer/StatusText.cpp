@@ -74,7 +74,7 @@ std::u16string DateText(double oleDate)
     std::u16string text = Format<48>("%04d-%02d-%02d", date.year, date.month, date.day);
     // The fraction counts away from zero: it is the time of day also before 1899-12-30.
     const int seconds =
-        std::min(static_cast<int>(std::fabs(oleDate - std::trunc(oleDate)) * 86400 + 0.5), 86399);
+        std::min(static_cast<int>(std::lround(std::fabs(oleDate - std::trunc(oleDate)) * 86400)), 86399);
     if (seconds > 0) {
         text += Format<48>(" %02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
     }

@@ -2,4 +2,5 @@
 
 #include <windows.h>
 
-#include "vantoplex_i.c"
+// The interface compiler writes them as C.
+#include "vantoplex_i.c" // NOLINT(bugprone-suspicious-include)

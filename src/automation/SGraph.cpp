@@ -195,7 +195,7 @@ STDMETHODIMP CSGraph::Create(BSTR, RECT* rect, wireHWND hWnd, UINT nID)
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (m_pNative != nullptr || rect == nullptr)
         return S_FALSE;
-    m_pNative = new CXGraph;
+    m_pNative = std::make_unique<CXGraph>().release();
     FreeGraphsWithModule();
     CWnd* pParent = CWnd::FromHandle(reinterpret_cast<HWND>(hWnd));
     // A graph without a window is a graph as well: the result says nothing of the window.
