@@ -34,7 +34,7 @@ CXGraphDataSerie::CXGraphDataSerie(const CXGraphDataSerie& other)
 }
 
 CXGraphDataSerie::CXGraphDataSerie(CXGraphDataSerie&& other) noexcept
-    : CXGraphObject(other), TCurveFields(std::move(other)),
+    : CXGraphObject(other), TCurveFields(static_cast<TCurveFields&&>(other)),
       m_pPrivateCopy(std::exchange(other.m_pPrivateCopy, nullptr)), m_bAscending(other.m_bAscending)
 {
     other.m_pData = nullptr;
@@ -54,7 +54,7 @@ CXGraphDataSerie& CXGraphDataSerie::operator=(CXGraphDataSerie&& other) noexcept
     if (this != &other) {
         FreeData();
         CXGraphObject::operator=(other);
-        TCurveFields::operator=(std::move(other));
+        TCurveFields::operator=(static_cast<TCurveFields&&>(other));
         m_pPrivateCopy = std::exchange(other.m_pPrivateCopy, nullptr);
         m_bAscending = other.m_bAscending;
         other.m_pData = nullptr;
