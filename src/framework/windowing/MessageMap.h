@@ -207,6 +207,7 @@ bool Thunk(CCmdTarget* target, const AFX_MSG_ARGS& args)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
+#define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
 // A control's own notification, seen by the control before its parent. The EX form's handler
 // answers FALSE to let the parent have it too.
 #define ON_CONTROL_REFLECT(code, memberFxn)                                                             \
