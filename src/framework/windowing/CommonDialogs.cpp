@@ -3,6 +3,7 @@
 #include <array>
 
 #include "framework/windowing/App.h"
+#include "framework/windowing/ModalOwner.h"
 #include "framework/windowing/Window.h"
 
 namespace
@@ -11,6 +12,12 @@ namespace
 HWND OwnerOf(const CWnd* parent)
 {
     return AfxGetSafeOwner(parent ? parent->m_hWnd : nullptr);
+}
+
+// The platform disables the owner, but not what owns that.
+HWND BehindOwner(HWND owner)
+{
+    return owner ? ::GetWindow(owner, GW_OWNER) : nullptr;
 }
 
 } // namespace
@@ -30,6 +37,7 @@ INT_PTR CFontDialog::DoModal()
 {
     m_cf.hwndOwner = OwnerOf(m_pParentWnd);
     m_cf.lpLogFont = &m_lf;
+    const CModalOwner disabled(BehindOwner(m_cf.hwndOwner));
     if (!::ChooseFontW(&m_cf))
         return IDCANCEL;
     if (m_pInitial)
@@ -51,6 +59,7 @@ INT_PTR CColorDialog::DoModal()
 {
     m_cc.hwndOwner = OwnerOf(m_pParentWnd);
     m_cc.lpCustColors = GetSavedCustomColors();
+    const CModalOwner disabled(BehindOwner(m_cc.hwndOwner));
     return ::ChooseColorW(&m_cc) ? IDOK : IDCANCEL;
 }
 

@@ -1,7 +1,6 @@
 #include "framework/windowing/Dialog.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include <commctrl.h>
@@ -9,6 +8,7 @@
 #include "framework/windowing/App.h"
 #include "framework/windowing/DialogTemplate.h"
 #include "framework/windowing/Exceptions.h"
+#include "framework/windowing/ModalOwner.h"
 #include "framework/windowing/ModuleState.h"
 #include "framework/windowing/WindowEntry.h"
 
@@ -24,57 +24,12 @@ END_MESSAGE_MAP()
 namespace
 {
 
-HWND TopLevelOf(HWND hWnd) noexcept
-{
-    return hWnd ? ::GetAncestor(hWnd, GA_ROOTOWNER) : nullptr;
-}
-
-// The windows that a modal dialog keeps from input: its owner, and the top-level window that
-// the owner itself belongs to. What was disabled before stays so.
-class CDisabledOwner
-{
-public:
-    explicit CDisabledOwner(HWND owner) noexcept
-    {
-        const HWND top = TopLevelOf(owner);
-        Disable(m_windows[0], owner);
-        if (top != owner)
-            Disable(m_windows[1], top);
-    }
-    CDisabledOwner(const CDisabledOwner&) = delete;
-    CDisabledOwner& operator=(const CDisabledOwner&) = delete;
-    ~CDisabledOwner() { Enable(); }
-
-    void Enable() noexcept
-    {
-        for (HWND& window : m_windows) {
-            if (window && ::IsWindow(window))
-                ::EnableWindow(window, TRUE);
-            window = nullptr;
-        }
-    }
-
-private:
-    static void Disable(HWND& place, HWND window) noexcept
-    {
-        if (!window || window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
-            return;
-        ::EnableWindow(window, FALSE);
-        place = window;
-    }
-
-    std::array<HWND, 2> m_windows = {};
-};
-
 // The owner can take the activation only before the dialog goes: the system gives it to
 // another program's window otherwise.
 class CDialogEnd
 {
 public:
-    CDialogEnd(CDialog& dialog, HWND owner) noexcept
-        : m_dialog(dialog), m_owner(owner), m_disabled(owner)
-    {
-    }
+    CDialogEnd(CDialog& dialog, HWND owner) : m_dialog(dialog), m_owner(owner), m_disabled(owner) {}
     CDialogEnd(const CDialogEnd&) = delete;
     CDialogEnd& operator=(const CDialogEnd&) = delete;
     ~CDialogEnd()
@@ -89,7 +44,7 @@ public:
 private:
     CDialog& m_dialog;
     HWND m_owner;
-    CDisabledOwner m_disabled;
+    CModalOwner m_disabled;
 };
 
 // The classes of the common controls exist for those who ask, once for each version of them.

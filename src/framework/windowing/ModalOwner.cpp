@@ -1,0 +1,20 @@
+#include "framework/windowing/ModalOwner.h"
+
+CModalOwner::CModalOwner(HWND hOwner)
+{
+    for (HWND window = hOwner; window; window = ::GetWindow(window, GW_OWNER)) {
+        if (window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
+            continue;
+        m_disabled.push_back(window);
+        ::EnableWindow(window, FALSE);
+    }
+}
+
+void CModalOwner::Enable() noexcept
+{
+    for (const HWND window : m_disabled) {
+        if (::IsWindow(window))
+            ::EnableWindow(window, TRUE);
+    }
+    m_disabled.clear();
+}
