@@ -1,0 +1,80 @@
+#pragma once
+// An XY graph in a host's window: a hand for its mouse and keys.
+
+#include "Host.h"
+#include "Screen.h"
+
+#include <optional>
+#include <vector>
+
+namespace Command
+{
+enum : WPARAM {
+    noOp = 40000,
+    insertLabel = 40001,
+    zoom = 40002,
+    resetZoom = 40003,
+    pan = 40004,
+    properties = 40005,
+    print = 40007,
+    linearTrend = 40009,
+    cubicTrend = 40010,
+    cursor = 40011,
+    passOn = 40012,
+    zoomBack = 40013,
+    edit = 40014,
+    measure = 40015
+};
+} // namespace Command
+
+class Graph
+{
+public:
+    static constexpr COLORREF innerColor = 0x40E0F0; // nothing else in a frame has it
+
+    Graph(const Server& server, const HostWindow& host, const RECT& place);
+
+    ISGraph* operator->() const { return m_graph.Get(); }
+    [[nodiscard]] HWND Window() const;
+    // What stands for the native object in notifications.
+    [[nodiscard]] LPARAM Half() const { return m_half; }
+
+    Holder<ISGraphDataSerie> Plot(const std::vector<TDataPoint>& points, int nCurve, int nXAxis = 0,
+                                  int nYAxis = 0);
+    [[nodiscard]] Holder<ISGraphAxis> XAxis(int nAxis = 0) const;
+    [[nodiscard]] Holder<ISGraphAxis> YAxis(int nAxis = 0) const;
+    [[nodiscard]] Holder<ISGraphDataSerie> Curve(int nCurve) const;
+    [[nodiscard]] int XAxisCount() const;
+    [[nodiscard]] int YAxisCount() const;
+    [[nodiscard]] int CurveCount() const;
+
+    void Frame() const; // paints now
+    LRESULT Mouse(UINT message, POINT at, WPARAM nFlags = 0) const;
+    void Hover(POINT at) const;
+    void Press(POINT at) const;
+    void DragTo(POINT at) const;
+    void Release(POINT at) const;
+    void Click(POINT at) const;
+    void DoubleClick(POINT at) const;
+    void RightClick(POINT at) const;
+    // A press with a drag and a release waiting in the queue, for loops of the graph's own.
+    void DragInLoop(POINT from, POINT to) const;
+    void Wheel(int nDelta, WPARAM nFlags = 0) const;
+    void Key(WPARAM nKey) const;
+    void PostKey(WPARAM nKey) const; // by way of the host's message loop
+    void Send(WPARAM nCommand) const;
+
+    // Places, found as a person finds them. The plot's rectangle is taken from the screen.
+    [[nodiscard]] RECT Inner() const;
+    [[nodiscard]] POINT At(double x, double y, int nXAxis = 0, int nYAxis = 0) const;
+    [[nodiscard]] static POINT Middle(const RECT& rect);
+    [[nodiscard]] static RECT RectOf(ISGraphObject* pObject);
+
+private:
+    void PressAndTake(POINT from, std::optional<POINT> to) const;
+
+    Holder<ISGraph> m_graph;
+    LPARAM m_half = 0;
+};
+
+[[nodiscard]] double ValueAt(ISGraphAxis* pAxis, int nPos);
