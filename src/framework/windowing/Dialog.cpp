@@ -111,13 +111,16 @@ INT_PTR CDialog::DoModal()
 
 void CDialog::RunModalLoop()
 {
+    if (m_bRunning && !(GetStyle() & WS_VISIBLE)) {
+        ShowWindow(SW_SHOWNORMAL);
+        UpdateWindow();
+    }
     bool idle = true;
     while (m_bRunning) {
         MSG next;
         if (idle && !::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE)) {
             idle = false;
-            if (m_bRunning) // a message sent from another thread comes in by the look as well
-                ShowWhenIdle();
+            NotifyIdle();
             continue;
         }
         if (!AfxPumpMessage())
@@ -126,12 +129,9 @@ void CDialog::RunModalLoop()
     }
 }
 
-void CDialog::ShowWhenIdle()
+void CDialog::NotifyIdle() const
 {
-    if (!(GetStyle() & WS_VISIBLE)) {
-        ShowWindow(SW_SHOWNORMAL);
-        UpdateWindow();
-    }
+    // A message sent from another thread comes in by the look at the queue as well.
     const HWND owner = m_hWnd ? ::GetWindow(m_hWnd, GW_OWNER) : nullptr;
     if (owner && !(GetStyle() & DS_NOIDLEMSG))
         ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));

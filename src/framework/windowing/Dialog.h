@@ -49,7 +49,8 @@ protected:
 private:
     [[nodiscard]] bool CreateIndirect(UINT nIDTemplate, HWND hWndParent);
     void RunModalLoop();
-    void ShowWhenIdle();
+    // The owner learns that the dialog waits for messages.
+    void NotifyIdle() const;
     // Over the middle of its owner, unless the template or OnInitDialog has placed it.
     void CenterOnOwner() const;
 

@@ -31,10 +31,11 @@ COleDateTime::COleDateTime(int nYear, int nMonth, int nDay, int nHour, int nMin,
 void COleDateTime::Set(SYSTEMTIME time) noexcept
 {
     time.wMilliseconds = 0;
-    // The platform takes days past the end of a month as days of the next one.
-    FILETIME checked;
-    const bool known =
-        ::SystemTimeToFileTime(&time, &checked) && ::SystemTimeToVariantTime(&time, &m_dt);
+    // The platform takes a day past the end of a month as one of the next month.
+    SYSTEMTIME back{};
+    const bool known = ::SystemTimeToVariantTime(&time, &m_dt) &&
+                       ::VariantTimeToSystemTime(m_dt, &back) && back.wDay == time.wDay &&
+                       back.wMonth == time.wMonth;
     m_status = known ? valid : invalid;
     if (!known)
         m_dt = 0.0;
