@@ -111,7 +111,8 @@ void CXGraph::ClipToCursor(CDCEx* pDC)
 {
     pDC->IntersectClipRect(&m_rcInner);
     const bool redrawn = (m_nCursorFlags & XGC_LEGEND) != 0;
-    for (CXGraphObject* object : ListObjects()) {
+    for (const TObjectRef& entry : ListObjects()) {
+        CXGraphObject* object = entry.pObject;
         if (object->m_bVisible && !(redrawn && object == &m_CursorLabel))
             ExcludeObject(pDC, object);
     }

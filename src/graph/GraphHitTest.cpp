@@ -51,17 +51,18 @@ bool CGraphHitTest::TestObjects()
 
 void CGraphHitTest::ClickObjects()
 {
-    for (CXGraphObject* object : m_Graph.ListObjects()) {
+    for (const TObjectRef& entry : m_Graph.ListObjects()) {
         // An editor that opens or closes tells the host, which may have removed this one.
-        if (!m_Graph.Owns(object))
+        if (!m_Graph.Owns(entry))
             continue;
+        CXGraphObject* object = entry.pObject;
         object->m_bSelected = object->m_bVisible && object->m_rcObject.PtInRect(m_Point);
         if (object->m_bSelected) {
             if (m_bDblClick) {
                 m_bHandled = true;
                 m_bContinue = false;
                 object->BeginEdit();
-                if (!m_Graph.Owns(object))
+                if (!m_Graph.Owns(entry))
                     continue;
             }
             if (!object->m_bEditing && m_Graph.m_pTracker == nullptr) {
@@ -74,7 +75,7 @@ void CGraphHitTest::ClickObjects()
         }
         if (object->m_bEditing)
             object->EndEdit();
-        if (m_Graph.Owns(object) && object->m_bSizing) {
+        if (m_Graph.Owns(entry) && object->m_bSizing) {
             m_Graph.m_pTracker = nullptr;
             object->EndSize();
         }

@@ -74,9 +74,10 @@ BOOL CXGraph::PreTranslateMessage(MSG* pMsg)
 void CXGraph::DeleteCurrentObject()
 {
     CXGraphObject* object = m_pCurrentObject;
-    if (!Owns(object) || !object->m_bSizing || object == &m_CursorLabel)
+    const POSITION place = m_Objects.Find(object);
+    if (place == nullptr || !object->m_bSizing || object == &m_CursorLabel)
         return;
-    m_Objects.RemoveAt(m_Objects.Find(object));
+    m_Objects.RemoveAt(place);
     m_pCurrentObject = nullptr;
     m_pTracker = nullptr;
     delete object;

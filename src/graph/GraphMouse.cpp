@@ -48,10 +48,11 @@ void CXGraph::OnLButtonDown(UINT, CPoint point)
 
 void CXGraph::PressObjects(CPoint point)
 {
-    for (CXGraphObject* object : ListObjects()) {
+    for (const TObjectRef& entry : ListObjects()) {
         // While an earlier one was tracked, messages ran and may have removed this one.
-        if (!Owns(object))
+        if (!Owns(entry))
             continue;
+        CXGraphObject* object = entry.pObject;
         if (object->m_rcObject.PtInRect(point))
             m_pCurrentObject = object;
         if (object->m_bSizing && object->m_Tracker.HitTest(point) != CRectTracker::hitNothing)
@@ -61,11 +62,12 @@ void CXGraph::PressObjects(CPoint point)
 
 void CXGraph::TrackObject(CXGraphObject* object, CPoint point)
 {
+    const TObjectRef self(object);
     ReleaseCapture();
     // Messages run while it drags, and may remove the object: a copy of its tracker drags.
     CRectTracker tracker = object->m_Tracker;
     const bool moved = tracker.Track(this, point, FALSE, nullptr) != FALSE;
-    if (!moved || !Owns(object))
+    if (!moved || !Owns(self))
         return;
     object->m_Tracker = tracker;
     if (object->m_bCanMove && object->m_bCanResize) {
@@ -74,17 +76,17 @@ void CXGraph::TrackObject(CXGraphObject* object, CPoint point)
     }
 }
 
-std::vector<CXGraphObject*> CXGraph::ListObjects() const
+std::vector<TObjectRef> CXGraph::ListObjects() const
 {
-    std::vector<CXGraphObject*> objects;
+    std::vector<TObjectRef> objects;
     for (POSITION place = m_Objects.GetHeadPosition(); place != nullptr;)
-        objects.push_back(static_cast<CXGraphObject*>(m_Objects.GetNext(place)));
+        objects.emplace_back(static_cast<CXGraphObject*>(m_Objects.GetNext(place)));
     return objects;
 }
 
-bool CXGraph::Owns(const CXGraphObject* object) const
+bool CXGraph::Owns(const TObjectRef& entry) const
 {
-    return object != nullptr && m_Objects.Find(object) != nullptr;
+    return m_Objects.Find(entry.pObject) != nullptr && entry.pObject->m_nIdentity == entry.nIdentity;
 }
 
 void CXGraph::OnLButtonUp(UINT, CPoint point)

@@ -220,8 +220,8 @@ public:
     CXGraphAxis& YAxisOf(const CXGraphDataSerie& curve) { return *GetYAxis(curve.m_nYAxis); }
 
     // The objects as they stand, for walks in which one of them may go.
-    [[nodiscard]] std::vector<CXGraphObject*> ListObjects() const;
-    [[nodiscard]] bool Owns(const CXGraphObject* pObject) const; // false for null
+    [[nodiscard]] std::vector<TObjectRef> ListObjects() const;
+    [[nodiscard]] bool Owns(const TObjectRef& entry) const;
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

@@ -157,12 +157,13 @@ void CXGraphLabel::InvokeProperties()
     POINT cursor = {};
     ::GetCursorPos(&cursor);
     CXGraph* pGraph = m_pGraph;
+    const TObjectRef self(this);
     const HMENU hMenu = ::CreatePopupMenu();
     ::AppendMenuW(hMenu, MF_STRING, kPropertiesItem, L"Properties");
     const UINT nChosen = static_cast<UINT>(::TrackPopupMenu(
         hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0, pGraph->m_hWnd, nullptr));
     ::DestroyMenu(hMenu);
     // Messages ran while the menu was open, and may have removed this label.
-    if (nChosen == kPropertiesItem && pGraph->m_Objects.Find(this) != nullptr)
+    if (nChosen == kPropertiesItem && pGraph->Owns(self))
         ShowLabelProperties(*this);
 }

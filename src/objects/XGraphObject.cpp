@@ -1,7 +1,20 @@
 #include "objects/XGraphObject.h"
 
+#include <atomic>
+
 IMPLEMENT_SERIAL(CXGraphObject, CObject, 1)
 
+namespace
+{
+// Graphs live on any threads of the host.
+std::uint64_t NextIdentity() noexcept
+{
+    static std::atomic<std::uint64_t> last = 0;
+    return ++last;
+}
+} // namespace
+
+CXGraphObject::CXGraphObject() : m_nIdentity(NextIdentity()) {}
 CXGraphObject::CXGraphObject(const CXGraphObject& other) = default;
 CXGraphObject& CXGraphObject::operator=(const CXGraphObject& other) = default;
 CXGraphObject::~CXGraphObject() = default;

@@ -11,6 +11,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 class CDCEx;
 class CXGraph;
 
@@ -19,7 +21,7 @@ class CXGraphObject : public CObject
     DECLARE_SERIAL(CXGraphObject)
 
 public:
-    CXGraphObject() = default;
+    CXGraphObject();
     CXGraphObject(const CXGraphObject& other);
     CXGraphObject& operator=(const CXGraphObject& other);
     ~CXGraphObject() override;
@@ -35,6 +37,9 @@ public:
     COLORREF m_crColor = 0;
     CXGraph* m_pGraph = nullptr; // the owner; not owned, never stored
     CRectTracker m_Tracker;
+    // Unlike an address, never another object's later on. A copy keeps it, since the graph's
+    // vectors move their elements by copying them.
+    std::uint64_t m_nIdentity;
 
     // 27 bytes: seven flags, m_rcObject, m_crColor. A short rectangle ends in the
     // archive exception for the end of the file.
@@ -45,4 +50,13 @@ public:
     virtual void BeginSize();
     virtual void EndSize();
     virtual void InvokeProperties();
+};
+
+// An object as it was met, for the time while messages run: it may have been deleted since, and
+// its address may be that of another one. CXGraph::Owns tells.
+struct TObjectRef {
+    explicit TObjectRef(CXGraphObject* object) : pObject(object), nIdentity(object->m_nIdentity) {}
+
+    CXGraphObject* pObject;
+    std::uint64_t nIdentity;
 };

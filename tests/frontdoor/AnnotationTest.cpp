@@ -3,6 +3,7 @@
 #include "GraphHost.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -26,10 +27,12 @@ public:
         Current() = nullptr;
     }
 
+    std::function<void()> m_whileOpen; // runs before the choice
     int m_nItems = 0;
     UINT m_nId = 0;
     std::wstring m_text;
     std::wstring m_dialog; // the caption of what the choice opened
+    int m_nDialogs = 0;
 
 private:
     static MenuWatch*& Current()
@@ -49,6 +52,8 @@ private:
             wchar_t text[64] = {};
             ::GetMenuStringW(hMenu, 0, text, 64, MF_BYPOSITION);
             m_text = text;
+            if (m_whileOpen)
+                m_whileOpen();
             if (m_bChoose) {
                 ::PostMessageW(hMenuWindow, WM_KEYDOWN, VK_DOWN, 0);
                 ::PostMessageW(hMenuWindow, WM_KEYDOWN, VK_RETURN, 0);
@@ -64,6 +69,7 @@ private:
             wchar_t caption[64] = {};
             ::GetWindowTextW(hActive, caption, 64);
             m_dialog = caption;
+            ++m_nDialogs;
             ::PostMessageW(hActive, WM_COMMAND, IDCANCEL, 0);
         }
     }
@@ -155,9 +161,26 @@ TEST_F(FrontDoorAnnotation, ChoosingThePopupsItemTellsNobodyAndEnds)
     MenuWatch watch(true); // cancels whatever the choice opens
     RightClick(150, 125);
     EXPECT_EQ(watch.m_nItems, 1);
+    EXPECT_GT(watch.m_nDialogs, 0);
     EXPECT_FALSE(WasTold(XG_RBUTTONUP));
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
     EXPECT_EQ(LabelText(), L"old text");
+}
+
+TEST_F(FrontDoorAnnotation, ThePropertiesOfALabelThatWentMeanwhileAreNotShown)
+{
+    Click(150, 125);
+    MenuWatch watch(true);
+    watch.m_whileOpen = [&] {
+        label.Release();
+        graph->ResetAll();
+        RECT rect = {100, 100, 200, 150};
+        for (int i = 0; i < 20; ++i) // one of them takes the freed memory
+            graph->InsertLabel(Text(L"new"), &rect, nullptr);
+    };
+    RightClick(150, 125);
+    EXPECT_EQ(watch.m_nItems, 1);
+    EXPECT_EQ(watch.m_nDialogs, 0);
 }
 
 TEST_F(FrontDoorAnnotation, AClickShowsTheTrackerAndDeleteRemovesTheLabel)

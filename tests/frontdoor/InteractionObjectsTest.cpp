@@ -248,6 +248,25 @@ TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheFrameIsDragged)
     EXPECT_FALSE(IsShown());
 }
 
+TEST_F(InteractionObjects, AnObjectThatTakesTheMemoryOfTheDraggedOneStaysWhereItIs)
+{
+    Click(kInside);
+    constexpr RECT kOther = {10, 10, 60, 60};
+    std::vector<Holder<ISGraphLabel>> others;
+    OnceInALoop([&] {
+        label.Release();
+        graph->ResetAll();
+        for (int i = 0; i < 20; ++i)
+            others.push_back(AddLabel(kOther));
+        ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(150, 90));
+        ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(150, 90));
+    });
+    Press(kInside);
+    EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
+    for (const auto& other : others)
+        ExpectRect(RectOf(other.Get()), kOther);
+}
+
 TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheFrameIsDragged)
 {
     Click(kInside);

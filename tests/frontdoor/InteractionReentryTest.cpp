@@ -68,6 +68,24 @@ TEST_F(InteractionReentry, AHostMayResetEverythingWhenAnEditorTakesTheFocus)
     Click({100, 60});
 }
 
+TEST_F(InteractionReentry, AnObjectThatTakesTheMemoryOfAnEditedOneIsNotFramed)
+{
+    auto label = AddLabel({80, 40, 180, 110});
+    Click({100, 60});
+    ::SetFocus(host.m_hWnd);
+    OnMessage(WM_KILLFOCUS, [&] {
+        label.Release();
+        graph->ResetAll();
+        for (int i = 0; i < 20; ++i)
+            AddLabel({200, 100, 260, 160}); // away from the mouse
+    });
+    Mouse(WM_LBUTTONDBLCLK, {100, 60}, MK_LBUTTON);
+    EXPECT_TRUE(HasRun());
+    const Picture picture = Shoot();
+    EXPECT_NE(picture.At(199, 99), 0u) << "a handle at the corner";
+    EXPECT_EQ(picture.At(200, 100), 0u) << "the border";
+}
+
 TEST_F(InteractionReentry, AHostMayDestroyTheWindowWhenAnEditorTakesTheFocus)
 {
     auto label = AddLabel({80, 40, 180, 110});
