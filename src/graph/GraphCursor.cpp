@@ -5,7 +5,6 @@
 #include "graph/CursorText.h"
 #include "graph/PointSearch.h"
 #include "graph/XGraph.h"
-#include "objects/XGraphDataNotation.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -27,24 +26,6 @@ void DrawBox(CDCEx* pDC, CPoint point, int half)
     pDC->Rectangle(x - half, y - half, x + half + 1, y + half + 1);
 }
 
-// What the object hides of the cursor, which the frame draws before it.
-void ExcludeObject(CDCEx* pDC, CXGraphObject* object)
-{
-    if (object->m_bSizing) {
-        CRect tracker;
-        object->m_Tracker.GetTrueRect(&tracker);
-        pDC->ExcludeClipRect(&tracker);
-    }
-    if (const auto* notation = DYNAMIC_DOWNCAST(CXGraphDataNotation, object)) {
-        for (const CRect& part : notation->GetParts())
-            pDC->ExcludeClipRect(&part);
-        return;
-    }
-    const auto* label = DYNAMIC_DOWNCAST(CXGraphLabel, object);
-    if (label == nullptr || !label->m_bTransparent)
-        pDC->ExcludeClipRect(&object->m_rcObject);
-}
-
 } // namespace
 
 void CXGraph::DrawCursor(CDCEx* pDC)
@@ -54,10 +35,8 @@ void CXGraph::DrawCursor(CDCEx* pDC)
     // Drawn twice, the same figure leaves nothing.
     const int mode = pDC->SetROP2(R2_NOTXORPEN);
     if (m_ptLastCursor != Nowhere)
-        DrawCursorFigure(pDC, m_ptLastCursor, m_LastCursorLook);
-    // A host may change the look between two moves: what is erased is what was drawn.
-    m_LastCursorLook = {m_nCursorFlags, m_nSnapRange / 2};
-    DrawCursorFigure(pDC, m_ptCurrent, m_LastCursorLook);
+        DrawCursorFigure(pDC, m_ptLastCursor);
+    DrawCursorFigure(pDC, m_ptCurrent);
     m_ptLastCursor = m_ptCurrent;
     pDC->SetROP2(mode);
     if ((m_nCursorFlags & XGC_LEGEND) != 0)
@@ -94,28 +73,17 @@ int CXGraph::ReadCursor(int nCurve)
     return YAxisOf(curve).GetPointForValue(TDataPoint{m_fCursorX, m_fCursorY}).y;
 }
 
-void CXGraph::DrawCursorFigure(CDCEx* pDC, CPoint point, const TCursorLook& look)
+void CXGraph::DrawCursorFigure(CDCEx* pDC, CPoint point)
 {
-    if ((look.nFlags & XGC_VERT) != 0) {
+    if ((m_nCursorFlags & XGC_VERT) != 0) {
         pDC->MoveTo(point.x, m_rcInner.top);
         pDC->LineTo(point.x, m_rcInner.bottom);
     }
-    if ((look.nFlags & XGC_HORIZ) != 0) {
+    if ((m_nCursorFlags & XGC_HORIZ) != 0) {
         pDC->MoveTo(m_rcInner.left, point.y);
         pDC->LineTo(m_rcInner.right, point.y);
     }
-    DrawBox(pDC, point, look.nHalf);
-}
-
-void CXGraph::ClipToCursor(CDCEx* pDC)
-{
-    pDC->IntersectClipRect(&m_rcInner);
-    const bool redrawn = (m_nCursorFlags & XGC_LEGEND) != 0;
-    for (const TObjectRef& entry : ListObjects()) {
-        CXGraphObject* object = entry.pObject;
-        if (object->m_bVisible && !(redrawn && object == &m_CursorLabel))
-            ExcludeObject(pDC, object);
-    }
+    DrawBox(pDC, point, m_nSnapRange / 2);
 }
 
 void CXGraph::DrawCursorLegend(CDCEx* pDC)

@@ -168,8 +168,6 @@ void CXGraph::MoveCursor()
     m_bTmpDC = true;
     {
         CWindowCanvas canvas(m_hWnd);
-        // Whatever the frame's own cursor doesn't reach would keep a trace of this one.
-        ClipToCursor(canvas.Get());
         DrawCursor(canvas.Get());
     }
     m_bTmpDC = false;

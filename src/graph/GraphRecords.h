@@ -30,9 +30,3 @@ struct TPointChange {
     double fNewY = 0.0; // after it
 };
 static_assert(sizeof(TPointChange) == 24);
-
-// How the cursor is drawn: XGRAPH_XGC, and half the side of its box.
-struct TCursorLook {
-    unsigned int nFlags = 0;
-    int nHalf = 0;
-};

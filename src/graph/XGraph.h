@@ -263,9 +263,7 @@ private:
 
     void SnapCursor();
     int ReadCursor(int nCurve); // the pixel y of the curve at the cursor's x
-    void DrawCursorFigure(CDCEx* pDC, CPoint point, const TCursorLook& look);
-    // Between two frames the cursor moves below the objects, as it lies in a frame.
-    void ClipToCursor(CDCEx* pDC);
+    void DrawCursorFigure(CDCEx* pDC, CPoint point);
     void BringIntoView(CXGraphAxis& axis, double fValue) const;
     void PinNotation();
 
@@ -282,6 +280,4 @@ private:
     void Store(CArchive& ar, UINT nFlags);
     void ReadObjects(CArchive& ar);
     int PrintCentred(CDCEx& canvas, const CString& strText, bool bTop);
-
-    TCursorLook m_LastCursorLook; // of the figure at m_ptLastCursor
 };

@@ -68,13 +68,3 @@ void CXGraphDataNotation::PlaceBox(CDCEx* pDC, CPoint point)
     }
     m_rcObject.OffsetRect(point.x - m_rcObject.left, point.y - BoxAbove - m_rcObject.top);
 }
-
-std::array<CRect, 3> CXGraphDataNotation::GetParts() const
-{
-    const CPoint point(m_rcObject.left, m_rcObject.top + BoxAbove);
-    CRect box(m_rcObject);
-    box.InflateRect(1, 1);
-    const LONG end = m_rcObject.bottom;
-    return {box, CRect(point.x - 1, point.y - 1, point.x + 2, point.y + 2),
-            CRect(point.x, std::min(point.y, end), point.x + 1, std::max(point.y, end) + 1)};
-}

@@ -6,8 +6,6 @@
 #include "framework/windowing/Strings.h"
 #include "objects/XGraphObject.h"
 
-#include <array>
-
 class CXGraphDataNotation : public CXGraphObject
 {
     DECLARE_SERIAL(CXGraphDataNotation)
@@ -28,9 +26,6 @@ public:
     // The base's 27 bytes, both values, curve, index, text.
     void Serialize(CArchive& ar) override;
     void Draw(CDCEx* pDC) override;
-
-    // Framed box, dot and stem as the last frame drew them.
-    [[nodiscard]] std::array<CRect, 3> GetParts() const;
 
 private:
     void PlaceBox(CDCEx* pDC, CPoint point);

