@@ -6,6 +6,7 @@
 #include "framework/windowing/File.h"
 #include "graph/XGraph.h"
 
+#include <memory>
 #include <unordered_set>
 
 namespace
@@ -105,30 +106,24 @@ bool CXGraph::Save(const CString& strFile, UINT nFlags)
 
 bool CXGraph::Load(const CString& strFile)
 {
-    const bool read = Read(strFile);
-    HideIncompleteCurves();
-    return read;
-}
-
-bool CXGraph::Read(const CString& strFile)
-{
+    CFile file;
+    if (!file.Open(strFile, CFile::modeRead))
+        return false;
+    ResetAll();
     try {
-        CFile file;
-        if (!file.Open(strFile, CFile::modeRead))
-            return false;
-        ResetAll();
         CArchive ar(&file, CArchive::load, BufferSize);
         Serialize(ar, 0);
         return true;
     } catch (CException* exception) {
         exception->Delete();
-        return false;
     }
+    HideIncompleteCurves();
+    return false;
 }
 
-// A file that ends early, or was never whole, may leave curves without their axes or the partner
-// of their fill. Painting one would end the host's process for what the host had no part in; so
-// such curves stay, but unseen.
+// A read that failed half-way may leave curves without their axes or the partner of their fill.
+// Painting one would end the host's process, and a host that was told of the failure will repaint;
+// so such curves stay, but unseen.
 void CXGraph::HideIncompleteCurves()
 {
     const auto inside = [](int nIndex, const auto& list) {
@@ -197,9 +192,12 @@ void CXGraph::ReadObjects(CArchive& ar)
     for (int left = ReadCount(ar, SmallestObject); left > 0; --left) {
         auto* object = static_cast<CXGraphObject*>(ar.ReadObject(RUNTIME_CLASS(CXGraphObject)));
         // A second reference to one object would make the list own it twice.
-        if (!taken.insert(object).second)
+        if (taken.contains(object))
             AfxThrowArchiveException(CArchiveException::badIndex);
+        std::unique_ptr<CXGraphObject> owner(object);
+        taken.insert(object);
         object->m_pGraph = this;
         m_Objects.AddTail(object);
+        owner.release();
     }
 }

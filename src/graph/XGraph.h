@@ -143,7 +143,8 @@ public:
     // that can't be written whole.
     bool Save(const CString& strFile, UINT nFlags);
     // False, with the graph as it was, for a file that can't be opened. A file that fails later
-    // leaves what was read up to there; a curve without its axes is then hidden.
+    // leaves what was read up to there, and curves without their axes or partner hidden; one that
+    // is read whole leaves every curve as it has it.
     bool Load(const CString& strFile);
     void Serialize(CArchive& ar, UINT nFlags);
 
@@ -275,7 +276,6 @@ private:
 
     void AppendTrend(const CXGraphDataSerie& curve, std::unique_ptr<TDataPoint[]> points,
                      LPCWSTR pszKind);
-    bool Read(const CString& strFile);
     void HideIncompleteCurves();
     void Store(CArchive& ar, UINT nFlags);
     void ReadObjects(CArchive& ar);

@@ -303,6 +303,53 @@ TEST_F(GraphFile, ACurveWithoutItsAxesStaysUnseenSoTheNextFrameIsPainted)
     Paint();
 }
 
+TEST_F(GraphFile, AFileThatCantBeOpenedHidesNoCurve)
+{
+    AddLine()->m_nXAxis = 7; // its host may still put that right
+    EXPECT_FALSE(graph.Load(L"C:\\no such folder\\graph.bin"));
+    EXPECT_TRUE(graph.m_Curves[0].m_bVisible);
+}
+
+TEST_F(GraphFile, AFileReadWholeLeavesEveryCurveAsItHasIt)
+{
+    TCurve astray;
+    astray.points = {{1, 2}, {3, 4}};
+    TCurve hidden = astray;
+    hidden.base.bVisible = false;
+    TCurve alone = astray;
+    alone.bFillBeneath = true;
+    alone.nFillCurve = 9;
+    CBytes bytes;
+    bytes.Raw(Flags(2)).Add(3).Raw(Bytes(astray)).Raw(Bytes(hidden)).Raw(Bytes(alone)).Add(0).Add(0);
+    ASSERT_TRUE(Load(bytes.m_bytes));
+    EXPECT_TRUE(graph.m_Curves[0].m_bVisible);
+    EXPECT_FALSE(graph.m_Curves[1].m_bVisible);
+    EXPECT_TRUE(graph.m_Curves[2].m_bVisible);
+}
+
+using GraphFileDeathTest = GraphFile;
+
+TEST_F(GraphFileDeathTest, TheFrameAfterAFileWithoutTheAxesOfItsCurveEndsTheProcess)
+{
+    TCurve curve;
+    curve.points = {{1, 2}, {3, 4}};
+    ASSERT_TRUE(Load(Flags(2) + CBytes().Add(1).Raw(Bytes(curve)).Add(0).Add(0).m_bytes));
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(static_cast<int>(0xC0000417)), "");
+    graph.m_Curves[0].m_bVisible = false;
+    Paint();
+}
+
+TEST_F(GraphFileDeathTest, ASymbolKeyOfAFileWithoutAYAxisEndsTheProcess)
+{
+    TCurve curve;
+    curve.points = {{1, 2}, {3, 4}};
+    curve.nMarkerType = 1;
+    CBytes bytes;
+    bytes.Raw(Flags(2)).Add(1).Raw(Bytes(curve)).Add(1).Raw(Bytes(TAxis(), EForm::Readable)).Add(0);
+    ASSERT_TRUE(Load(bytes.m_bytes));
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(static_cast<int>(0xC0000417)), "");
+}
+
 TEST_F(GraphFile, EachFailureHasItsCause)
 {
     const std::string head = Flags(4) + CBytes().Add(0).Add(1).m_bytes;
