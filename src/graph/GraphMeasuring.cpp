@@ -91,9 +91,8 @@ void CXGraph::DrawMeasure(CDCEx* pDC, CRect& rc)
 
     DrawMeasureLines(pDC, rc);
     DrawMeasureArrows(pDC, rc);
-    const int mode = pDC->SetBkMode(TRANSPARENT);
+    pDC->SetBkMode(TRANSPARENT); // to the end of the frame
     DrawMeasureTexts(pDC, rc);
-    pDC->SetBkMode(mode);
     pDC->SetBkColor(background);
 }
 

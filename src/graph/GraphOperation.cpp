@@ -1,5 +1,6 @@
 // The operation that the mouse and the keys work on, and the ways into each.
 
+#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 void CXGraph::NoOp()
@@ -35,8 +36,8 @@ void CXGraph::Cursor()
     m_ptLastCursor = CPoint(-1, -1);
     m_nCursorCurve = m_nForcedSnapCurve;
     if ((m_nCursorFlags & XGC_LEGEND) != 0)
-        m_CursorLabel.m_rcObject.SetRect(m_rcInner.left + 1, m_rcInner.top, m_rcInner.left + 150,
-                                         m_rcInner.top + 50);
+        m_CursorLabel.m_rcObject.SetRect(WrapAdd(m_rcInner.left, 1), m_rcInner.top,
+                                         WrapAdd(m_rcInner.left, 150), WrapAdd(m_rcInner.top, 50));
 }
 
 void CXGraph::Edit()

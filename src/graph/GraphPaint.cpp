@@ -4,6 +4,7 @@
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 #include "graph/FrameLayout.h"
+#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 #include <optional>
@@ -86,7 +87,6 @@ void CXGraph::OnSize(UINT nType, int cx, int cy)
 void CXGraph::OnPaint()
 {
     CPaintDC dcPaint(this);
-    m_ptLastCursor = CPoint(-1, -1); // the frame wipes the cursor that was drawn by XOR
     if (m_pDrawDC != nullptr) {
         PaintFrame(m_pDrawDC);
         return;
@@ -100,7 +100,8 @@ void CXGraph::OnPaint()
 
 void CXGraph::PaintFrame(CDCEx* pDC)
 {
-    CRgn region; // outlives its selection
+    m_ptLastCursor = CPoint(-1, -1); // the frame wipes the cursor that was drawn by XOR
+    CRgn region;                     // outlives its selection
     const SavedState state(pDC);
 
     CRect rcClient;
@@ -202,7 +203,7 @@ void CXGraph::DrawPointValue(CDCEx* pDC)
     pDC->SetBkMode(TRANSPARENT);
     CString strValue;
     strValue.Format(L"%.2f", m_fEditValue);
-    pDC->TextOut(m_ptCurrent.x + kDistance, m_ptCurrent.y, strValue);
+    pDC->TextOut(WrapAdd(m_ptCurrent.x, kDistance), m_ptCurrent.y, strValue);
 }
 
 void CXGraph::DrawZoomRect(CDCEx* pDC)

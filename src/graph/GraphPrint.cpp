@@ -11,17 +11,34 @@ namespace
 {
 constexpr int TextGap = 5; // between header or footer and the page that is left
 
-// Stands for the time of the job, however it ends.
+// Names the target for the time of the job, and puts back what the page's frame does to the
+// cursor, whose pixels are the window's.
 class CPrintTarget
 {
 public:
-    CPrintTarget(CXGraph& graph, CDCEx& canvas) : m_Graph(graph) { graph.m_pPrintDC = &canvas; }
-    ~CPrintTarget() { m_Graph.m_pPrintDC = nullptr; }
+    CPrintTarget(CXGraph& graph, CDCEx& canvas)
+        : m_Graph(graph), m_ptCurrent(graph.m_ptCurrent), m_nCursorCurve(graph.m_nCursorCurve),
+          m_fCursorX(graph.m_fCursorX), m_fCursorY(graph.m_fCursorY)
+    {
+        graph.m_pPrintDC = &canvas;
+    }
+    ~CPrintTarget()
+    {
+        m_Graph.m_pPrintDC = nullptr;
+        m_Graph.m_ptCurrent = m_ptCurrent;
+        m_Graph.m_nCursorCurve = m_nCursorCurve;
+        m_Graph.m_fCursorX = m_fCursorX;
+        m_Graph.m_fCursorY = m_fCursorY;
+    }
     CPrintTarget(const CPrintTarget&) = delete;
     CPrintTarget& operator=(const CPrintTarget&) = delete;
 
 private:
     CXGraph& m_Graph;
+    const CPoint m_ptCurrent;
+    const int m_nCursorCurve;
+    const double m_fCursorX;
+    const double m_fCursorY;
 };
 } // namespace
 

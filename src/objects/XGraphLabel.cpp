@@ -70,11 +70,13 @@ void CXGraphLabel::Draw(CDCEx* pDC)
 
     const CFontSelector selectFont(&m_Font, pDC, true);
     std::optional<CBrushSelector> selectBrush;
-    CGdiObject* pOldBrush = nullptr;
-    if (m_bTransparent)
-        pOldBrush = pDC->SelectStockObject(HOLLOW_BRUSH);
-    else
+    HGDIOBJ hOldBrush = nullptr;
+    if (m_bTransparent) {
+        if (const CGdiObject* pOldBrush = pDC->SelectStockObject(HOLLOW_BRUSH))
+            hOldBrush = pOldBrush->m_hObject;
+    } else {
         selectBrush.emplace(crFill, pDC);
+    }
     std::optional<CPenSelector> selectPen;
     if (m_bBorder)
         selectPen.emplace(kBlack, 1, pDC, PS_SOLID);
@@ -102,8 +104,8 @@ void CXGraphLabel::Draw(CDCEx* pDC)
         pDC->DrawText(m_cText, &rcText, m_nAlignment);
     }
     pDC->SetTextColor(crOldText);
-    if (pOldBrush != nullptr)
-        pDC->SelectObject(static_cast<CBrush*>(pOldBrush));
+    if (hOldBrush != nullptr)
+        pDC->SelectObject(CBrush::FromHandle(static_cast<HBRUSH>(hOldBrush)));
 }
 
 // From the curve's middle point to the middle of the box, which then hides its inner part.
