@@ -160,7 +160,6 @@ TEST_F(InteractionOperations, AnyStateMayStandBeforeTheFirstFrameAndWithoutData)
             Key(key);
         Mouse(WM_MOUSEWHEEL, from, MAKEWPARAM(MK_SHIFT, 120));
         Send(Command::noOp);
-        break;
     }
     Send(Command::zoomBack);
     Send(Command::resetZoom);

@@ -7,6 +7,7 @@
 #include "framework/windowing/File.h"
 
 #include <cstring>
+#include <string>
 
 namespace
 {
@@ -186,4 +187,53 @@ TEST_F(GraphLabel, WhatIsWrittenIsReadBack)
     copy.m_Font.GetLogFont(&read);
     EXPECT_EQ(read.lfHeight, 33);
     EXPECT_STREQ(read.lfFaceName, L"Courier New");
+}
+
+TEST_F(GraphLabel, ItDrawsTheTieTheBoxTheBorderTheFrameAndLastTheText)
+{
+    AddLine();
+    Paint();
+    CXGraphLabel* tied = graph.InsertLabel(CRect(60, 60, 160, 120), L"text");
+    tied->m_nCurve = 0;
+    tied->BeginSize();
+    const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+    CDCEx dc;
+    dc.Attach(hDC);
+    tied->Draw(&dc);
+    dc.Detach();
+    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hDC);
+    std::string drawn; // tie, box, border, anything else as '.', text
+    ::EnumEnhMetaFile(
+        nullptr, hFile,
+        [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
+            auto& kinds = *reinterpret_cast<std::string*>(lParam);
+            const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
+            if (pRecord->iType == EMR_LINETO)
+                kinds += 'l';
+            else if (pRecord->iType == EMR_RECTANGLE)
+                kinds += 'r';
+            else if (pRecord->iType == EMR_EXTTEXTOUTW)
+                kinds += pText->emrtext.nChars == 0 ? 'f' : 't';
+            else if (pRecord->iType == EMR_BITBLT)
+                kinds += '.';
+            return 1;
+        },
+        &drawn, nullptr);
+    ::DeleteEnhMetaFile(hFile);
+    ASSERT_GT(drawn.size(), 4u) << "the sizing frame lies between border and text";
+    EXPECT_EQ(drawn.substr(0, 3), "lfr");
+    EXPECT_EQ(drawn.find('t'), drawn.size() - 1);
+}
+
+TEST_F(GraphLabel, ATransparentOneLeavesTheBrushThatWasSelected)
+{
+    CXGraphLabel* clear = graph.InsertLabel(CRect(60, 60, 160, 120), L"text");
+    clear->m_bTransparent = true;
+    CDCEx dc;
+    dc.Attach(::CreateCompatibleDC(nullptr));
+    const HBRUSH hBrush = ::CreateSolidBrush(0x123456);
+    const HGDIOBJ hOld = ::SelectObject(dc.m_hDC, hBrush);
+    clear->Draw(&dc);
+    EXPECT_EQ(::SelectObject(dc.m_hDC, hOld), hBrush);
+    ::DeleteObject(hBrush);
 }

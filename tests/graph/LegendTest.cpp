@@ -168,3 +168,37 @@ TEST_F(Legend, LabelsAreTextAndNeverFormats)
     const std::vector<std::wstring> expected{L"01 curve %s %n %1000000f"};
     EXPECT_EQ(RowTexts(Recording(graph)), expected);
 }
+
+TEST_F(Legend, OnAMonochromeTargetBoxAndRowsAreWhiteAndKeysBlack)
+{
+    AddThree();
+    graph.m_Curves[1].m_nMarkerType = 1; // a square for its key
+    Paint();
+    constexpr int kSide = 200;
+    const HDC hDC = ::CreateCompatibleDC(nullptr);
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), kSide, -kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* pBits = nullptr;
+    const HBITMAP hBitmap = ::CreateDIBSection(hDC, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
+    const HGDIOBJ hOld = ::SelectObject(hDC, hBitmap);
+    ::PatBlt(hDC, 0, 0, kSide, kSide, BLACKNESS);
+    {
+        CDCEx dc;
+        dc.Attach(hDC);
+        dc.m_bMono = true;
+        CRect rc(0, 0, kSide, kSide);
+        graph.DrawLegend(&dc, rc);
+        dc.Detach();
+    }
+    ::GdiFlush();
+    std::vector<COLORREF> keys;
+    for (const TLegendEntry& entry : graph.m_LegendEntries) {
+        EXPECT_EQ(::GetPixel(hDC, entry.rcRow.right - 1, entry.rcRow.top), 0xFFFFFFu);
+        keys.push_back(
+            ::GetPixel(hDC, entry.rcRow.left + 6, (entry.rcRow.top + entry.rcRow.bottom) / 2));
+    }
+    EXPECT_EQ(keys, (std::vector<COLORREF>{0, 0, 0}));
+    ::SelectObject(hDC, hOld);
+    ::DeleteObject(hBitmap);
+    ::DeleteDC(hDC);
+}

@@ -190,3 +190,15 @@ TEST_F(Notation, OneOnACurveThatIsGoneEndsTheProcess)
     graph.DeleteCurve(0);
     EXPECT_EXIT(Paint(), testing::ExitedWithCode(static_cast<int>(0xC0000417)), "");
 }
+
+TEST_F(Notation, ItsTextIsArialTwelve)
+{
+    LOGFONTW font = {};
+    ASSERT_NE(Insert(3).m_Font.GetLogFont(&font), 0);
+    EXPECT_STREQ(font.lfFaceName, L"Arial");
+    EXPECT_EQ(font.lfHeight, 12);
+    EXPECT_EQ(font.lfWeight, 400);
+    EXPECT_EQ(font.lfItalic, 0);
+    EXPECT_EQ(font.lfClipPrecision, 1);
+    EXPECT_EQ(font.lfQuality, 4);
+}
