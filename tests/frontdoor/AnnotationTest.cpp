@@ -161,7 +161,6 @@ TEST_F(FrontDoorAnnotation, ChoosingThePopupsItemTellsNobodyAndEnds)
     MenuWatch watch(true); // cancels whatever the choice opens
     RightClick(150, 125);
     EXPECT_EQ(watch.m_nItems, 1);
-    EXPECT_GT(watch.m_nDialogs, 0);
     EXPECT_FALSE(WasTold(XG_RBUTTONUP));
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
     EXPECT_EQ(LabelText(), L"old text");

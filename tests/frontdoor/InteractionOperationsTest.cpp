@@ -151,6 +151,8 @@ TEST_F(InteractionOperations, AnyStateMayStandBeforeTheFirstFrameAndWithoutData)
 {
     graph->ResetAll();
     for (WPARAM entry : kEntries) {
+        if (entry == Command::measure)
+            continue; // a measure needs a curve
         Send(entry);
         const POINT from = {100, 100}, to = {200, 200};
         DragAcross(from, to);
@@ -164,4 +166,12 @@ TEST_F(InteractionOperations, AnyStateMayStandBeforeTheFirstFrameAndWithoutData)
     Send(Command::zoomBack);
     Send(Command::resetZoom);
     EXPECT_EQ(ZoomDepth(), 0);
+}
+
+TEST_F(InteractionOperations, DeathTest_AMeasureWithoutACurveEndsTheProcess)
+{
+    graph->ResetAll();
+    Send(Command::measure);
+    EXPECT_EXIT(DragAcross({100, 100}, {200, 200}),
+                testing::ExitedWithCode(static_cast<int>(0xC0000417)), "");
 }

@@ -51,6 +51,9 @@ protected:
                                  {160, 115},
                                  {plot.left + 9, plot.top + 9},
                                  {Middle(), Row(2) + 3}};
+        // The last frame's cursor is erased where no frame drew it, too, if it lay outside.
+        Move(plot.left + 20, plot.top + 20);
+        Paint();
         for (const CPoint& place : places) {
             Move(place.x, place.y);
             const Picture moved(graph.m_hWnd);

@@ -71,18 +71,21 @@ TEST_F(FrameOrder, YAxesAreDrawnBeforeXAxesAndEachKindInTheOrderOfItsList)
 
 TEST_F(FrameOrder, MarkersLieAboveTheLinesOfAllCurves)
 {
+    static TDataPoint level[] = {{0, 2}, {2.5, 2}, {5, 2}, {7.5, 2}, {10, 2}}; // each has a marker
+    graph.SetData(level, 5, 0, 0, 0, false);
     CXGraphDataSerie& first = graph.m_Curves[0];
     first.m_bShowMarker = true;
     first.m_nMarkerType = 1; // a square
     first.m_nMarkerSize = 20;
     first.m_crColor = 0x0000FF;
-    TDataPoint upright[] = {{5, 0}, {5.001, 10}}; // through the first curve's middle point
-    graph.SetData(upright, 2, 2, 0, 0, true)->m_nLineSize = 3;
+    TDataPoint upright[] = {{4.95, 0}, {5.2, 10}}; // through the first curve's middle point
+    graph.SetData(upright, 2, 2, 0, 0, true)->m_nLineSize = 5;
     graph.m_Curves[2].m_crColor = 0x00FF00;
     const Picture picture = Shoot();
     const CPoint middle = At(5, 2);
     EXPECT_EQ(picture.At(middle.x, middle.y - 5), 0x0000FFu);
-    EXPECT_EQ(picture.At(middle.x, middle.y - 30), 0x00FF00u);
+    const CPoint above = At(5.05, 4); // on the other line
+    EXPECT_EQ(picture.At(above.x, above.y), 0x00FF00u);
 }
 
 TEST_F(FrameOrder, MeasuresLieAboveCurvesAndBelowObjects)

@@ -185,6 +185,7 @@ TEST_F(Legend, OnAMonochromeTargetBoxAndRowsAreWhiteAndKeysBlack)
     {
         CDCEx dc;
         dc.Attach(hDC);
+        dc.NeedScale(); // which finds out of itself
         dc.m_bMono = true;
         CRect rc(0, 0, kSide, kSide);
         graph.DrawLegend(&dc, rc);
