@@ -14,7 +14,7 @@ ON_BN_CLICKED(IDC_FONT, OnFont)
 END_MESSAGE_MAP()
 
 CLabelDlg::CLabelDlg(CXGraphLabel& label, CWnd* pParent)
-    : CDialog(IDD, pParent), m_pLabel(&label), m_pGraph(label.m_pGraph)
+    : CDialog(IDD, pParent), m_pLabel(&label), m_pGraph(label.m_pGraph), m_Entry(&label)
 {
 }
 
@@ -63,7 +63,7 @@ void CLabelDlg::FillLists()
 
 bool CLabelDlg::IsLabelThere() const
 {
-    return m_pGraph->Owns(m_pLabel);
+    return m_pGraph->Owns(m_Entry);
 }
 
 void CLabelDlg::EnableApply(bool bEnable)

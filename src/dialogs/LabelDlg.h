@@ -5,6 +5,7 @@
 #include "dialogs/ColorButton.h"
 #include "framework/windowing/Controls.h"
 #include "framework/windowing/Dialog.h"
+#include "objects/XGraphObject.h"
 #include "resources/DialogIds.h"
 
 class CXGraph;
@@ -41,5 +42,6 @@ private:
     void EnableApply(bool bEnable);
     void FillLists();
 
-    CXGraph* m_pGraph; // outlives the dialog, with or without its window
+    CXGraph* m_pGraph;        // outlives the dialog, with or without its window
+    const TObjectRef m_Entry; // of the label, to know whether it is still there
 };
