@@ -83,10 +83,5 @@ void CLineAnimation::StartRun(TPoint start)
     m_nAnimationPercent = 0;
     m_nHoldCount = 0;
     m_bAnimationHold = 0;
-    MoveStart(start);
-}
-
-void CLineAnimation::MoveStart(TPoint start) noexcept
-{
     std::fill(m_pPoints.begin(), m_pPoints.end(), start);
 }

@@ -22,9 +22,6 @@ struct CLineAnimation {
     // One tick, for a chart of that many segments and series.
     void Animate(std::int32_t segments, std::int32_t series, TPoint start);
 
-    // Lines start there from now on; the next frame finds the ends of those that are finished.
-    void MoveStart(TPoint start) noexcept;
-
     std::int32_t m_bAnimation = 0;
     std::int32_t m_nAnimationType = 0;
     std::int32_t m_nAnimationPercent = 0;
@@ -34,8 +31,9 @@ struct CLineAnimation {
     std::int32_t m_nGrowSegment = 0; // lines finished
     std::int32_t m_nGrowSeries = 0;  // series finished (seriesDraw)
 
-    // By series id - 1: the end of the part that is drawn. A series without an entry, because
-    // it came after the animation started, shows its finished lines alone.
+    // By series id - 1: the end of the part that is drawn, in pixels of the frame that drew it: a
+    // new size or position leaves it where it is until the next finished line. A series without an
+    // entry, because it came after the animation started, shows its finished lines alone.
     std::vector<TPoint> m_pPoints;
 
 private:

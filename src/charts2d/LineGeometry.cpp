@@ -54,7 +54,7 @@ TPoint StartPoint(TPoint position, TSize size, std::int32_t segments) noexcept
     return {Add(x0, Mul(segments > 1 ? 4 : 2, barGap)), Sub(y0, Trunc(size.cy * 0.01))};
 }
 
-std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest, std::int32_t whole) noexcept
+TPoint PartialEnd(TPoint from, TPoint to, std::int32_t rest, std::int32_t whole) noexcept
 {
     const double x1 = from.x;
     const double y1 = from.y;
@@ -63,10 +63,8 @@ std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest, std:
     const double length =
         std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2)) * (static_cast<double>(rest) / whole);
     const double angle = std::atan((y2 - y1) / (x2 - x1));
-    if (!std::isfinite(length) || std::isnan(angle))
-        return std::nullopt;
-    return TPoint{Wrap32::Add(Trunc(std::cos(angle) * length), from.x),
-                  Wrap32::Add(Trunc(std::sin(angle) * length), from.y)};
+    return {Wrap32::Add(Trunc(std::cos(angle) * length), from.x),
+            Wrap32::Add(Trunc(std::sin(angle) * length), from.y)};
 }
 
 bool CutToDevice(TPoint& from, TPoint& to) noexcept

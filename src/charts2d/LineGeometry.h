@@ -2,7 +2,6 @@
 // Places of the line chart's points, in pixels of the window.
 
 #include <cstdint>
-#include <optional>
 
 #include "base/Geometry.h"
 #include "charts2d/ChartMeasures.h"
@@ -32,10 +31,10 @@ struct TPlot {
 // the start lies a little beside the first point.
 [[nodiscard]] TPoint StartPoint(TPoint position, TSize size, std::int32_t segments) noexcept;
 
-// How much of the line from `from` to `to` is due, `rest` of `whole` percent: the end of that
-// part, or nothing if there is no part to speak of (no percent a line, no direction).
-[[nodiscard]] std::optional<TPoint> PartialEnd(TPoint from, TPoint to, std::int32_t rest,
-                                               std::int32_t whole) noexcept;
+// The end of the part of the line from `from` to `to` that is due, `rest` of `whole` percent.
+// A part without a length (no percent a line, no direction) ends where Trunc sends what isn't
+// a number: far to the upper left.
+[[nodiscard]] TPoint PartialEnd(TPoint from, TPoint to, std::int32_t rest, std::int32_t whole) noexcept;
 
 // Cuts the line along itself to the square that the device reaches; false if none of it lies
 // inside.

@@ -47,12 +47,6 @@ void C2DLineGraph::Resize(TSize size)
     m_pLabelsFont = ChartPainter::MakeFont(Trunc(size.cy * 0.1), 0, FW_NORMAL, L"Arial");
 }
 
-void C2DLineGraph::SetPosition(TPoint position) noexcept
-{
-    m_ptGraph = position;
-    m_Animation.MoveStart(StartPoint());
-}
-
 TPoint C2DLineGraph::StartPoint() const noexcept
 {
     return LineGeometry::StartPoint(m_ptGraph, m_szGraph, m_Data.m_nSegments);

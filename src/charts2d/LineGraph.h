@@ -39,8 +39,7 @@ public:
 
     // The fonts are made again, that of the legend by other factors than at construction.
     void Resize(TSize size);
-    // An animation goes on from the start point of the new place.
-    void SetPosition(TPoint position) noexcept;
+    void SetPosition(TPoint position) noexcept { m_ptGraph = position; }
     void SetWindowSize(TSize size) noexcept { m_szWindow = size; }
 
     void SetAnimation(int on, int type);

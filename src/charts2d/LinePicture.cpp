@@ -24,7 +24,7 @@ public:
                 WholeSeries(series);
         } else if (m_Animation.m_nAnimationType == CLineAnimation::allDraw) {
             DrawTogether();
-        } else {
+        } else if (m_Animation.m_nAnimationType == CLineAnimation::seriesDraw) {
             AllLabels();
             DrawInTurn();
         }
@@ -114,8 +114,7 @@ private:
                         LineGeometry::PointY(plot, value->pNext->nValue, m_Picture.nMaximum)};
         const std::int32_t rest = Sub(m_Animation.m_nAnimationPercent,
                                       Mul(m_Animation.m_nSegmentPercent, m_Animation.m_nGrowSegment));
-        if (const auto end = LineGeometry::PartialEnd(from, to, rest, m_Animation.m_nSegmentPercent))
-            Line(series, from, *end);
+        Line(series, from, LineGeometry::PartialEnd(from, to, rest, m_Animation.m_nSegmentPercent));
         return true;
     }
 
@@ -175,9 +174,8 @@ TLinePicture Compose(const CValueTable& table, CLineAnimation& animation, TPoint
     TLinePicture picture;
     const std::int32_t segments = table.SegmentCount();
     const std::int32_t series = table.SeriesCount();
-    const bool animated =
-        animation.m_bAnimation == 1 && CLineAnimation::IsKnown(animation.m_nAnimationType);
-    if ((animation.m_bAnimation != 0 && !animated) || segments < 2 || series < 1)
+    const bool drawn = animation.m_bAnimation == 0 || animation.m_bAnimation == 1;
+    if (!drawn || segments < 2 || series < 1)
         return picture;
 
     picture.bValueLabels = true;

@@ -31,8 +31,9 @@ struct TLinePicture {
 namespace LinePicture
 {
 
-// With fewer than two segments, no series, an unknown animation, or animation values other
-// than 0 and 1 the axes stand alone. A frame of an animation moves its end points.
+// With fewer than two segments, no series, or animation values other than 0 and 1 the axes stand
+// alone; an unknown animation has the labels of the value axis and no steps. A frame of an
+// animation moves its end points.
 //
 // Lines run along a series' list of values, where the values of deleted segments keep their
 // place; labels are those of the segments that exist.

@@ -148,3 +148,21 @@ TEST_F(Chart2dLine, LegendIsInASerifFaceAndWiderAfterANewSize)
     chart->SetGraphSize(640, 400);
     EXPECT_EQ(textAt({16, 15, 400, L"Times New Roman"}), 0);
 }
+
+TEST_F(Chart2dLine, NewSizeLeavesTheStartOfTheFirstLineWhereItWas)
+{
+    FillLines({{100, 100}});
+    AtTick(30, 25);                // half of the line, from 115 and half a group
+    chart->SetGraphSize(800, 400); // groupW 159, step 204
+    ExpectLine(Redrawn(), 166, kRed, 115 + 79, 115 + 79 + 102);
+}
+
+TEST_F(Chart2dLine, UnknownAnimationTypeHasTheValueLabels)
+{
+    FillLines({{100, 50}});
+    const Picture picture = AtTick(32, 5);
+    EXPECT_EQ(picture.Count(kRed), 0);
+    EXPECT_EQ(TextDifferences(picture, {91, 158}, L"100", {20}, TA_RIGHT), 0);
+    EXPECT_EQ(TextDifferences(picture, {91, 238}, L"50", {20}, TA_RIGHT), 0);
+    EXPECT_EQ(picture.Count({115, 332, 400, 380}, 0), 0); // no segment's label
+}

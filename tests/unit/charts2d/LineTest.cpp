@@ -224,14 +224,27 @@ TEST_F(LineTest, SeriesAddedAfterTheStartHasNoLineInProgress)
     EXPECT_EQ(animation.m_pPoints.size(), 1U);
 }
 
-TEST_F(LineTest, MoreSegmentsThanPercentsHaveNoLineInProgress)
+// The platform's conversion gives the smallest int for what isn't a number.
+TEST_F(LineTest, PartOfALineThatHasNoLengthEndsFarToTheUpperLeft)
 {
     Fill(150, 2);
     Start(CLineAnimation::allDraw);
     EXPECT_EQ(animation.m_nSegmentPercent, 0);
-    Tick(60);
-    for (const TLineStep& step : Compose().Steps)
-        EXPECT_GE(step.ptTo.x, 0);
+    const auto steps = Compose().Steps;
+    ASSERT_EQ(steps.size(), 3U); // the first label, and the line in progress of each series
+    EXPECT_EQ(steps[1].ptTo, (TPoint{lowest + steps[1].ptFrom.x, lowest + steps[1].ptFrom.y}));
+    EXPECT_EQ(steps[2].ptTo, (TPoint{lowest + steps[2].ptFrom.x, lowest + steps[2].ptFrom.y}));
+}
+
+TEST_F(LineTest, UnknownAnimationHasItsValueLabelsAlone)
+{
+    Fill(3, 2);
+    Start(32);
+    EXPECT_TRUE(Compose().bValueLabels);
+    EXPECT_EQ(Compose().nMaximum, 10);
+    EXPECT_EQ(Text(), "");
+    animation.SetAnimation(2, CLineAnimation::allDraw, 3, 2, StartPoint());
+    EXPECT_FALSE(Compose().bValueLabels);
 }
 
 TEST_F(LineTest, EveryAnimationRunsOnEveryCount)
@@ -247,10 +260,11 @@ TEST_F(LineTest, EveryAnimationRunsOnEveryCount)
     }
 }
 
-TEST_F(LineTest, PartOfALineThatHasNoLengthIsNothing)
+TEST_F(LineTest, PartOfALineFollowsItsDirection)
 {
-    EXPECT_FALSE(LineGeometry::PartialEnd({1, 1}, {1, 1}, 1, 2));
-    EXPECT_FALSE(LineGeometry::PartialEnd({1, 1}, {5, 5}, 0, 0));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {1, 1}, 1, 2), (TPoint{lowest + 1, lowest + 1}));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 5}, 0, 0), (TPoint{lowest + 1, lowest + 1}));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 1}, 1, 0), (TPoint{lowest + 1, lowest + 1}));
     EXPECT_EQ(LineGeometry::PartialEnd({0, 0}, {0, 10}, 1, 2), (TPoint{0, 5}));
     EXPECT_EQ(LineGeometry::PartialEnd({0, 0}, {10, 0}, 1, 3), (TPoint{3, 0})); // a quotient of doubles
 }
