@@ -2,11 +2,12 @@
 
 #include "charts2d/FlatPieGeometry.h"
 
-void CFlatPieAnimation::SetAnimation(std::int32_t on, std::int32_t type) noexcept
+void CFlatPieAnimation::SetAnimation(std::int32_t on, std::int32_t type, TPoint start) noexcept
 {
     m_bAnimation = on;
     m_nAnimationType = type;
     m_dAnimationPercent = 0;
+    m_ptStart = start;
     if (on != 1)
         return;
     if (type == sweep) {
@@ -17,7 +18,7 @@ void CFlatPieAnimation::SetAnimation(std::int32_t on, std::int32_t type) noexcep
     }
 }
 
-void CFlatPieAnimation::Animate(double totalPercent, std::int32_t segments) noexcept
+void CFlatPieAnimation::Animate(double totalPercent, std::int32_t segments, TPoint start) noexcept
 {
     if (m_bAnimation != 1)
         return;
@@ -25,6 +26,7 @@ void CFlatPieAnimation::Animate(double totalPercent, std::int32_t segments) noex
         if (m_dDrawnPercent > totalPercent || m_dAnimationPercent > 100) {
             m_dDrawnPercent = 0;
             m_dAnimationPercent = 0;
+            m_ptStart = start;
         }
         m_dAnimationPercent += 1;
         m_dSweepAngle = m_dAnimationPercent * FlatPieGeometry::Angle(totalPercent) / 100;
@@ -32,8 +34,10 @@ void CFlatPieAnimation::Animate(double totalPercent, std::int32_t segments) noex
         if (m_dAnimationPercent >= 100) {
             m_dAnimationPercent = 0;
             ++m_nFadeSegment;
-            if (m_nFadeSegment >= segments)
+            if (m_nFadeSegment >= segments) {
                 m_nFadeSegment = 0;
+                m_ptStart = start;
+            }
         }
         m_dAnimationPercent += 2;
     }

@@ -14,12 +14,6 @@ double Angle(double percent) noexcept
     return percent / 100 * fullCircle;
 }
 
-bool InCircle(double angle) noexcept
-{
-    constexpr double roundingSlack = 1e-9;
-    return angle >= 0 && angle <= fullCircle + roundingSlack;
-}
-
 TPoint Start(TPoint position, TSize size) noexcept
 {
     using namespace Wrap32;
@@ -38,7 +32,7 @@ TPoint ByHalves(TPoint position, TSize size, double angle) noexcept
 TPoint Rounded(TPoint position, TSize size, double angle, TPoint before) noexcept
 {
     using namespace Wrap32;
-    if (!InCircle(angle))
+    if (!(angle >= 0 && angle <= fullCircle))
         return before;
     const double halfX = size.cx * 0.5;
     const double halfY = size.cy * 0.5;

@@ -20,10 +20,6 @@ inline constexpr double fullCircle = 2.0 * 3.14159265358979323846;
 
 [[nodiscard]] double Angle(double percent) noexcept;
 
-// True from 0 to the full circle. Percents that sum to 100 may sum to an angle a few last
-// places above it, which is inside still.
-[[nodiscard]] bool InCircle(double angle) noexcept;
-
 // The radial at which the first slice starts: (X + W, H / 2 + Y).
 [[nodiscard]] TPoint Start(TPoint position, TSize size) noexcept;
 
@@ -31,7 +27,8 @@ inline constexpr double fullCircle = 2.0 * 3.14159265358979323846;
 [[nodiscard]] TPoint ByHalves(TPoint position, TSize size, double angle) noexcept;
 
 // x = Trunc(cos a W 0.5 + W 0.5 + 0.5) + X, y = Trunc(H 0.5 - sin a H 0.5 + 0.5) + Y.
-// An angle outside the circle gives no new point: `before` stands.
+// An angle outside 0 to the full circle gives no new point: `before` is the result. Percents
+// that sum to 100 may sum to an angle a last place above it, which is outside.
 [[nodiscard]] TPoint Rounded(TPoint position, TSize size, double angle, TPoint before) noexcept;
 
 // True if both points lie on one radial, seen from the middle of the box. A slice between them

@@ -19,7 +19,7 @@ void C2DPieGraph::UpdateSegment(int index, int percent, COLORREF color, const CS
 {
     const ERefusal refusal = m_Data.UpdateSegment(index, percent, color, text.ToU16());
     if (refusal == ERefusal::none)
-        m_Animation.Restart();
+        m_Animation.Restart(Start());
     ReportRefusal(refusal);
 }
 
@@ -28,6 +28,11 @@ void C2DPieGraph::Resize(TSize size)
     m_szGraph = size;
     m_pLegendFont = ChartPainter::MakeFont(Trunc(size.cy * 0.1), Trunc(size.cx * 0.035), FW_NORMAL,
                                            L"Times New Roman");
+}
+
+TPoint C2DPieGraph::Start() const noexcept
+{
+    return FlatPieGeometry::Start(m_ptGraph, m_szGraph);
 }
 
 TRect C2DPieGraph::Box() const noexcept

@@ -38,11 +38,11 @@ public:
     void SetPosition(TPoint position) noexcept { m_ptGraph = position; }
     void SetWindowSize(TSize size) noexcept { m_szWindow = size; }
 
-    void SetAnimation(int on, int type) noexcept { m_Animation.SetAnimation(on, type); }
-    void Animate() noexcept { m_Animation.Animate(m_Data.m_dTotalPercent, m_Data.m_nSegments); }
+    void SetAnimation(int on, int type) noexcept { m_Animation.SetAnimation(on, type, Start()); }
+    void Animate() noexcept { m_Animation.Animate(m_Data.m_dTotalPercent, m_Data.m_nSegments, Start()); }
     [[nodiscard]] double AnimationPercent() const noexcept { return m_Animation.m_dAnimationPercent; }
 
-    // A frame of a sweep notes what it drew whole.
+    // A frame of an animation notes how far it has drawn.
     void Draw(HDC hDC);
     void DrawLegend(HDC hDC) const;
 
@@ -51,6 +51,7 @@ public:
     COLORREF m_crBackground = 0xFBFFFF; // the window's own counts; this is only kept
 
 private:
+    [[nodiscard]] TPoint Start() const noexcept;
     [[nodiscard]] TRect Box() const noexcept;
     void DrawSlice(HDC hDC, const TFlatPieSlice& slice) const;
 

@@ -14,19 +14,9 @@ struct TBox {
     TSize Size;
 };
 
-bool HasWidth(const TBox& box, const TFlatPieSlice& slice) noexcept
+void AddUnlessEmpty(std::vector<TFlatPieSlice>& slices, const TFlatPieSlice& slice)
 {
-    return !FlatPieGeometry::OnOneRadial(box.Position, box.Size, slice.ptStart, slice.ptEnd);
-}
-
-bool IsVisible(const TBox& box, const TFlatPieSlice& slice) noexcept
-{
-    return HasWidth(box, slice) || slice.pSegment->dPercent >= 50;
-}
-
-void Add(std::vector<TFlatPieSlice>& slices, const TBox& box, const TFlatPieSlice& slice)
-{
-    if (IsVisible(box, slice))
+    if (slice.ptStart != slice.ptEnd)
         slices.push_back(slice);
 }
 
@@ -43,64 +33,80 @@ void Still(TFlatPiePicture& picture, const CFlatPieData& data, const TBox& box)
     for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext) {
         angle = Turned(angle, segment->dPercent);
         const TPoint end = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);
-        Add(picture.Slices, box, {segment, start, end});
+        picture.Slices.push_back({segment, start, end});
         start = end;
     }
 }
+
+// The slices that Rounded places one after the other: each starts where the one before it ends.
+class CRoundedWalk
+{
+public:
+    explicit CRoundedWalk(const TBox& box) noexcept
+        : m_box(box), m_end(FlatPieGeometry::Start(box.Position, box.Size))
+    {
+    }
+
+    // The next slice, of a whole segment.
+    TFlatPieSlice Next(const SPieSegment& segment) noexcept
+    {
+        const TPoint start = At(m_dAngle);
+        m_dAngle += FlatPieGeometry::Angle(segment.dPercent);
+        m_end = FlatPieGeometry::Rounded(m_box.Position, m_box.Size, m_dAngle, start);
+        return {&segment, start, m_end};
+    }
+
+    // An angle outside the circle is where the last slice ends.
+    [[nodiscard]] TPoint At(double angle) const noexcept
+    {
+        return FlatPieGeometry::Rounded(m_box.Position, m_box.Size, angle, m_end);
+    }
+
+private:
+    const TBox& m_box;
+    TPoint m_end;
+    double m_dAngle = 0;
+};
 
 // Draws slices whole until the one in progress, and that one as far as the sweep has come.
 void Sweep(TFlatPiePicture& picture, const CFlatPieData& data, CFlatPieAnimation& animation,
            const TBox& box)
 {
-    double angle = 0;
-    TPoint start = FlatPieGeometry::Start(box.Position, box.Size);
-    TPoint end = start;
+    CRoundedWalk walk(box);
     for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext) {
         const double drawn = animation.m_dDrawnPercent + segment->dPercent;
         if (!(animation.m_dAnimationPercent > Trunc(drawn / data.m_dTotalPercent * 100 + 0.5))) {
-            const TPoint sweepEnd =
-                FlatPieGeometry::Rounded(box.Position, box.Size, animation.m_dSweepAngle, end);
-            const TFlatPieSlice begun{segment, end, sweepEnd};
-            if (HasWidth(box, begun))
-                picture.Slices.push_back(begun);
+            AddUnlessEmpty(picture.Slices,
+                           {segment, animation.m_ptStart, walk.At(animation.m_dSweepAngle)});
             return;
         }
         animation.m_dDrawnPercent = drawn;
-        start = FlatPieGeometry::Rounded(box.Position, box.Size, angle, start);
-        angle += FlatPieGeometry::Angle(segment->dPercent);
-        end = FlatPieGeometry::Rounded(box.Position, box.Size, angle, end);
-        const TFlatPieSlice whole{segment, start, end};
-        if (HasWidth(box, whole))
-            picture.Slices.push_back(whole);
+        const TFlatPieSlice whole = walk.Next(*segment);
+        animation.m_ptStart = whole.ptEnd;
+        AddUnlessEmpty(picture.Slices, whole);
     }
 }
 
-// The slice that fades starts where those before it end, which follows from the segments
-// themselves: a frame that was never painted, or a new size, leaves no trace.
-void Fade(TFlatPiePicture& picture, const CFlatPieData& data, const CFlatPieAnimation& animation,
+// The first segment that hasn't faded in fades aside, and those before it are whole. Without
+// such a segment there is no slice.
+void Fade(TFlatPiePicture& picture, const CFlatPieData& data, CFlatPieAnimation& animation,
           const TBox& box)
 {
     double angle = 0;
-    TPoint fadeStart = FlatPieGeometry::Start(box.Position, box.Size);
-    TPoint start = fadeStart;
-    for (const SPieSegment* segment = data.m_pSegments; segment; segment = segment->pNext) {
-        if (segment->nId > animation.m_nFadeSegment) {
-            const TPoint end =
-                FlatPieGeometry::ByHalves(box.Position, box.Size, Turned(angle, segment->dPercent));
-            const TFlatPieSlice slice{segment, fadeStart, end};
-            if (IsVisible(box, slice))
-                picture.Fading = slice;
-            return;
-        }
-        const TPoint from = FlatPieGeometry::Rounded(box.Position, box.Size, angle, start);
-        const double endAngle = angle + FlatPieGeometry::Angle(segment->dPercent);
-        const TPoint to = FlatPieGeometry::Rounded(box.Position, box.Size, endAngle, from);
-        if (from != to || FlatPieGeometry::InCircle(endAngle))
-            Add(picture.Slices, box, {segment, from, to});
-        angle = endAngle;
-        start = to;
-        fadeStart = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);
-    }
+    const SPieSegment* fading = data.m_pSegments;
+    for (; fading && fading->nId <= animation.m_nFadeSegment; fading = fading->pNext)
+        angle += FlatPieGeometry::Angle(fading->dPercent);
+    if (!fading)
+        return;
+
+    angle += FlatPieGeometry::Angle(fading->dPercent);
+    const TPoint end = FlatPieGeometry::ByHalves(box.Position, box.Size, angle);
+    picture.Fading = {fading, animation.m_ptStart, end};
+    CRoundedWalk walk(box);
+    for (const SPieSegment* segment = data.m_pSegments; segment != fading; segment = segment->pNext)
+        picture.Slices.push_back(walk.Next(*segment));
+    if (animation.m_dAnimationPercent >= 100)
+        animation.m_ptStart = end;
 }
 
 } // namespace

@@ -24,10 +24,9 @@ struct TFlatPiePicture {
 namespace FlatPiePicture
 {
 
-// A slice whose two points lie on one radial is left out unless it is the whole circle: one too
-// thin for a pixel would otherwise cover the pie. A sweep leaves out the whole circle too.
-// Pointers are good until the data changes. A frame of a sweep tells the animation what it
-// drew whole.
+// Every slice is drawn whatever its ends: the platform draws the whole ellipse for one that is
+// too thin for two points. Only a sweep leaves out a slice of equal points. Pointers are good
+// until the data changes. A frame of an animation notes in it how far it has drawn.
 [[nodiscard]] TFlatPiePicture Compose(const CFlatPieData& data, CFlatPieAnimation& animation,
                                       TPoint position, TSize size);
 

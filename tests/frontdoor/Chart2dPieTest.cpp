@@ -179,3 +179,19 @@ TEST_F(Chart2dPie, LegendColoursCannotBeReadBackAndLabelsAreNone)
     chart->ShowGraphLegend(1);
     EXPECT_GT(Redrawn().Count(kGreen), 100);
 }
+
+TEST_F(Chart2dPie, StillSliceWithoutWidthIsTheWholeEllipse)
+{
+    Add(30, kRed);
+    Add(0.0001, kGreen);
+    EXPECT_EQ(Quarters(Redrawn()), (TColors{kGreen, kGreen, kGreen, kGreen}));
+}
+
+TEST_F(Chart2dPie, FadeWithoutASegmentToFadeShowsNoSlice)
+{
+    Add(50, kRed);
+    Add(50, kGreen);
+    AtTick(11, 75);
+    chart->Delete2DPieGraphSegment(2);
+    EXPECT_EQ(Redrawn().Count(kRed), 0);
+}

@@ -139,7 +139,8 @@ TEST(FlatPieGeometry, AngleOutsideTheCircleLeavesThePointBefore)
     using namespace FlatPieGeometry;
     EXPECT_EQ(Rounded(position, size, -0.1, {1, 2}), (TPoint{1, 2}));
     EXPECT_EQ(Rounded(position, size, 6.3, {1, 2}), (TPoint{1, 2}));
-    EXPECT_EQ(Rounded(position, size, std::nextafter(fullCircle, 7.0), {1, 2}), right);
+    EXPECT_EQ(Rounded(position, size, fullCircle, {1, 2}), right);
+    EXPECT_EQ(Rounded(position, size, std::nextafter(fullCircle, 7.0), {1, 2}), (TPoint{1, 2}));
 }
 
 TEST(FlatPieGeometry, BoundsHoldTheMiddleTheEndsAndTheFarthestPoints)
@@ -172,18 +173,49 @@ TEST(FlatPiePicture, FullCircleIsWholeWhenStillAndMissingFromASweep)
     ASSERT_EQ(picture.Slices.size(), 1U);
     EXPECT_EQ(picture.Slices[0].ptStart, picture.Slices[0].ptEnd);
 
-    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
     animation.m_dAnimationPercent = 101;
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
     EXPECT_EQ(animation.m_dDrawnPercent, 100);
 }
 
-TEST(FlatPiePicture, SliceTooThinForAPixelDoesNotCoverThePie)
+TEST(FlatPiePicture, StillSliceTooThinForAPixelIsDrawnWhateverItsEnds)
 {
     CFlatPieData data;
     CFlatPieAnimation animation;
-    Fill(data, {50, 0.001, 10}); // its points are (10, 70) and (11, 70)
+    Fill(data, {30, 0.0001, 10});
+    const auto slices = Compose(data, animation).Slices;
+    ASSERT_EQ(slices.size(), 3U);
+    EXPECT_EQ(slices[1].ptStart, slices[1].ptEnd);
+}
+
+TEST(FlatPiePicture, SweepLeavesOutEqualPointsAndDrawsThoseOnOneRadial)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {30, 0.0001, 10});
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.m_dAnimationPercent = 101;
     EXPECT_EQ(Compose(data, animation).Slices.size(), 2U);
+
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.m_ptStart = {right.x + 20, right.y}; // on the radial of the sweep's end
+    const auto begun = Compose(data, animation).Slices;
+    ASSERT_EQ(begun.size(), 1U);
+    EXPECT_EQ(begun[0], (TFlatPieSlice{data.m_pSegments, {right.x + 20, right.y}, right}));
+}
+
+TEST(FlatPiePicture, SweepLeavesOutASliceThatRoundingSendsPastTheCircle)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {7, 93});
+    using FlatPieGeometry::Angle;
+    ASSERT_GT(Angle(7) + Angle(93), FlatPieGeometry::fullCircle);
+    ASSERT_EQ(data.m_dTotalPercent, 100);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.m_dAnimationPercent = 101;
+    EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
 }
 
 TEST(FlatPieGeometry, PointsOnOneRadialAreToldFromThoseOnOppositeOnes)
@@ -200,9 +232,9 @@ TEST(FlatPiePicture, SweepDrawsWholeSlicesAndTheOneInProgress)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 50, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
     for (int tick = 0; tick < 50; ++tick) {
-        animation.Animate(data.m_dTotalPercent, data.m_nSegments);
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
         Compose(data, animation);
     }
     auto picture = Compose(data, animation);
@@ -217,9 +249,9 @@ TEST(FlatPiePicture, SweepEndsWhereTheSumEnds)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
     for (int tick = 0; tick < 100; ++tick)
-        animation.Animate(data.m_dTotalPercent, data.m_nSegments);
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
     const auto picture = Compose(data, animation);
     ASSERT_EQ(picture.Slices.size(), 2U);
     EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, left}));
@@ -228,11 +260,11 @@ TEST(FlatPiePicture, SweepEndsWhereTheSumEnds)
 TEST(FlatPieAnimation, SweepRunsPastAHundredAndStartsAgainWithoutAHold)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(1, CFlatPieAnimation::sweep);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
     for (int tick = 0; tick < 101; ++tick)
-        animation.Animate(50, 3);
+        animation.Animate(50, 3, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 101);
-    animation.Animate(50, 3);
+    animation.Animate(50, 3, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 1);
     EXPECT_DOUBLE_EQ(animation.m_dSweepAngle, FlatPieGeometry::fullCircle / 200);
 }
@@ -240,26 +272,26 @@ TEST(FlatPieAnimation, SweepRunsPastAHundredAndStartsAgainWithoutAHold)
 TEST(FlatPieAnimation, FadeGoesOnToTheNextSegmentAfterFiftyTicks)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(1, CFlatPieAnimation::fade);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
     for (int tick = 0; tick < 50; ++tick)
-        animation.Animate(100, 2);
+        animation.Animate(100, 2, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 100);
-    animation.Animate(100, 2);
+    animation.Animate(100, 2, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 2);
     EXPECT_EQ(animation.m_nFadeSegment, 1);
     for (int tick = 0; tick < 50; ++tick)
-        animation.Animate(100, 2);
+        animation.Animate(100, 2, right);
     EXPECT_EQ(animation.m_nFadeSegment, 0);
 }
 
 TEST(FlatPieAnimation, OnlyOneAnimates)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(2, CFlatPieAnimation::sweep);
-    animation.Animate(100, 2);
+    animation.SetAnimation(2, CFlatPieAnimation::sweep, right);
+    animation.Animate(100, 2, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 0);
-    animation.SetAnimation(1, 12);
-    animation.Animate(100, 2);
+    animation.SetAnimation(1, 12, right);
+    animation.Animate(100, 2, right);
     EXPECT_EQ(animation.m_dAnimationPercent, 0);
 }
 
@@ -268,13 +300,14 @@ TEST(FlatPiePicture, FadingSliceGoesAsideAndEarlierOnesAreWhole)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 50, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::fade);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
     auto picture = Compose(data, animation);
     ASSERT_TRUE(picture.Fading);
     EXPECT_EQ(*picture.Fading, (TFlatPieSlice{data.m_pSegments, right, top}));
     EXPECT_TRUE(picture.Slices.empty());
 
     animation.m_nFadeSegment = 2;
+    animation.m_ptStart = bottom;
     picture = Compose(data, animation);
     ASSERT_TRUE(picture.Fading);
     EXPECT_EQ(picture.Fading->ptStart, bottom);
@@ -283,14 +316,80 @@ TEST(FlatPiePicture, FadingSliceGoesAsideAndEarlierOnesAreWhole)
     EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
 }
 
+TEST(FlatPiePicture, FadingAndFinishedSlicesAreDrawnWhateverTheirEnds)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {30, 0.0001, 0.0001});
+    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.m_nFadeSegment = 2;
+    animation.m_ptStart = FlatPieGeometry::ByHalves(position, size, FlatPieGeometry::Angle(30));
+    const auto picture = Compose(data, animation);
+    ASSERT_TRUE(picture.Fading);
+    EXPECT_EQ(picture.Fading->ptStart, picture.Fading->ptEnd);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[1].ptStart, picture.Slices[1].ptEnd);
+}
+
+TEST(FlatPiePicture, FadeWithoutASegmentToFadeHasNoSlice)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 25, 25});
+    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.m_nFadeSegment = 2;
+    ASSERT_EQ(data.DeleteSegment(3), ERefusal::none);
+    const auto picture = Compose(data, animation);
+    EXPECT_FALSE(picture.Fading);
+    EXPECT_TRUE(picture.Slices.empty());
+}
+
+TEST(FlatPiePicture, FadeStartsWhereTheLastOneThatWasShownWholeEnded)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {25, 25, 25});
+    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.m_dAnimationPercent = 98;
+    EXPECT_EQ(Compose(data, animation).Fading->ptEnd, top);
+    EXPECT_EQ(animation.m_ptStart, right); // not at its full strength yet
+    animation.m_dAnimationPercent = 100;
+    Compose(data, animation);
+    EXPECT_EQ(animation.m_ptStart, top);
+
+    animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
+    EXPECT_EQ(Compose(data, animation).Fading->ptStart, top);
+    animation.m_nFadeSegment = 2; // the frame at the second's full strength was never painted
+    EXPECT_EQ(Compose(data, animation).Fading->ptStart, top);
+    animation.m_dAnimationPercent = 100;
+    animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
+    EXPECT_EQ(animation.m_nFadeSegment, 0);
+    EXPECT_EQ(animation.m_ptStart, right);
+}
+
+TEST(FlatPieAnimation, StartPointIsResetWithEveryRunAndRestart)
+{
+    CFlatPieAnimation animation;
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    EXPECT_EQ(animation.m_ptStart, right);
+    animation.m_ptStart = top;
+    animation.m_dAnimationPercent = 100;
+    animation.Animate(100, 2, left); // to 101
+    EXPECT_EQ(animation.m_ptStart, top);
+    animation.Animate(100, 2, left); // starts again
+    EXPECT_EQ(animation.m_ptStart, left);
+    animation.Restart(bottom);
+    EXPECT_EQ(animation.m_ptStart, bottom);
+}
+
 TEST(FlatPiePicture, EmptyPieAndUnknownAnimationShowNothing)
 {
     CFlatPieData data;
     CFlatPieAnimation animation;
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
     Fill(data, {25});
-    animation.SetAnimation(1, 12);
+    animation.SetAnimation(1, 12, right);
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
-    animation.SetAnimation(7, 10); // not 1: still
+    animation.SetAnimation(7, 10, right); // not 1: still
     EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
 }
