@@ -242,3 +242,25 @@ TEST_F(Chart2dBar, UnknownAnimationTypeLeavesTheAxesAlone)
     EXPECT_EQ(picture.Count(kRed), 0);
     EXPECT_EQ(picture.At(99, 200), 0u);
 }
+
+// The group of the still picture starts at 115; where series grow or anything fades it starts at
+// 131, as among several groups, and its label stays over the still picture's place.
+TEST_F(Chart2dBar, OneGroupStandsFartherFromTheAxisWhereSeriesGrowOrFade)
+{
+    FillBars({{100}});
+    const Picture growing = AtTick(22, 25);
+    EXPECT_EQ(growing.At(130, 300), kWhite);
+    EXPECT_EQ(growing.At(131, 300), 0u);
+    EXPECT_EQ(Column(growing, 132, kRed), (POINT{249, 326}));
+    EXPECT_EQ(Column(growing, 397, kRed), (POINT{249, 326}));
+    EXPECT_EQ(growing.At(399, 300), kWhite);
+    EXPECT_EQ(TextDifferences(growing, {253, 332}, L"s", {51}, TA_CENTER), 0);
+    for (const int type : {25, 26}) {
+        const Picture fading = AtTick(type, 25);
+        EXPECT_EQ(fading.At(130, 250), kWhite) << type;
+        EXPECT_TRUE(IsBlend(fading.At(132, 250), kWhite, kRed, 127)) << type;
+        EXPECT_TRUE(IsBlend(fading.At(397, 250), kWhite, kRed, 127)) << type;
+        EXPECT_EQ(fading.At(399, 250), kWhite) << type;
+        EXPECT_EQ(TextDifferences(fading, {253, 332}, L"s", {51}, TA_CENTER), 0) << type;
+    }
+}

@@ -337,3 +337,92 @@ TEST_F(Chart2dWindow, NewSizeLeavesTheAnimationWhereItWas)
     // H = 300: base 210 + 285 - 3 = 492; half of trunc(240) above it
     EXPECT_EQ(Column(Shoot(), 150, kRed, 598), (POINT{373, 490}));
 }
+
+TEST_F(Chart2dWindow, TickMovesTheAnimationOnWhateverTheTimersIdentifier)
+{
+    Create(kBar);
+    FillBars({{100, 100}});
+    chart->ShowGraphLegend(0);
+    AtTick(20, 49);
+    ::SendMessageW(Handle(), WM_TIMER, 1, 0);
+    EXPECT_EQ(Column(Shoot(), 150, kRed), (POINT{249, 326}));
+}
+
+TEST_F(Chart2dWindow, TickRepaintsWithoutAnEraseAndForgetsWhatWasPending)
+{
+    Create(kBar);
+    FillBars({{100, 100}});
+    AtTick(20, 5);
+    chart->SetGraphTitleColor(kBlue);
+    chart->SetGraphTitle(Text(L"Title"));
+    chart->SetGraphLegendTextColor(kBlue);
+    Tick();
+    EXPECT_EQ(Picture(Handle()).Count(kBlue), 0);
+    EXPECT_EQ(Redrawn(false).Count(kBlue), 0);
+    EXPECT_GT(Redrawn(true).Count(kBlue), 100);
+}
+
+// Of 640 x 400: heights 80 and 28, widths 25 and 19.
+TEST_F(Chart2dWindow, TextsHaveTheirFontsAndPlaces)
+{
+    const TFont titleFont{80, 25, 400};
+    const TFont subtitleFont{28, 19, 700};
+    Create(kBar);
+    chart->ShowGraphLegend(0);
+    chart->SetGraphTitle(Text(L"Title"));
+    EXPECT_EQ(TextDifferences(Redrawn(), {32, 10}, L"Title", titleFont), 0);
+    chart->SetGraphTitle(Text(L""));
+    chart->SetGraphSubtitle(Text(L"Subtitle"));
+    EXPECT_EQ(TextDifferences(Redrawn(), {32, 80}, L"Subtitle", subtitleFont), 0);
+
+    chart->SetGraphSubtitleColor(kWhite); // shadows alone are left
+    chart->SetGraphTitleColor(kWhite);
+    chart->SetGraphSubtitle(Text(L""));
+    chart->SetGraphTitleShadow(1);
+    chart->SetGraphTitle(Text(L"|"));
+    EXPECT_GT(Redrawn().Count({41, 14, 80, 100}, 0x808080), 50);
+    EXPECT_EQ(Redrawn().Count({0, 0, 41, 398}, 0x808080), 0);
+}
+
+TEST_F(Chart2dWindow, ShadowsStandBesideTheirTexts)
+{
+    constexpr COLORREF shadow = 0x808080;
+    const TFont subtitleFont{28, 19, 700};
+    Create(kBar);
+    chart->ShowGraphLegend(0);
+    chart->SetGraphSubtitleShadow(1);
+    chart->SetGraphSubtitle(Text(L"I"));
+    chart->SetGraphSubtitleColor(shadow);
+    const Picture picture = Redrawn(); // the shadow at (38, 83), the text at (32, 80)
+    chart->SetGraphSubtitleShadow(0);
+    const Picture alone = Redrawn();
+    int moved = 0;
+    for (int y = 80; y < 110; ++y) {
+        for (int x = 32; x < 60; ++x)
+            moved += alone.At(x, y) == shadow && picture.At(x + 6, y + 3) != shadow ? 1 : 0;
+    }
+    EXPECT_EQ(TextDifferences(alone, {32, 80}, L"I", subtitleFont, TA_LEFT, shadow), 0);
+    EXPECT_EQ(moved, 0);
+    EXPECT_GT(picture.Count(shadow), alone.Count(shadow));
+}
+
+TEST_F(Chart2dWindow, NewSizeMakesTheTextsFontsAgain)
+{
+    Create(kBar);
+    chart->ShowGraphLegend(0);
+    chart->SetGraphSize(600, 300); // 24 wide, 60 high, at (30, 7)
+    chart->SetGraphTitle(Text(L"Title"));
+    EXPECT_EQ(TextDifferences(Redrawn(), {30, 7}, L"Title", {60, 24, 400}), 0);
+}
+
+TEST_F(Chart2dWindow, CreatingTheGraphShowsAHiddenWindow)
+{
+    RECT rect = {0, 0, 640, 400};
+    chart->Create(&rect, WireHandle(host.m_hWnd), 7);
+    ::ShowWindow(Handle(), SW_HIDE);
+    chart->CreateGraph(kBar);
+    EXPECT_TRUE(::IsWindowVisible(Handle()));
+    ::ShowWindow(Handle(), SW_HIDE);
+    chart->CreateGraph(5); // whatever the kind
+    EXPECT_TRUE(::IsWindowVisible(Handle()));
+}
