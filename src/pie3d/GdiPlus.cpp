@@ -222,8 +222,18 @@ void CGraphics::FillPie(Gdiplus::GpBrush* brush, const TRectF& rc, float start,
 
 void CGraphics::DrawPie(const CPen& pen, const TRectF& rc, float start, float sweep) const noexcept
 {
-    if (PieGeometry::OutlineAngles(rc, start, sweep)) {
+    switch (PieGeometry::OutlineAngles(rc, start, sweep)) {
+    case PieGeometry::EOutline::whole:
         Flat::GdipDrawPie(m_graphics.Get(), pen.Get(), rc.x, rc.y, rc.width, rc.height, start, sweep);
+        break;
+    case PieGeometry::EOutline::radii: {
+        const PieGeometry::TRadii radii = PieGeometry::RadiiOf(rc, start, sweep);
+        DrawLine(pen, radii.first, radii.centre);
+        DrawLine(pen, radii.centre, radii.last);
+        break;
+    }
+    case PieGeometry::EOutline::nothing:
+        break;
     }
 }
 

@@ -82,7 +82,8 @@ void CPieChartWnd::DrawSideWall(const GdiPlus::CGraphics& graphics, SPieElement&
     const PieGeometry::TRectF lower = GdiPlus::ToFloats(faces.rcLower);
     float start = piece.fStart;
     float sweep = piece.fSweep;
-    const bool outlined = PieGeometry::OutlineAngles(lower, start, sweep);
+    const bool outlined =
+        PieGeometry::OutlineAngles(lower, start, sweep) == PieGeometry::EOutline::whole;
 
     const GdiPlus::CPath wall = GdiPlus::NewPath();
     GdiPlus::AddArc(wall, lower, start, sweep);

@@ -233,19 +233,31 @@ bool DrawableAngles(float& fStart, float& fSweep) noexcept
     return true;
 }
 
-bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
+TRadii RadiiOf(const TRectF& rc, float fStart, float fSweep) noexcept
+{
+    const TEllipse ellipse(rc);
+    const TPointF centre{rc.x + rc.width / 2, rc.y + rc.height / 2};
+    const auto rim = [&](float angle) {
+        const double parameter = ellipse.Parameter(angle);
+        return TPointF{static_cast<float>(centre.x + ellipse.halfWidth * std::cos(parameter)),
+                       static_cast<float>(centre.y + ellipse.halfHeight * std::sin(parameter))};
+    };
+    return {centre, rim(fStart), rim(fStart + fSweep)};
+}
+
+EOutline OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
 {
     if (!DrawableAngles(fStart, fSweep)) {
-        return false;
+        return EOutline::nothing;
     }
     const TEllipse ellipse(rc);
     if (std::min(ellipse.halfWidth, ellipse.halfHeight) < 0.5) {
-        return false;
+        return EOutline::nothing;
     }
     const double from = ellipse.Parameter(fStart);
     const double to = ellipse.Parameter(fStart + fSweep);
     if (std::abs(fSweep) < 180.0f && ellipse.IsSliver(from, to)) {
-        return false;
+        return EOutline::radii;
     }
     constexpr double quarter = std::numbers::pi / 2;
     const double quarters = std::round(std::abs(to - from) / quarter);
@@ -254,7 +266,7 @@ bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
     if (quarters > 0 && (ellipse.IsSliver(nearest, to) || std::abs(nearest - to) < step)) {
         fSweep = static_cast<float>(ellipse.Angle(nearest - std::copysign(step, to - from)) - fStart);
     }
-    return true;
+    return EOutline::whole;
 }
 
 } // namespace PieGeometry

@@ -83,10 +83,20 @@ constexpr float fThinnestSweep = 0.001f;
 // the sweep is under a thousandth of a degree, which has no pixel.
 [[nodiscard]] bool DrawableAngles(float& fStart, float& fSweep) noexcept;
 
-// The same for an outline on the ellipse in rc. The library splits an arc into quarters of
-// the ellipse, and some versions do not survive to stroke a piece that is as good as straight.
-// So the sweep ends just short of a quarter where it would reach beyond it by so little;
-// false if the whole arc is so short, or the ellipse less than a pixel high.
-[[nodiscard]] bool OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept;
+// The two radii of a slice of the ellipse in rc.
+struct TRadii {
+    TPointF centre;
+    TPointF first; // where the slice begins on the rim
+    TPointF last;
+};
+[[nodiscard]] TRadii RadiiOf(const TRectF& rc, float fStart, float fSweep) noexcept;
+
+// What can be drawn of an outline on the ellipse in rc, and its angles. The library splits an arc into
+// quarters of the ellipse, and some versions do not survive to stroke a piece that is as good as
+// straight. So the sweep ends just short of a quarter where it would reach beyond it by so little. An
+// arc that is so short as a whole is left out: the radii alone are the outline. Nothing is
+// drawn of an ellipse less than a pixel high.
+enum class EOutline { nothing, radii, whole };
+[[nodiscard]] EOutline OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept;
 
 } // namespace PieGeometry

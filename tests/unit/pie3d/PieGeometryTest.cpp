@@ -242,7 +242,7 @@ constexpr TRectF rcEllipse{30, 100, 470, 470};
 
 float Outlined(const TRectF& rc, float start, float sweep)
 {
-    return OutlineAngles(rc, start, sweep) ? sweep : 0.0f;
+    return OutlineAngles(rc, start, sweep) == EOutline::whole ? sweep : 0.0f;
 }
 
 } // namespace
@@ -286,4 +286,30 @@ TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
     EXPECT_EQ(Outlined({30, 300, 470, 20}, 85.0f, 10.0f), 0.0f); // 10 * (1 - cos) of a half degree
     EXPECT_EQ(Outlined({30, 300, 470, 0.9f}, 0.0f, 200.0f), 0.0f);
     EXPECT_EQ(Outlined({30, 300, 470, 0}, 0.0f, 200.0f), 0.0f);
+}
+
+TEST(PieOutline, ASliceTooThinForItsArcKeepsItsRadiiDownToAThousandthOfADegree)
+{
+    float start = 10.0f;
+    for (float sweep : {0.15f, 0.01f, 0.001f, -0.001f}) {
+        EXPECT_EQ(OutlineAngles(rcEllipse, start, sweep), EOutline::radii) << sweep;
+    }
+    float none = 0.0009f;
+    EXPECT_EQ(OutlineAngles(rcEllipse, start, none), EOutline::nothing);
+    float around = 200.0f;
+    EXPECT_EQ(OutlineAngles({30, 300, 470, 0.9f}, start, around), EOutline::nothing);
+}
+
+TEST(PieOutline, RadiiRunFromTheCentreToTheEllipse)
+{
+    const TRadii circle = RadiiOf(rcEllipse, 0.0f, 90.0f);
+    EXPECT_EQ(circle.centre, (TPointF{265, 335}));
+    EXPECT_NEAR(circle.first.x, 500.0f, 1e-3f);
+    EXPECT_NEAR(circle.first.y, 335.0f, 1e-3f);
+    EXPECT_NEAR(circle.last.x, 265.0f, 1e-3f);
+    EXPECT_NEAR(circle.last.y, 570.0f, 1e-3f);
+    // 26.565 degrees on half axes 235 and 117.5 are 45 on the circle.
+    const TRadii flat = RadiiOf({30, 100, 470, 235}, 26.56505f, 0.0f);
+    EXPECT_NEAR(flat.first.x, 265 + 235 * 0.70710678f, 1e-3f);
+    EXPECT_NEAR(flat.first.y, 217.5f + 117.5f * 0.70710678f, 1e-3f);
 }
