@@ -138,11 +138,10 @@ private:
     // Elements
     void RecalcPercents() noexcept;
     void RenumberElements() noexcept;
-    void FindLongestLabel();
+    [[nodiscard]] CString LongestLabelWith(const SPieElement* pItem, const CString& strLabel) const;
     int Remove(TPieElements::iterator position);
     void PutInOrder(const std::vector<std::size_t>& positions);
     [[nodiscard]] TPieElements::const_iterator Find(const CString& strElement) const noexcept;
-    [[nodiscard]] double TotalWith(const SPieElement* pItem, double dVal) const noexcept;
 
     // Label list
     void RecalcLabelExtent() noexcept;
@@ -156,7 +155,12 @@ private:
     [[nodiscard]] PieGeometry::TFaces Faces() const noexcept;
     void ProjectAngles();
     void DrawFrame(CDC& dc, TSlicePainter pfnSlices);
-    [[nodiscard]] GdiPlus::CBitmap NewPicture(const TRect& rcClient, TSlicePainter pfnSlices);
+    struct TPicture {
+        GdiPlus::CBitmap Bitmap;
+        bool bHasPercents = false;
+    };
+    [[nodiscard]] TPicture KeptOrNewPicture(const TRect& rcClient, TSlicePainter pfnSlices);
+    [[nodiscard]] TPicture NewPicture(const TRect& rcClient, TSlicePainter pfnSlices);
     void DrawDoughnut(CDC& dc);
     void DrawFlat(CDC& dc);
     void Draw3D(CDC& dc);
@@ -183,6 +187,6 @@ private:
     int SaveImage(const GdiPlus::CBitmap& bitmap);
 
     // With very many elements, the picture without its labels while nothing but the list
-    // scrolls; else empty.
+    // scrolls; else empty, as also where there was no memory for it.
     GdiPlus::CBitmap m_KeptPicture;
 };

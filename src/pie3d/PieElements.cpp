@@ -23,12 +23,15 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
     element->crLight = PieColors::LightenColor(crColor, element->fGradientLight);
     element->crDark = PieColors::DarkenColor(crColor, element->fGradientDark);
 
-    SPieElement* const added = (m_mapElements[m_nElements] = std::move(element)).get();
+    const bool longest = strLabel.GetLength() > m_strLongestLabel.GetLength();
+    CString longestLabel = longest ? strLabel : m_strLongestLabel;
+
+    // The last step that memory can run out in: before it nothing has changed.
+    SPieElement* const added =
+        m_mapElements.emplace_hint(m_mapElements.end(), m_nElements, std::move(element))->second.get();
+    m_strLongestLabel = std::move(longestLabel);
     ++m_nElements;
     m_dTotal += dValue;
-    if (strLabel.GetLength() > m_strLongestLabel.GetLength()) {
-        m_strLongestLabel = strLabel;
-    }
     RecalcPercents();
     RecalcLabelExtent();
     UpdateScrollBar();
@@ -50,11 +53,16 @@ int CPieChartWnd::RemoveItemByIndex(std::int32_t iElementID)
 
 int CPieChartWnd::Remove(TPieElements::iterator position)
 {
-    m_dTotal = TotalWith(position->second.get(), 0);
+    const double total = m_dTotal - position->second->dValue;
+    if (!PieShares::IsUsable(total)) {
+        return 0;
+    }
+    CString longestLabel = LongestLabelWith(position->second.get(), {});
+    m_dTotal = total;
     m_mapElements.erase(position);
     --m_nElements;
     RenumberElements();
-    FindLongestLabel();
+    m_strLongestLabel = std::move(longestLabel);
     RecalcPercents();
     RecalcLabelExtent();
     SyncFirstLabel(m_wndScrollBar.GetScrollPos(), FALSE);
@@ -76,8 +84,9 @@ int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
     if (pItem == nullptr) {
         return 0;
     }
+    CString longestLabel = LongestLabelWith(pItem, strLabel);
     pItem->strLabel = strLabel;
-    FindLongestLabel();
+    m_strLongestLabel = std::move(longestLabel);
     Repaint();
     return 1;
 }
@@ -87,7 +96,7 @@ int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
     if (pItem == nullptr || dVal == 0) {
         return 0;
     }
-    const double total = TotalWith(pItem, dVal);
+    const double total = m_dTotal - pItem->dValue + dVal;
     if (!PieShares::IsUsable(total)) {
         return 0;
     }
@@ -207,15 +216,17 @@ void CPieChartWnd::RenumberElements() noexcept
     }
 }
 
-void CPieChartWnd::FindLongestLabel()
+// The first of the longest labels, where pItem has strLabel.
+CString CPieChartWnd::LongestLabelWith(const SPieElement* pItem, const CString& strLabel) const
 {
-    CString longest;
+    std::wstring_view longest;
     for (const auto& [key, element] : m_mapElements) {
-        if (element->strLabel.GetLength() > longest.GetLength()) {
-            longest = element->strLabel;
+        const CString& label = element.get() == pItem ? strLabel : element->strLabel;
+        if (label.View().size() > longest.size()) {
+            longest = label.View();
         }
     }
-    m_strLongestLabel = longest;
+    return CString(longest);
 }
 
 void CPieChartWnd::RecalcPercents() noexcept
@@ -228,16 +239,6 @@ void CPieChartWnd::RecalcPercents() noexcept
         element->fSweep = element->fPercent * 360.0f;
         element->fDrawSweep = element->fSweep;
     }
-}
-
-// Summed afresh, so that a large value that goes leaves no rounding behind.
-double CPieChartWnd::TotalWith(const SPieElement* pItem, double dVal) const noexcept
-{
-    double total = 0;
-    for (const auto& [key, element] : m_mapElements) {
-        total += element.get() == pItem ? dVal : element->dValue;
-    }
-    return total;
 }
 
 TPieElements::const_iterator CPieChartWnd::Find(const CString& strElement) const noexcept

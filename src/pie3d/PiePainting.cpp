@@ -44,13 +44,12 @@ GdiPlus::CPath RoundedFrame(const TRect& rc) noexcept
 void CPieChartWnd::DrawFrame(CDC& dc, TSlicePainter pfnSlices)
 {
     const TRect client = ClientRect();
-    GdiPlus::CBitmap picture =
-        m_KeptPicture ? GdiPlus::CloneOf(m_KeptPicture) : NewPicture(client, pfnSlices);
+    const TPicture picture = KeptOrNewPicture(client, pfnSlices);
     {
-        const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture);
+        const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
         DrawLabels(graphics);
-        if (m_bShowPercent && !m_KeptPicture) {
+        if (m_bShowPercent && !picture.bHasPercents) {
             DrawPercents(graphics);
         }
     }
@@ -58,28 +57,38 @@ void CPieChartWnd::DrawFrame(CDC& dc, TSlicePainter pfnSlices)
     if (m_nChartStyle == 2) {
         screen.SmoothHighQuality();
     }
-    SaveImage(picture);
-    screen.DrawWhole(picture, {client.left, client.top});
+    SaveImage(picture.Bitmap);
+    screen.DrawWhole(picture.Bitmap, {client.left, client.top});
+}
+
+CPieChartWnd::TPicture CPieChartWnd::KeptOrNewPicture(const TRect& rcClient, TSlicePainter pfnSlices)
+{
+    if (m_KeptPicture) {
+        GdiPlus::CBitmap copy = GdiPlus::CloneOf(m_KeptPicture);
+        if (copy) {
+            return {std::move(copy), true};
+        }
+    }
+    return NewPicture(rcClient, pfnSlices);
 }
 
 // The background and the slices. With very many of these, and the percents clear of the
 // list, the percents follow at once and the result is kept for the next steps of scrolling.
-GdiPlus::CBitmap CPieChartWnd::NewPicture(const TRect& rcClient, TSlicePainter pfnSlices)
+CPieChartWnd::TPicture CPieChartWnd::NewPicture(const TRect& rcClient, TSlicePainter pfnSlices)
 {
-    GdiPlus::CBitmap picture = GdiPlus::NewBitmap({rcClient.Width(), rcClient.Height()});
-    bool keep = false;
+    TPicture picture{GdiPlus::NewBitmap({rcClient.Width(), rcClient.Height()})};
     {
-        const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture);
+        const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
         DrawBackground(graphics);
         (this->*pfnSlices)(graphics);
-        keep = m_mapElements.size() >= nVeryMany && !PercentsReachLabels(graphics);
-        if (keep && m_bShowPercent) {
+        picture.bHasPercents = m_mapElements.size() >= nVeryMany && !PercentsReachLabels(graphics);
+        if (picture.bHasPercents && m_bShowPercent) {
             DrawPercents(graphics);
         }
     }
-    if (keep) {
-        m_KeptPicture = GdiPlus::CloneOf(picture);
+    if (picture.bHasPercents) {
+        m_KeptPicture = GdiPlus::CloneOf(picture.Bitmap);
     }
     return picture;
 }

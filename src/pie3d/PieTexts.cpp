@@ -22,6 +22,18 @@ float AsFloat(std::int32_t value) noexcept
     return static_cast<float>(value);
 }
 
+// Whether the width holds the first glyph; none at all is no limit. Without that room nothing is
+// shown, but the platform may lose a memory context in the attempt.
+bool HoldsAGlyph(const GdiPlus::CGraphics& graphics, std::wstring_view text, const GdiPlus::CFont& font,
+                 float width)
+{
+    if (width <= 0) {
+        return true;
+    }
+    const auto needs = [&](std::wstring_view part) { return graphics.Measure(part, font).width; };
+    return width >= needs(L" ") && width >= needs(text.substr(0, 1));
+}
+
 } // namespace
 
 void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
@@ -54,15 +66,20 @@ void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
         GdiPlus::SetColor(edge, PieColors::LightenColor(element.crColor, 200.0f));
         graphics.FillRectangle(mark.Get(), rcMark);
         graphics.DrawRectangle(edge, rcMark);
-        graphics.DrawString(element.strLabel.View(), font,
-                            {textX, AsFloat(y), columns.fTextWidth, AsFloat(m_nRowHeight)}, ink.Get(),
-                            &format);
+        if (HoldsAGlyph(graphics, element.strLabel.View(), font, columns.fTextWidth)) {
+            graphics.DrawString(element.strLabel.View(), font,
+                                {textX, AsFloat(y), columns.fTextWidth, AsFloat(m_nRowHeight)},
+                                ink.Get(), &format);
+        }
         if (m_bLabelPercent && columns.fPercentWidth > 0) {
             DrawPercentSeparator(graphics, columns, firstY, y);
-            graphics.DrawString(
-                PercentText(element, true).View(), font,
-                {columns.fPercentX + 1, AsFloat(y), columns.fPercentWidth, percentSize.height},
-                ink.Get(), &format);
+            const CString percent = PercentText(element, true);
+            if (HoldsAGlyph(graphics, percent.View(), font, columns.fPercentWidth)) {
+                graphics.DrawString(
+                    percent.View(), font,
+                    {columns.fPercentX + 1, AsFloat(y), columns.fPercentWidth, percentSize.height},
+                    ink.Get(), &format);
+            }
         }
         y += m_nRowGap + m_nRowHeight;
     }

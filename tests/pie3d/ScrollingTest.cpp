@@ -65,6 +65,19 @@ TEST_F(PieScrolling, MoreRowsThanFitShowTheBarAndFewerHideItAgain)
     EXPECT_FALSE(pie.m_wndScrollBar.GetStyle() & WS_VISIBLE);
 }
 
+TEST_F(PieScrolling, RowsExactlyAsHighAsThePieHideTheBar)
+{
+    pie.MoveWindow(0, 0, 663, 600);
+    ASSERT_EQ(pie.GetPieRect(), (TRect{30, 100, 442, 512}));
+    for (int i = 0; i < 10; ++i) {
+        Fill({1});
+    }
+    EXPECT_EQ(pie.m_nLabelsHeight, 412);
+    EXPECT_FALSE(pie.m_wndScrollBar.GetStyle() & WS_VISIBLE);
+    Fill({1});
+    EXPECT_TRUE(pie.m_wndScrollBar.GetStyle() & WS_VISIBLE);
+}
+
 TEST_F(PieScrolling, NoElementsLeaveTheHeightOfAGapBelowNothing)
 {
     Fill({1});
@@ -132,9 +145,15 @@ TEST_F(PieLongList, TheThumbGoesWhereTheBarSaysAndNotWhereTheMessageSays)
 
 TEST_F(PieLongList, TheThumbNearTheEndShowsTheLastRows)
 {
-    pie.m_wndScrollBar.SetScrollPos(360);
+    pie.m_wndScrollBar.SetScrollPos(348); // a row before the limit is not near yet
     Scroll(SB_THUMBTRACK);
-    EXPECT_EQ(pie.m_nFirstLabel, 9);
+    ExpectAt(8, 348);
+    pie.m_wndScrollBar.SetScrollPos(349);
+    Scroll(SB_THUMBTRACK);
+    ExpectAt(9, 349);
+    pie.m_wndScrollBar.SetScrollPos(349);
+    pie.SyncFirstLabel(10, TRUE); // the bar's position counts, not the one that is given
+    ExpectAt(9, 373);
 }
 
 TEST_F(PieLongList, OtherCodesKeepThePlaceAndRepaint)
@@ -153,6 +172,16 @@ TEST_F(PieLongList, ARemovalKeepsTheFirstRowInStep)
     pie.m_wndScrollBar.SetScrollPos(100);
     pie.RemoveItemByIndex(19);
     EXPECT_EQ(pie.m_nFirstLabel, 2);
+}
+
+TEST_F(PieLongList, ARemovalAtTheEndTakesTheFirstRowFromThePositionBeforeIt)
+{
+    for (int i = 0; i < 9; ++i) {
+        Scroll(SB_LINEDOWN);
+    }
+    ExpectAt(9, 373);
+    pie.RemoveItemByIndex(19);
+    ExpectAt(8, 330); // 373 / 43, and then the bar's new limit
 }
 
 TEST_F(PieLongList, AFirstRowBeyondTheElementsShowsNoLabelUntilTheNextScroll)

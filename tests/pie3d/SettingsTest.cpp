@@ -162,3 +162,82 @@ TEST_F(PieSettings, AnObjectOutlivesItsWindow)
     EXPECT_EQ(pie.UpdateItemValue(&Element(0), 5), 1);
     EXPECT_EQ(pie.RemoveItem(L"e0"), 1);
 }
+
+class PieRepaints : public PieWindow
+{
+protected:
+    PieRepaints()
+    {
+        s_erased = false;
+        s_pfnPie = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(pie.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Watch)));
+        Fill({1, 2, 3});
+    }
+    ~PieRepaints() override
+    {
+        ::SetWindowLongPtrW(pie.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_pfnPie));
+    }
+
+    // Whether the paint that the change asks for erases the window, if it asks for one.
+    template <class Change> bool Erases(Change change)
+    {
+        ::ValidateRect(pie.m_hWnd, nullptr);
+        change();
+        s_erased = false;
+        pie.UpdateWindow();
+        return s_erased;
+    }
+
+    LOGFONTW m_font = Font(L"Arial", 400);
+
+private:
+    static LRESULT CALLBACK Watch(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        s_erased = s_erased || message == WM_ERASEBKGND;
+        return ::CallWindowProcW(s_pfnPie, hWnd, message, wParam, lParam);
+    }
+
+    inline static bool s_erased = false;
+    inline static WNDPROC s_pfnPie = nullptr;
+};
+
+TEST_F(PieRepaints, EverySetterOfTheWindowErasesButTheParentsColour)
+{
+    EXPECT_TRUE(Erases([&] { pie.SetBackgrndColor(kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.SetBackGroundGradientLight(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetBackGroundGradientDark(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelColor(kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelBoxColor(kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelFontName(L"Arial"); }));
+    EXPECT_TRUE(Erases([&] { pie.SetTitleFontName(L"Arial"); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieChartTitle(L"x"); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelFont(m_font); }));
+    EXPECT_TRUE(Erases([&] { pie.SetTitleFont(m_font); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieChartStyle(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetStartAngle(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetInclineAngle(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetDepth(1); }));
+    EXPECT_FALSE(Erases([&] { pie.SetParentWindowColor(1); }));
+    EXPECT_FALSE(Erases([&] { pie.SetDepth(-1); }));
+}
+
+TEST_F(PieRepaints, EveryChangeOfTheElementsErasesButTheRemovalOfAll)
+{
+    EXPECT_TRUE(Erases([&] { pie.InsertItem(L"new", L"", 1, kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.RemoveItem(L"new"); }));
+    EXPECT_TRUE(Erases([&] { pie.RemoveItemByIndex(2); }));
+    EXPECT_TRUE(Erases([&] { pie.UpdateItemLabel(&Element(0), L"x"); }));
+    EXPECT_TRUE(Erases([&] { pie.UpdateItemValue(&Element(0), 5); }));
+    EXPECT_TRUE(Erases([&] { pie.UpdateItemColor(&Element(0), kBlue); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientLight(&Element(0), 1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientDark(&Element(0), 1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientLightAll(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientDarkAll(1); }));
+    EXPECT_TRUE(Erases([&] { pie.sortPiechartElements(1); }));
+    EXPECT_TRUE(Erases([&] { pie.SortToOrginalOrder(); }));
+    EXPECT_TRUE(Erases([&] { Click(1, 1); }));
+    EXPECT_TRUE(Erases([&] { Scroll(SB_LINEDOWN); }));
+    EXPECT_FALSE(Erases([&] { pie.RemoveItem(L"none"); }));
+    EXPECT_FALSE(Erases([&] { pie.UpdateItemValue(&Element(0), 0); }));
+    EXPECT_FALSE(Erases([&] { pie.RemoveAllItem(); }));
+}
