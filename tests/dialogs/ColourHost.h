@@ -78,6 +78,15 @@ public:
         ::SendMessageW(m_button, BM_CLICK, 0, 0);
         return Popup();
     }
+    // The same from a button of that colour, with what the opening said forgotten.
+    CColourPopup* OpenOn(COLORREF colour)
+    {
+        m_button.SetColor(colour);
+        CColourPopup* const popup = Click();
+        DrainQueue();
+        m_board.m_notes.clear();
+        return popup;
+    }
     [[nodiscard]] CColourPopup* Popup() const
     {
         CColourPopup* found = nullptr;

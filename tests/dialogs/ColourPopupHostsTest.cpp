@@ -6,6 +6,7 @@
 
 #include "dialogs/ColourHost.h"
 #include "support/GdiCount.h"
+#include "support/HeapUse.h"
 #include "windowing/DialogHost.h"
 
 namespace
@@ -144,20 +145,23 @@ INSTANTIATE_TEST_SUITE_P(Targets, ColourPopupHosts,
 TEST(ColourPopupEndurance, TwoHundredOpeningsLeaveNothing)
 {
     CColourHost host;
-    const auto cycle = [&host] {
-        CColourPopup* const popup = host.Click();
-        ASSERT_NE(popup, nullptr);
-        DrainQueue();
-        CColourHost::Press(VK_DOWN);
-        CColourHost::Press(VK_RETURN);
-        ASSERT_EQ(host.Popup(), nullptr);
+    const auto open = [&host](int times) {
+        for (int count = 0; count < times; ++count) {
+            ASSERT_NE(host.Click(), nullptr);
+            DrainQueue();
+            CColourHost::Press(VK_DOWN);
+            CColourHost::Press(VK_RETURN);
+            ASSERT_EQ(host.Popup(), nullptr);
+            host.m_board.m_notes.clear();
+        }
     };
-    cycle();
+    open(20);
     const int objects = GdiCount::All();
     const int windows = CountWindows();
-    for (int count = 0; count < 200; ++count)
-        cycle();
+    const std::ptrdiff_t bytes = HeapUse::Bytes();
+    open(200);
     EXPECT_EQ(GdiCount::All(), objects);
     EXPECT_EQ(CountWindows(), windows);
+    EXPECT_LT(HeapUse::Bytes() - bytes, 200 * 16);
     EXPECT_EQ(::GetCapture(), nullptr);
 }

@@ -1,11 +1,10 @@
-// The colour popup: mouse, keys, look, and the system's colour dialog behind it.
+// The colour popup: mouse, keys, and the system's colour dialog behind it.
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "dialogs/ColourHost.h"
-#include "support/Picture.h"
 #include "windowing/DialogHost.h"
 
 using PopupLayout::AutoBox;
@@ -26,14 +25,7 @@ protected:
     CColorButton& m_button = m_host.m_button;
     CBoard& m_board = m_host.m_board;
 
-    CColourPopup* OpenOn(COLORREF colour)
-    {
-        m_button.SetColor(colour);
-        CColourPopup* const popup = m_host.Click();
-        DrainQueue();
-        m_board.m_notes.clear();
-        return popup;
-    }
+    CColourPopup* OpenOn(COLORREF colour) { return m_host.OpenOn(colour); }
     // Answers the colour dialog with a button.
     static CModalSteps::CStep AnswerColourDialog(int button)
     {
@@ -317,94 +309,4 @@ TEST_F(ColourPopup, TakesTheMouseBackFromAnotherWindowAndSwallowsTheMessage)
     EXPECT_EQ(popup->m_nHot, NoCell);
     CColourHost::Press(VK_DOWN);
     EXPECT_EQ(popup->m_nHot, 0);
-}
-
-TEST_F(ColourPopup, EachCellHasItsNameAsToolTip)
-{
-    CColourPopup* const popup = OpenOn(Unknown);
-    ASSERT_EQ(popup->m_ToolTip.SendMessage(TTM_GETTOOLCOUNT), 40);
-    for (int cell = 0; cell < 40; ++cell) {
-        wchar_t text[80] = {};
-        const CPoint middle = CColourHost::MiddleOf(*popup, cell);
-        TTHITTESTINFOW hit{};
-        hit.hwnd = *popup;
-        hit.pt = middle;
-        hit.ti.cbSize = sizeof hit.ti;
-        hit.ti.lpszText = text;
-        ASSERT_TRUE(popup->m_ToolTip.SendMessage(TTM_HITTESTW, 0, reinterpret_cast<LPARAM>(&hit)));
-        EXPECT_EQ(CString(text), CString(ColourTable::Entries[static_cast<std::size_t>(cell)].name));
-    }
-}
-
-TEST_F(ColourPopup, CellsShowTheirColours)
-{
-    CColourPopup* const popup = OpenOn(Unknown);
-    popup->RedrawWindow();
-    const Picture picture(*popup);
-    for (int cell = 0; cell < 40; ++cell) {
-        const CPoint middle = CColourHost::MiddleOf(*popup, cell);
-        EXPECT_EQ(picture.At(middle.x, middle.y),
-                  ColourTable::Entries[static_cast<std::size_t>(cell)].colour);
-    }
-}
-
-TEST_F(ColourPopup, PickedCellIsSunkenAndTheHotOneRaised)
-{
-    CColourPopup* const popup = OpenOn(Red);
-    popup->RedrawWindow();
-    const CPoint red = CColourHost::MiddleOf(*popup, RedCell);
-    const int half = popup->m_nCellSize / 2;
-    const CPoint corner(red.x - half, red.y - half); // the cell's own
-    {
-        const Picture picture(*popup);
-        EXPECT_EQ(picture.At(corner.x, corner.y), ::GetSysColor(COLOR_BTNSHADOW));
-        EXPECT_EQ(picture.At(corner.x + 1, corner.y + 1), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-    }
-    CColourHost::MoveTo(*popup, red);
-    {
-        const Picture picture(*popup);
-        EXPECT_EQ(picture.At(corner.x, corner.y), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-        EXPECT_EQ(picture.At(corner.x + 1, corner.y + 1), ::GetSysColor(COLOR_BTNFACE));
-    }
-    CColourHost::MoveTo(*popup, CColourHost::MiddleOf(*popup, RedCell + 1));
-    const Picture picture(*popup);
-    EXPECT_EQ(picture.At(corner.x, corner.y), ::GetSysColor(COLOR_BTNSHADOW))
-        << "redrawn without its heat";
-}
-
-TEST_F(ColourPopup, PickedBoxIsLighterUntilItIsHot)
-{
-    CColourPopup* const popup = OpenOn(CLR_DEFAULT);
-    popup->RedrawWindow();
-    const int x = popup->m_rcAuto.left + 3;
-    const int y = popup->m_rcAuto.top + 3;
-    EXPECT_EQ(Picture(*popup).At(x, y), ::GetSysColor(COLOR_3DLIGHT));
-    CColourHost::MoveTo(*popup, CColourHost::MiddleOf(*popup, AutoBox));
-    EXPECT_EQ(Picture(*popup).At(x, y), ::GetSysColor(COLOR_BTNFACE));
-}
-
-TEST_F(ColourPopup, LineSeparatesTheLowerBox)
-{
-    CColourPopup* const popup = OpenOn(Red);
-    popup->RedrawWindow();
-    const Picture picture(*popup);
-    const int left = popup->m_rcMore.left + 2 * popup->m_nEdge;
-    const int right = popup->m_rcMore.right - 2 * popup->m_nEdge;
-    const int top = popup->m_rcMore.top;
-    EXPECT_EQ(picture.Count({left, top, right, top + 1}, ::GetSysColor(COLOR_BTNSHADOW)), right - left);
-    EXPECT_EQ(picture.Count({left, top + 1, right, top + 2}, ::GetSysColor(COLOR_BTNHIGHLIGHT)),
-              right - left);
-}
-
-TEST_F(ColourPopup, ChangedPaletteOfAnotherWindowRepaintsIt)
-{
-    CColourPopup* const popup = OpenOn(Red);
-    popup->RedrawWindow();
-    popup->SendMessage(WM_PALETTECHANGED, reinterpret_cast<WPARAM>(popup->m_hWnd));
-    EXPECT_FALSE(::GetUpdateRect(*popup, nullptr, FALSE));
-    popup->SendMessage(WM_PALETTECHANGED, reinterpret_cast<WPARAM>(m_board.m_hWnd));
-    EXPECT_TRUE(::GetUpdateRect(*popup, nullptr, FALSE));
-    popup->RedrawWindow();
-    popup->SendMessage(WM_QUERYNEWPALETTE);
-    EXPECT_TRUE(::GetUpdateRect(*popup, nullptr, FALSE));
 }
