@@ -23,6 +23,9 @@ constexpr std::array<std::u16string_view, 12> kMonths = {
 constexpr std::u16string_view kTakesE = u"cCxXyY";
 constexpr std::u16string_view kTakesO = u"deHImMSuUVwWy";
 
+// Conversions that lose leading zeros and blanks by the # flag; on others it is ignored.
+constexpr std::u16string_view kFilled = u"CdDeFHIjmMrRSTUVWyY";
+
 std::u16string_view NameOf(std::span<const std::u16string_view> names, int index) noexcept
 {
     return index >= 0 && index < static_cast<int>(names.size()) ? names[index]
@@ -69,6 +72,8 @@ public:
 
     // Writes one conversion; false for a letter that the C standard doesn't know.
     bool Convert(char16_t letter);
+    // The form of the run-time's # flag: dates in words, numbers without leading fill.
+    bool ConvertAlternate(char16_t letter);
     void Literal(std::u16string_view text) { m_text += text; }
     [[nodiscard]] std::u16string Take() noexcept { return std::move(m_text); }
     [[nodiscard]] std::size_t Length() const noexcept { return m_text.size(); }
@@ -84,6 +89,7 @@ private:
 
     const TDateFields& m_fields;
     std::u16string m_text;
+    bool m_bWithoutFill = false;
 };
 
 void CWriter::Number(int value, int width, char16_t fill)
@@ -94,7 +100,7 @@ void CWriter::Number(int value, int width, char16_t fill)
         if (digit != '-')
             digits += static_cast<char16_t>(digit);
     }
-    if (static_cast<int>(digits.size()) < width)
+    if (!m_bWithoutFill && static_cast<int>(digits.size()) < width)
         digits.insert(0, static_cast<std::size_t>(width) - digits.size(), fill);
     if (negative)
         m_text += u'-';
@@ -271,6 +277,18 @@ bool CWriter::Convert(char16_t letter)
     return ConvertDay(letter) || ConvertWeek(letter) || ConvertTime(letter) || ConvertComposed(letter);
 }
 
+bool CWriter::ConvertAlternate(char16_t letter)
+{
+    if (letter == u'c' || letter == u'x') {
+        All(letter == u'c' ? u"%A, %B %d, %Y, %H:%M:%S" : u"%A, %B %d, %Y");
+        return true;
+    }
+    m_bWithoutFill = kFilled.find(letter) != std::u16string_view::npos;
+    const bool bKnown = Convert(letter);
+    m_bWithoutFill = false;
+    return bKnown;
+}
+
 // Length of the conversion's modifier at the start of `rest`: 0, or 1 where the letter
 // behind it takes one.
 std::size_t ModifierLength(std::u16string_view rest) noexcept
@@ -291,9 +309,11 @@ std::u16string FormatDate(std::u16string_view format, const TDateFields& fields)
             writer.Literal(format.substr(i, 1));
             continue;
         }
-        const std::size_t modifier = ModifierLength(format.substr(i + 1));
-        const std::size_t letter = i + 1 + modifier;
-        if (writer.Convert(format[letter]))
+        const bool alternate = format[i + 1] == u'#';
+        const std::size_t behind = i + (alternate ? 2 : 1);
+        const std::size_t letter = behind + ModifierLength(format.substr(behind));
+        if (letter < format.size() &&
+            (alternate ? writer.ConvertAlternate(format[letter]) : writer.Convert(format[letter])))
             i = letter;
         else
             writer.Literal(u"%");

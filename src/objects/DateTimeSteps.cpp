@@ -1,5 +1,7 @@
 #include "objects/DateTimeSteps.h"
 
+#include "base/Trunc.h"
+
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -65,9 +67,10 @@ bool CalcDateTimeStep(int n, double lower, double upper, double& step) noexcept
 void AdjustDateTimeRange(double& lower, double& upper, double step) noexcept
 {
     const double exact = step * kSecondsADay;
-    if (!(exact > 0) || !Countable(exact))
+    if (!(exact > 0))
         return;
-    const auto seconds = static_cast<std::int64_t>(exact);
+    // In 32 bits: a step of 68 years and more is the smallest int.
+    const std::int64_t seconds = Trunc(exact);
     const auto unit = static_cast<std::uint32_t>(seconds);
     if (unit == 0)
         return;

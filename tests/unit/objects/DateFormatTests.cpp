@@ -45,9 +45,29 @@ TEST(DateFormat, TextAroundConversionsStays)
 
 TEST(DateFormat, UnknownConversionsStandAsText)
 {
-    EXPECT_EQ(FormatDate(u"%Q %k %5d %#d %", kDate), u"%Q %k %5d %#d %");
+    EXPECT_EQ(FormatDate(u"%Q %k %5d %#Q %# %", kDate), u"%Q %k %5d %#Q %# %");
     EXPECT_EQ(FormatDate(u"%s %n%i", kDate), u"%s \n%i");
     EXPECT_EQ(FormatDate(u"%E %EQ %Od %Ed %O", kDate), u"%E %EQ 05 %Ed %O");
+}
+
+TEST(DateFormat, TheAlternateFlagTakesLeadingZerosAndBlanksAway)
+{
+    EXPECT_EQ(FormatDate(u"%#d.%#m.%#y|%#e|%#H:%#M:%#S", kDate), u"5.7.26|5|9:4:7");
+    EXPECT_EQ(FormatDate(u"%#j %#I %#U %#V %#W", kDate), u"186 9 27 27 26");
+    EXPECT_EQ(FormatDate(u"%#D|%#F|%#R|%#T|%#r", kDate), u"7/5/26|2026-7-5|9:4|9:4:7|9:4:7 AM");
+    EXPECT_EQ(FormatDate(u"%#d%d%#Od", kDate), u"5055"); // of the one conversion alone
+}
+
+TEST(DateFormat, TheAlternateFlagWritesDatesInWords)
+{
+    EXPECT_EQ(FormatDate(u"%#x", kDate), u"Sunday, July 05, 2026");
+    EXPECT_EQ(FormatDate(u"%#c", kDate), u"Sunday, July 05, 2026, 09:04:07");
+}
+
+TEST(DateFormat, ElsewhereTheAlternateFlagIsIgnored)
+{
+    EXPECT_EQ(FormatDate(u"%#a %#A %#b %#B %#h %#p %#X %#g %#G %#u %#w %#%", kDate),
+              FormatDate(u"%a %A %b %B %h %p %X %g %G %u %w %%", kDate));
 }
 
 TEST(DateFormat, TextThatDoesntFitTheBufferIsEmpty)

@@ -114,9 +114,22 @@ TEST(AdjustDateTimeRange, BoundsBefore1970WrapInUnsignedSeconds)
 
 TEST(AdjustDateTimeRange, StepsUnderASecondChangeNothing)
 {
-    for (const double step : {0.0, -1.0, kNaN, kInfinity, 0.5 * kSecond, 1e300, 4294967296.0 * kSecond})
+    for (const double step : {0.0, -1.0, kNaN, 0.5 * kSecond})
         EXPECT_EQ(Adjusted(kEpoch + 0.3, kEpoch + 0.6, step), std::pair(kEpoch + 0.3, kEpoch + 0.6))
             << step;
+}
+
+TEST(AdjustDateTimeRange, StepsBeyond32BitsAreTheSmallestInt)
+{
+    constexpr double unit = 2147483648.0; // seconds: the smallest int as an unsigned number
+    for (const double step :
+         {2147483700.0 * kSecond, 3e9 * kSecond, 4294967296.0 * kSecond, 1e300, kInfinity}) {
+        const auto [lower, upper] = Adjusted(kEpoch + 100, kEpoch + 30000, step);
+        EXPECT_EQ(lower, kEpoch) << step;
+        EXPECT_EQ(upper, kEpoch) << step; // two units wrap to none
+    }
+    EXPECT_EQ(Adjusted(kEpoch + 100, kEpoch + 200, 3e9 * kSecond).second, unit / 24.0 / 3600.0 + kEpoch);
+    EXPECT_EQ(Adjusted(kEpoch, kEpoch, 3e9 * kSecond), std::pair(kEpoch, kEpoch));
 }
 
 TEST(AdjustDateTimeRange, BoundsThatAreNoDatesStay)
