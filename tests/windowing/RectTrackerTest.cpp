@@ -229,3 +229,15 @@ TEST(RectTracker, AdjustingKeepsTheSmallestSizeAtTheMovedEdges)
     tracker.AdjustRect(CRectTracker::hitMiddle, &rect);
     EXPECT_EQ(rect, CRect(20, 30, 22, 31)) << "moving keeps the size";
 }
+
+TEST(RectTracker, HandlesLargerThanAnySideLeaveItsMiddleFree)
+{
+    CRectTracker tracker = Tracker(CRectTracker::resizeInside);
+    for (const int size : {INT_MAX, INT_MAX / 2, 1 << 30}) {
+        tracker.m_nHandleSize = size;
+        EXPECT_EQ(tracker.GetHandleMask(), 0x0Fu) << size;
+        CRect handle;
+        tracker.GetHandleRect(CRectTracker::hitTopLeft, &handle);
+        EXPECT_EQ(handle.TopLeft(), CPoint(20, 30));
+    }
+}

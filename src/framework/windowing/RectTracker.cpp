@@ -56,9 +56,9 @@ int HandleStart(Side side, int low, int high, int size)
     case Side::low:
         return low;
     case Side::high:
-        return high - size;
+        return Wrap::Subtract(high, size);
     default:
-        return low + (high - low - size) / 2;
+        return Wrap::Add(low, Wrap::Subtract(Wrap::Subtract(high, low), size) / 2);
     }
 }
 
@@ -69,9 +69,9 @@ void KeepExtent(LONG& low, LONG& high, Side moved, LONG minimum, bool allowInver
         return;
     const LONG extent = Wrap::Subtract(high, low);
     const bool inverted = allowInvert && extent < 0;
-    if ((inverted ? -extent : extent) >= minimum)
+    if ((inverted ? Wrap::Subtract(0, extent) : extent) >= minimum)
         return;
-    const LONG kept = inverted ? -minimum : minimum;
+    const LONG kept = inverted ? Wrap::Subtract(0, minimum) : minimum;
     if (moved == Side::low)
         low = Wrap::Subtract(high, kept);
     else
@@ -108,7 +108,7 @@ UINT CRectTracker::GetHandleMask() const
     // A side that is too short for three handles has none in its middle.
     CRect rect(m_rect);
     rect.NormalizeRect();
-    const int room = 3 * m_nHandleSize + 4;
+    const std::int64_t room = std::int64_t{3} * m_nHandleSize + 4;
     UINT mask = corners;
     if (rect.Width() > room)
         mask |= topAndBottom;
@@ -125,7 +125,7 @@ void CRectTracker::GetTrueRect(LPRECT lpTrueRect) const
     if (m_nStyle & (solidLine | dottedLine))
         growth = 1;
     if (m_nStyle & (hatchedBorder | resizeOutside))
-        growth = std::max(growth, GetHandleSize() - 1);
+        growth = std::max<int>(growth, Wrap::Subtract(GetHandleSize(), 1));
     rect.InflateRect(growth, growth);
     *lpTrueRect = rect;
 }

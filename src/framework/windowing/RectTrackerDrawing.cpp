@@ -73,10 +73,12 @@ void CRectTracker::DrawHatch(CDC* pDC, const CRect& rect) const
         pDC->PatBlt(rect.left, rect.top, rect.Width(), rect.Height(), MaskByPattern);
 
     if (m_nStyle & hatchedBorder) {
-        pDC->PatBlt(outer.left, outer.top, outer.Width(), rect.top - outer.top, PATCOPY);
-        pDC->PatBlt(outer.left, rect.bottom, outer.Width(), outer.bottom - rect.bottom, PATCOPY);
-        pDC->PatBlt(outer.left, rect.top, rect.left - outer.left, rect.Height(), PATCOPY);
-        pDC->PatBlt(rect.right, rect.top, outer.right - rect.right, rect.Height(), PATCOPY);
+        pDC->PatBlt(outer.left, outer.top, outer.Width(), Wrap::Subtract(rect.top, outer.top), PATCOPY);
+        pDC->PatBlt(outer.left, rect.bottom, outer.Width(), Wrap::Subtract(outer.bottom, rect.bottom),
+                    PATCOPY);
+        pDC->PatBlt(outer.left, rect.top, Wrap::Subtract(rect.left, outer.left), rect.Height(), PATCOPY);
+        pDC->PatBlt(rect.right, rect.top, Wrap::Subtract(outer.right, rect.right), rect.Height(),
+                    PATCOPY);
     }
     pDC->SelectObject(old);
 }
