@@ -33,6 +33,12 @@ CBrushSelector::~CBrushSelector()
     m_pDC->SelectObject(m_pOldBrush);
 }
 
+bool CBrushSelector::IsHatch(int nIndex) noexcept
+{
+    const HBRUSH hBrush = ::CreateHatchBrush(nIndex, 0);
+    return hBrush != nullptr && ::DeleteObject(hBrush) != FALSE;
+}
+
 CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale) : m_pDC(pDC)
 {
     m_pDC->NeedScale();
@@ -43,7 +49,7 @@ CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale) : m_pDC(pDC)
     LOGFONT record{};
     pFont->GetLogFont(&record);
     record.lfHeight = DeviceScale::ScaledFontHeight(record.lfHeight, m_pDC->m_fScaleY);
-    record.lfWidth = DeviceScale::Scaled(record.lfWidth, m_pDC->m_fScaleY);
+    record.lfWidth = DeviceScale::Scaled(record.lfWidth, m_pDC->m_fScaleX);
     m_ScaledFont.CreateFontIndirect(&record);
     m_pOldFont = m_pDC->SelectObject(&m_ScaledFont);
 }

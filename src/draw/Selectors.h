@@ -25,7 +25,7 @@ protected:
     CDCEx* m_pDC;
 };
 
-// A solid brush, or one of the platform's hatches 0 to 5. Throws CResourceException where
+// A solid brush, or one of the platform's hatches. Throws CResourceException where
 // the platform makes no brush.
 class CBrushSelector
 {
@@ -35,6 +35,10 @@ public:
     CBrushSelector(const CBrushSelector&) = delete;
     CBrushSelector& operator=(const CBrushSelector&) = delete;
     virtual ~CBrushSelector();
+
+    // Whether the platform makes a brush of this style: 0 to 5 are its named hatches, and it has
+    // a few beyond them.
+    [[nodiscard]] static bool IsHatch(int nIndex) noexcept;
 
 protected:
     std::unique_ptr<CBrush> m_pBrush;

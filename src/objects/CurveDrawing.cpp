@@ -36,9 +36,11 @@ bool IsInside(const CRect& rect, TPoint point) noexcept
     return rect.PtInRect(CPoint(point));
 }
 
-// The rectangle grown by some pixels to each side, as far as an int goes.
-TRect Grown(const CRect& rect, std::int64_t nBy) noexcept
+// What the plot's clip region shows, grown by some pixels to each side as far as an int goes. In
+// a window too small for its axes the plot is inverted, and the region is its mirror image.
+TRect ReachOf(CRect rect, std::int64_t nBy) noexcept
 {
+    rect.NormalizeRect();
     const auto cut = [](std::int64_t value) {
         return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
     };
@@ -162,7 +164,7 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
     const ColumnWalk::TCurve curve{Points(), x, y, IsAscending()};
 
     const CRect plot = m_pGraph->m_rcInner;
-    const TRect reach = Grown(plot, PenReach());
+    const TRect reach = ReachOf(plot, PenReach());
     const bool bJoin = m_nLineStyle == PS_SOLID;
     CPolylineBatches lines(reach,
                            [&](std::span<const TPoint> points) { DrawPolyline(pDC, points, bJoin); });
@@ -203,7 +205,7 @@ void CXGraphDataSerie::AppendPartner(std::vector<TPoint>& polygon, int nReach) c
     const AxisMapping::CMapper x(m_pGraph->m_XAxes[partner.m_nXAxis].GetScale());
     const AxisMapping::CMapper y(m_pGraph->m_YAxes[partner.m_nYAxis].GetScale());
     const std::span<const TDataPoint> points = partner.Points();
-    CChain chain(polygon, Grown(m_pGraph->m_rcInner, nReach));
+    CChain chain(polygon, ReachOf(m_pGraph->m_rcInner, nReach));
     for (std::size_t i = points.size(); i-- > 0;)
         chain.Append({x.Pixel(points[i].fXVal), y.Pixel(points[i].fYVal)});
 }
@@ -216,7 +218,7 @@ void CXGraphDataSerie::DrawFill(CDCEx* pDC, std::vector<TPoint>& polygon)
     std::optional<CBrushSelector> brush;
     if (m_nFillStyle == kSolidFill)
         brush.emplace(crFill, pDC);
-    else if (m_nFillStyle >= 0 && m_nFillStyle < kSolidFill)
+    else if (CBrushSelector::IsHatch(m_nFillStyle))
         brush.emplace(m_nFillStyle, crFill, pDC);
     else
         return; // no such pattern
@@ -233,8 +235,9 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
     const AxisMapping::CMapper y(yAxis.GetScale());
     const CRect plot = m_pGraph->m_rcInner;
 
-    const int nRoom = m_nMarkerSize == 0 ? 0 : plot.Width() / m_nMarkerSize / 4;
-    int nStep = nRoom > 0 ? m_nCount / nRoom : 2;
+    // In 64 bits: the smallest width over a size of -1 has no quotient in 32.
+    const std::int64_t nRoom = m_nMarkerSize == 0 ? 0 : std::int64_t{plot.Width()} / m_nMarkerSize / 4;
+    std::int64_t nStep = nRoom > 0 ? m_nCount / nRoom : 2;
     if (nStep < 1)
         nStep = 2;
     if (m_pGraph->m_opOperation == opEditCurve)
@@ -244,7 +247,7 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
     const COLORREF crKey = pDC->m_bMono ? kBlack : m_crColor;
     const std::int64_t nSize =
         m_nMarkerSize < 0 ? -static_cast<std::int64_t>(m_nMarkerSize) : m_nMarkerSize;
-    const TRect reach = Grown(plot, nSize + 2);
+    const TRect reach = ReachOf(plot, nSize + 2);
     std::optional<CPoint> last;
     for (std::int64_t i = 0; i < m_nCount; i += nStep) {
         const TDataPoint& point = m_pData[i];

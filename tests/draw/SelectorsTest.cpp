@@ -101,6 +101,16 @@ TEST(BrushSelector, SelectsEachOfTheSixHatches)
     }
 }
 
+TEST(BrushSelector, OfWhatThePlatformMakesNoBrushIsNoHatch)
+{
+    const int before = GdiCount::All();
+    for (int hatch = 0; hatch < 12; ++hatch)
+        EXPECT_TRUE(CBrushSelector::IsHatch(hatch)) << hatch;
+    for (const int hatch : {-1, 12, 1000, INT_MAX, INT_MIN})
+        EXPECT_FALSE(CBrushSelector::IsHatch(hatch)) << hatch;
+    EXPECT_EQ(GdiCount::All(), before);
+}
+
 TEST(BrushSelector, AHatchThatIsNoneRaisesTheResourceException)
 {
     Canvas canvas(4, 4);
@@ -128,7 +138,7 @@ TEST(FontSelector, FontOfHeight13At600DpiBecomes75High)
     EXPECT_EQ(::GetCurrentObject(canvas.dc, OBJ_FONT), old);
 }
 
-TEST(FontSelector, WidthScalesByTheVerticalFactor)
+TEST(FontSelector, WidthScalesByTheHorizontalFactor)
 {
     Canvas canvas(4, 4);
     ScaleBy(canvas.dc, 2.0f, 3.0f);
@@ -140,7 +150,7 @@ TEST(FontSelector, WidthScalesByTheVerticalFactor)
 
     const CFontSelector selector(&font, &canvas.dc, true);
 
-    EXPECT_EQ(CurrentFont(canvas.dc).lfWidth, 15);
+    EXPECT_EQ(CurrentFont(canvas.dc).lfWidth, 10);
     EXPECT_EQ(CurrentFont(canvas.dc).lfHeight, 30);
 }
 

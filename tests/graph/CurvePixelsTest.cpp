@@ -31,7 +31,13 @@ protected:
         graph.GetYAxis(0)->SetCurrentRange(fMinY, fMaxY, (fMaxY - fMinY) / 5);
         Paint();
     }
-    void ClipToPlot(CDCEx& dc) { dc.IntersectClipRect(&graph.m_rcInner); }
+    void ClipToPlot(CDCEx& dc)
+    {
+        // As the frame does: of a rectangle inside out the region is its mirror image.
+        const HRGN hRegion = ::CreateRectRgnIndirect(&graph.m_rcInner);
+        ::SelectClipRgn(dc, hRegion);
+        ::DeleteObject(hRegion);
+    }
 
     // The rule, word for word.
     void DrawPlainly(CXGraphDataSerie& curve, CDCEx& dc)
@@ -203,6 +209,64 @@ TEST_F(CurvePixels, FillsToAPartner)
             curve.m_bFillTransparent = bTransparent;
             ExpectSamePixels(curve, "partner");
         }
+    }
+}
+
+TEST_F(CurvePixels, APlotTurnedInsideOutShowsTheCurveButRecordsNothing)
+{
+    CXGraphDataSerie& curve = Add(Wave(3000, 0.1));
+    Show(0, 10, -1.3, 1.3);
+    for (const bool bNarrow : {true, false}) {
+        graph.m_nLeftMargin = bNarrow ? kWidth / 2 + 40 : 20;
+        graph.m_nRightMargin = bNarrow ? kWidth / 2 + 30 : 20;
+        graph.m_nTopMargin = bNarrow ? 20 : kHeight / 2 + 40;
+        graph.m_nBottomMargin = bNarrow ? 20 : kHeight / 2 + 30;
+        Paint();
+        EXPECT_LT(bNarrow ? graph.m_rcInner.Width() : graph.m_rcInner.Height(), -50);
+        for (const EGraphType type : {gtLine, gtScatter}) {
+            curve.m_nType = type;
+            ExpectSamePixels(curve, "inside out");
+            EXPECT_TRUE(curve.m_Segments.empty());
+        }
+        curve.m_nType = gtLine;
+        Canvas canvas(kWidth, kHeight);
+        ClipToPlot(canvas.dc);
+        curve.m_crColor = 0x0000FF;
+        curve.Draw(&canvas.dc);
+        int nDrawn = 0;
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x)
+                nDrawn += canvas.At(x, y) == 0x0000FF ? 1 : 0;
+        }
+        EXPECT_GT(nDrawn, 20);
+        for (const bool bTransparent : {false, true}) {
+            curve.SetFillBeneath(true, 65535);
+            curve.m_bFillTransparent = bTransparent;
+            ExpectSamePixels(curve, "filled inside out");
+        }
+        curve.SetFillBeneath(false, 65535);
+    }
+}
+
+TEST_F(CurvePixels, FurtherHatchesFillAndOthersDrawNothing)
+{
+    CXGraphDataSerie& curve = Add(Wave(300, 0.1));
+    Show(0, 10, -1.3, 1.3);
+    curve.SetFillBeneath(true, 65535);
+    for (const bool bTransparent : {false, true}) {
+        curve.m_bFillTransparent = bTransparent;
+        for (int nStyle = 7; nStyle < 12; ++nStyle) {
+            curve.m_nFillStyle = nStyle;
+            ExpectSamePixels(curve, "further hatch");
+        }
+    }
+    curve.m_bFillTransparent = false;
+    curve.m_bFillBeneath = false;
+    const Picture without = Shoot();
+    curve.m_bFillBeneath = true;
+    for (const int nStyle : {-1, 12, INT_MAX, INT_MIN}) {
+        curve.m_nFillStyle = nStyle;
+        EXPECT_EQ(Shoot().CountDifferences(without), 0) << nStyle;
     }
 }
 
