@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace NumberFormat
 {
@@ -196,6 +197,32 @@ std::u16string FormatFloating(const TItem& item, double value)
     return Padded(item, sign, digits, item.zeros && std::isfinite(value));
 }
 
+// The item in its shortest form.
+std::u16string Rewritten(const TItem& item)
+{
+    std::u16string text = u"%";
+    const std::pair<bool, char16_t> flags[] = {{item.left, u'-'},
+                                               {item.plus, u'+'},
+                                               {item.blank, u' '},
+                                               {item.alternate, u'#'},
+                                               {item.zeros, u'0'}};
+    for (const auto& [isSet, flag] : flags) {
+        if (isSet)
+            text += flag;
+    }
+    const auto append = [&](int count) {
+        const std::string digits = std::to_string(count);
+        text.append(digits.begin(), digits.end());
+    };
+    if (item.width > 0)
+        append(item.width);
+    if (item.precision >= 0) {
+        text += u'.';
+        append(item.precision);
+    }
+    return text + item.conversion;
+}
+
 std::string IntegerDigits(const TItem& item, std::uint64_t magnitude)
 {
     if (magnitude == 0 && item.precision == 0)
@@ -327,6 +354,29 @@ std::u16string FormatNumber(std::u16string_view format, double value)
 {
     const TArgument argument(value);
     return FormatText(format, {&argument, 1});
+}
+
+std::u16string Shortened(std::u16string_view format, std::size_t longest)
+{
+    // Literal text stands for itself, with its percent signs doubled; the item that takes the
+    // value gets its shortest form.
+    std::u16string result;
+    std::size_t literals = 0;
+    bool taken = false;
+    while (!format.empty() && literals < longest) {
+        const std::optional<TItem> item =
+            format.front() == u'%' ? CItemParser(format).Parse() : std::nullopt;
+        if (item && item->kind == EKind::Floating && !taken) {
+            result += Rewritten(*item);
+            format.remove_prefix(item->length);
+            taken = true;
+            continue;
+        }
+        result.append(format.front() == u'%' ? 2 : 1, format.front());
+        ++literals;
+        format.remove_prefix(format.starts_with(u"%%") ? 2 : 1);
+    }
+    return result;
 }
 
 } // namespace NumberFormat

@@ -41,6 +41,10 @@ struct TArgument {
 // stand as literal text. The result is at most 512 units longer than the format.
 [[nodiscard]] std::u16string FormatNumber(std::u16string_view format, double value);
 
+// A format whose texts begin with the same `longest` units as those of the given one, whatever
+// the value: short, however long that one is.
+[[nodiscard]] std::u16string Shortened(std::u16string_view format, std::size_t longest);
+
 // A composed format: each item takes the next argument of its own kind, in order: integers
 // (d i u x X o c), floating numbers (aAeEfFgG), texts (s).
 [[nodiscard]] std::u16string FormatText(std::u16string_view format,

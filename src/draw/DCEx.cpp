@@ -5,6 +5,7 @@
 #include "framework/windowing/Window.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace
@@ -63,6 +64,24 @@ LongLines::TArea VisibleArea(HDC hDC, int room) noexcept
 // at most, others by much less.
 constexpr int PolygonRoom = 1 << 15;
 constexpr int WideLineRoom = 1 << 10;
+
+// Without limits in a recording: it keeps what any player of it may show.
+TVisibleArea VisibleOf(HDC hDC) noexcept
+{
+    CRect visible;
+    if (IsRecording(hDC) || ::GetClipBox(hDC, &visible) == ERROR)
+        return {};
+    return {static_cast<double>(visible.left), static_cast<double>(visible.top),
+            static_cast<double>(visible.right), static_cast<double>(visible.bottom)};
+}
+
+// Text nearer than this is left to the platform's own clipping.
+constexpr LONG NearText = 1 << 15;
+
+double Distance(LONG from, LONG to) noexcept
+{
+    return std::fabs(static_cast<double>(to) - from);
+}
 
 LongLines::TVertex ToVertex(CPoint point) noexcept
 {
@@ -321,8 +340,51 @@ BOOL CDCEx::RectVisible(LPCRECT lpRect) const
     return ::RectVisible(m_hDC, lpRect);
 }
 
+TVisibleArea CDCEx::Visible() const
+{
+    TVisibleArea visible = VisibleOf(m_hDC);
+    if (m_bScaling) {
+        visible.left /= m_fScaleX;
+        visible.right /= m_fScaleX;
+        visible.top /= m_fScaleY;
+        visible.bottom /= m_fScaleY;
+    }
+    return visible;
+}
+
+// Whether nothing can be seen of a text that is drawn into the rectangle, in the device's units.
+bool CDCEx::IsOutOfSight(LPCTSTR lpszString, int nCount, const CRect& rect, UINT nFormat) const
+{
+    if (Within(rect.TopLeft(), NearText) && Within(rect.BottomRight(), NearText))
+        return false;
+    CRect size(rect);
+    ::DrawText(m_hDC, lpszString, nCount, &size, nFormat | DT_CALCRECT);
+    // A turned text leaves its place to any side.
+    const double reach = Distance(size.left, size.right) + Distance(size.top, size.bottom);
+    const TVisibleArea visible = VisibleOf(m_hDC);
+    if ((nFormat & DT_NOCLIP) == 0 && !visible.Meets(rect, reach))
+        return true;
+    const CPoint center = rect.CenterPoint();
+    CPoint anchor = rect.TopLeft();
+    if (nFormat & DT_CENTER)
+        anchor.x = center.x;
+    else if (nFormat & DT_RIGHT)
+        anchor.x = rect.right;
+    if ((nFormat & DT_SINGLELINE) && (nFormat & DT_VCENTER))
+        anchor.y = center.y;
+    else if ((nFormat & DT_SINGLELINE) && (nFormat & DT_BOTTOM))
+        anchor.y = rect.bottom;
+    return !visible.Meets(anchor, reach);
+}
+
 BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 {
+    if (!Within(CPoint(x, y), NearText)) {
+        CSize size;
+        ::GetTextExtentPoint32(m_hDC, lpszString, nCount, &size);
+        if (!VisibleOf(m_hDC).Meets(CPoint(x, y), Distance(0, size.cx) + Distance(0, size.cy)))
+            return TRUE;
+    }
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
 }
 
@@ -343,7 +405,12 @@ CSize CDCEx::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTa
 int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
     // Hosts choose format flags; the one that would write into the text is not for them.
-    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat & ~DT_MODIFYSTRING);
+    nFormat &= ~DT_MODIFYSTRING;
+    if ((nFormat & DT_CALCRECT) == 0 && IsOutOfSight(lpszString, nCount, CRect(*lpRect), nFormat)) {
+        CRect size(*lpRect);
+        return ::DrawText(m_hDC, lpszString, nCount, &size, nFormat | DT_CALCRECT);
+    }
+    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
 }
 
 int CDCEx::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,

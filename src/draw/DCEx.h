@@ -7,9 +7,11 @@
 // Lines and polygons that reach beyond +-2^26 are cut along their own lines first
 // (LongLines.h), so callers may pass any pixel that a value maps to. Except in a recording,
 // polygons beyond +-2^20 and lines of wide pens beyond +-2^15 are cut closer, to the clip box
-// with some room around it: the platform's cost grows with the rows that they cover.
+// with some room around it: the platform's cost grows with the rows that they cover. Text far
+// outside the clip box isn't drawn, for the same reason.
 
 #include "draw/LongLines.h"
+#include "draw/VisibleArea.h"
 #include "framework/windowing/DeviceContexts.h"
 
 class CDCEx : public CDC
@@ -57,6 +59,9 @@ public:
     // Measures all lines of a text with line feeds.
     CSize GetTextExtent(const CString& str);
 
+    // In the callers' units.
+    [[nodiscard]] TVisibleArea Visible() const;
+
     COLORREF SetBkColor(COLORREF crColor) override;
     COLORREF SetTextColor(COLORREF crColor) override;
 
@@ -81,6 +86,8 @@ private:
     BOOL FarLineTo(CPoint from, CPoint unscaledTo, CPoint to);
     BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to, const LongLines::TArea& area);
     BOOL LongPolygon(const POINT* lpPoints, int nCount, const LongLines::TArea& area);
+    [[nodiscard]] bool IsOutOfSight(LPCTSTR lpszString, int nCount, const CRect& rect,
+                                    UINT nFormat) const;
     [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;
 
     // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.

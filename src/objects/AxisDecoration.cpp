@@ -37,15 +37,19 @@ private:
 
 void FillRange(CDCEx* pDC, const TColorRange& range, const CRect& rect)
 {
-    if (range.nStyle < kSolidFill) {
-        const CPenSelector pen(range.crMinColor, 1, pDC, PS_SOLID);
-        const CBrushSelector brush(static_cast<int>(range.nStyle), range.crMinColor, pDC);
-        pDC->Rectangle(&rect);
-    } else if (range.nStyle == kSolidFill && range.crMinColor == range.crMaxColor) {
+    if (range.nStyle == kSolidFill) {
+        if (range.crMinColor != range.crMaxColor)
+            return; // two colours have no drawn form
         CBrush brush(range.crMinColor);
         pDC->FillRect(&rect, &brush);
+        return;
     }
-    // Two colours have no drawn form.
+    const auto nHatch = static_cast<int>(range.nStyle);
+    if (!CBrushSelector::IsHatch(nHatch))
+        return;
+    const CPenSelector pen(range.crMinColor, 1, pDC, PS_SOLID);
+    const CBrushSelector brush(nHatch, range.crMinColor, pDC);
+    pDC->Rectangle(&rect);
 }
 
 bool IsDark(COLORREF color)
@@ -114,21 +118,22 @@ void CXGraphAxis::DrawAxisMarker(CDCEx* pDC, const TAxisMarker& marker, int nPix
         CPoint anchor = IsVertical() ? CPoint(plot.left, nPixel) : CPoint(nPixel, plot.bottom);
         if (pDC->m_bScaling)
             pDC->ScalePoint(anchor);
-        pDC->TextOut(anchor.x, anchor.y, FormatValue(marker.fValue));
+        pDC->TextOut(anchor.x, anchor.y, LabelText(marker.fValue));
     }
     if (marker.cLabel.IsEmpty())
         return;
     // From here on in the device's units, which the operations below don't scale.
     const CSize unit = pDC->GetTextExtent(L"W");
-    CRect rect = IsVertical() ? CRect(plot.left, nPixel, plot.right, nPixel - unit.cy)
-                              : CRect(nPixel, plot.top + unit.cy, nPixel + unit.cx, plot.bottom);
+    CRect rect = IsVertical() ? CRect(plot.left, nPixel, plot.right, Wrap::Subtract(nPixel, unit.cy))
+                              : CRect(nPixel, Wrap::Add(plot.top, unit.cy), Wrap::Add(nPixel, unit.cx),
+                                      plot.bottom);
     rect.NormalizeRect();
     if (pDC->m_bScaling)
         pDC->ScaleRect(rect);
     if (IsVertical())
         pDC->DrawText(marker.cLabel, marker.cLabel.GetLength(), &rect, DT_RIGHT | DT_SINGLELINE);
     else
-        pDC->TextOut(rect.left - unit.cy, rect.top + unit.cx, marker.cLabel);
+        pDC->TextOut(Wrap::Subtract(rect.left, unit.cy), Wrap::Add(rect.top, unit.cx), marker.cLabel);
 }
 
 int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)

@@ -16,8 +16,8 @@
 int CXGraphAxis::GetMaxLabelWidth(CDCEx* pDC)
 {
     const CFontSelector font(&m_LabelFont, pDC, false);
-    const int nLower = pDC->GetTextExtent(FormatValue(m_fCurMin)).cx;
-    const int nUpper = pDC->GetTextExtent(FormatValue(m_fCurMax)).cx;
+    const int nLower = pDC->GetTextExtent(LabelText(m_fCurMin)).cx;
+    const int nUpper = pDC->GetTextExtent(LabelText(m_fCurMax)).cx;
     return Wrap::Add(std::max(nLower, nUpper), m_nTickSize);
 }
 
@@ -25,7 +25,7 @@ int CXGraphAxis::GetLabelHeight(CDCEx* pDC)
 {
     // Of the whole range's bound, where the width takes the visible ones.
     const CFontSelector font(&m_LabelFont, pDC, false);
-    return Wrap::Add(pDC->GetTextExtent(FormatValue(m_fMin)).cy, m_nTickSize);
+    return Wrap::Add(pDC->GetTextExtent(LabelText(m_fMin)).cy, m_nTickSize);
 }
 
 CSize CXGraphAxis::GetTitleSize(CDCEx* pDC)

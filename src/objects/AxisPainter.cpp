@@ -3,12 +3,14 @@
 #include "base/Trunc.h"
 #include "draw/Selectors.h"
 #include "graph/XGraph.h"
+#include "objects/TickLabels.h"
 
 namespace
 {
 
 constexpr COLORREF kWhite = 0xFFFFFF;
-constexpr int kHalfStrip = 5; // of an axis's rectangle to each side of its line
+constexpr double kLineRoom = 2; // more than half a line's width
+constexpr int kHalfStrip = 5;   // of an axis's rectangle to each side of its line
 
 } // namespace
 
@@ -26,7 +28,7 @@ CAxisCanvas::CAxisCanvas(const CXGraphAxis& axis, CDCEx* pDC) : m_pDC(pDC)
 }
 
 CAxisPainter::CAxisPainter(CXGraphAxis& axis, CDCEx* pDC)
-    : m_axis(axis), m_pDC(pDC), m_rcPlot(axis.PlotRect())
+    : m_axis(axis), m_pDC(pDC), m_rcPlot(axis.PlotRect()), m_visible(pDC->Visible())
 {
 }
 
@@ -90,72 +92,72 @@ void CAxisPainter::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
 {
     if (!HasTicks())
         return;
-    // All labels are measured unscaled before the first is drawn scaled: one selection each.
-    std::vector<TLabel> labels(ticks.size());
-    {
-        const CFontSelector font(&m_axis.m_LabelFont, m_pDC, false);
-        for (std::size_t i = 0; i < ticks.size(); ++i) {
-            if (ticks[i].bLabel)
-                labels[i] = Measure(ticks[i]);
-        }
-    }
-    const CFontSelector font(&m_axis.m_LabelFont, m_pDC, true);
+    CTickLabels labels(m_axis, m_pDC, LabelFormat());
     const CPenSelector pen(m_axis.m_crGridColor, 1, m_pDC, AxisPainting::PenStyle(m_axis.m_nGridStyle));
     for (std::size_t i = 0; i < ticks.size(); ++i) {
-        if (ticks[i].bLabel)
-            DrawLabel(ticks[i], labels[i]);
+        const TTick& tick = ticks[i];
+        if (tick.bLabel)
+            labels.Pile(tick.fValue, [&](CSize size) { return LabelRect(tick.fPlace, size); });
+        // Ticks on one pixel have one grid line, over all their labels.
+        if (i + 1 < ticks.size() && Trunc(ticks[i + 1].fPlace) == Trunc(tick.fPlace))
+            continue;
+        labels.Draw();
         const int nOldMode = bClearGaps ? m_pDC->SetBkMode(TRANSPARENT) : 0;
-        DrawGridLine(ticks[i].fPlace);
+        DrawGridLine(Trunc(tick.fPlace));
         if (bClearGaps)
             m_pDC->SetBkMode(nOldMode);
     }
 }
 
-CAxisPainter::TLabel CAxisPainter::Measure(const TTick& tick) const
+UINT CAxisPainter::LabelFormat() const
 {
-    CString cText = m_axis.FormatValue(tick.fValue);
-    const CSize size = m_pDC->GetTextExtent(cText);
-    return {std::move(cText), size};
+    if (!m_axis.IsVertical())
+        return DT_CENTER;
+    return m_axis.m_Placement == apLeft ? DT_RIGHT : DT_LEFT;
 }
 
-void CAxisPainter::DrawLabel(const TTick& tick, const TLabel& label)
+// Of a label of a size at a tick.
+CRect CAxisPainter::LabelRect(double fPlace, CSize size) const
 {
     const int nTick = m_axis.m_nTickSize;
     if (!m_axis.IsVertical()) {
-        const int nHalf = label.size.cx / 2;
+        const int nHalf = size.cx / 2;
         const int nTop = Wrap::Add(nTick, m_axis.m_nOriginY);
-        CRect rcLabel(Trunc(tick.fPlace - nHalf), nTop, Trunc(tick.fPlace + nHalf),
-                      Wrap::Add(nTop, label.size.cy));
-        m_pDC->DrawText(label.cText, &rcLabel, DT_CENTER);
-        return;
+        return CRect(Trunc(fPlace - nHalf), nTop, Trunc(fPlace + nHalf), Wrap::Add(nTop, size.cy));
     }
-    const int nHalf = label.size.cy / 2;
+    const int nHalf = size.cy / 2;
     const bool bLeft = m_axis.m_Placement == apLeft;
     const int nNear =
         bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick) : Wrap::Add(m_axis.m_nOriginX, nTick);
-    CRect rcLabel(nNear, Trunc(tick.fPlace - nHalf), nNear, Trunc(tick.fPlace + nHalf));
+    CRect rect(nNear, Trunc(fPlace - nHalf), nNear, Trunc(fPlace + nHalf));
     if (bLeft)
-        rcLabel.left = Wrap::Subtract(nNear, label.size.cx);
+        rect.left = Wrap::Subtract(nNear, size.cx);
     else
-        rcLabel.right = Wrap::Add(nNear, label.size.cx);
-    m_pDC->DrawText(label.cText, &rcLabel, bLeft ? DT_RIGHT : DT_LEFT);
+        rect.right = Wrap::Add(nNear, size.cx);
+    return rect;
 }
 
-void CAxisPainter::DrawGridLine(double fPlace)
+void CAxisPainter::DrawGridLine(int nPlace)
 {
-    const int nPlace = Trunc(fPlace);
     const int nTick = m_axis.m_nTickSize;
+    CPoint ptFrom;
+    CPoint ptTo;
     if (!m_axis.IsVertical()) {
         const bool bTickOnly = !m_axis.m_bShowGrid || nPlace == m_axis.m_nOriginX;
-        m_pDC->MoveTo(nPlace, Wrap::Add(m_axis.m_nOriginY, nTick));
-        m_pDC->LineTo(nPlace, bTickOnly ? m_axis.m_nOriginY : m_axis.m_rcArea.top);
-        return;
+        ptFrom.SetPoint(nPlace, Wrap::Add(m_axis.m_nOriginY, nTick));
+        ptTo.SetPoint(nPlace, bTickOnly ? m_axis.m_nOriginY : m_axis.m_rcArea.top);
+    } else {
+        const bool bLeft = m_axis.m_Placement == apLeft;
+        const bool bTickOnly = !m_axis.m_bShowGrid || nPlace == m_axis.m_nOriginY;
+        ptFrom.SetPoint(bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick)
+                              : Wrap::Add(m_axis.m_nOriginX, nTick),
+                        nPlace);
+        ptTo.SetPoint(bTickOnly ? m_axis.m_nOriginX : bLeft ? m_rcPlot.right : m_rcPlot.left, nPlace);
     }
-    const bool bLeft = m_axis.m_Placement == apLeft;
-    const bool bTickOnly = !m_axis.m_bShowGrid || nPlace == m_axis.m_nOriginY;
-    m_pDC->MoveTo(bLeft ? Wrap::Subtract(m_axis.m_nOriginX, nTick) : Wrap::Add(m_axis.m_nOriginX, nTick),
-                  nPlace);
-    m_pDC->LineTo(bTickOnly ? m_axis.m_nOriginX : bLeft ? m_rcPlot.right : m_rcPlot.left, nPlace);
+    if (!m_visible.Meets(CRect(ptFrom, ptTo), kLineRoom))
+        return;
+    m_pDC->MoveTo(ptFrom);
+    m_pDC->LineTo(ptTo);
 }
 
 void CAxisPainter::DrawLine()
@@ -169,9 +171,8 @@ void CAxisPainter::DrawLine()
         m_pDC->LineTo(ptEnd);
         m_axis.DrawAxisArrow(m_pDC, ptEnd, bVertical ? 1 : 2, m_axis.m_nArcSize);
     }
-    m_axis.m_rcObject = bVertical
-                            ? CRect(ptEnd.x - kHalfStrip, ptEnd.y, ptEnd.x + kHalfStrip, ptOrigin.y)
-                            : CRect(ptOrigin.x, ptEnd.y - kHalfStrip, ptEnd.x, ptEnd.y + kHalfStrip);
+    m_axis.m_rcObject = bVertical ? CRect(ptEnd, ptOrigin) : CRect(ptOrigin, ptEnd);
+    m_axis.m_rcObject.InflateRect(bVertical ? kHalfStrip : 0, bVertical ? 0 : kHalfStrip);
     if (m_axis.m_bSelected)
         m_pDC->DrawFocusRect(&m_axis.m_rcObject);
 }

@@ -3,6 +3,7 @@
 // for one Draw. All coordinates are screen units.
 
 #include "draw/DCEx.h"
+#include "draw/VisibleArea.h"
 #include "objects/XGraphAxis.h"
 
 #include <optional>
@@ -48,19 +49,15 @@ public:
     void DrawLine();
 
 private:
-    struct TLabel {
-        CString cText;
-        CSize size;
-    };
-
-    [[nodiscard]] TLabel Measure(const TTick& tick) const;
-    void DrawLabel(const TTick& tick, const TLabel& label);
-    void DrawGridLine(double fPlace);
+    [[nodiscard]] UINT LabelFormat() const; // of DrawText
+    [[nodiscard]] CRect LabelRect(double fPlace, CSize size) const;
+    void DrawGridLine(int nPlace);
     [[nodiscard]] bool HasTicks() const;
 
     CXGraphAxis& m_axis;
     CDCEx* m_pDC;
     CRect m_rcPlot;
+    TVisibleArea m_visible;
     int m_nFarEnd = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include "objects/XGraphAxis.h"
 
+#include "base/NumberFormat.h"
 #include "graph/XGraph.h"
 #include "objects/DateFormat.h"
 #include "objects/IndexSearch.h"
@@ -242,6 +243,19 @@ CString CXGraphAxis::FormatValue(double fValue) const
     if (m_bDateTime)
         return FormatDate(m_cDisplayFmt, fValue);
     return AfxFormatNumber(m_cDisplayFmt, fValue);
+}
+
+CString CXGraphAxis::LabelText(const CString& strFormat, double fValue) const
+{
+    return (m_bDateTime ? FormatDate(strFormat, fValue) : AfxFormatNumber(strFormat, fValue))
+        .Left(kLongestLabel);
+}
+
+CString CXGraphAxis::LabelFormat() const
+{
+    if (m_bDateTime || m_cDisplayFmt.GetLength() <= kLongestLabel)
+        return m_cDisplayFmt;
+    return CString(NumberFormat::Shortened(m_cDisplayFmt.ToU16(), kLongestLabel));
 }
 
 CString CXGraphAxis::FormatDate(const CString& strFormat, double fValue)

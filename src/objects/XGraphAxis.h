@@ -107,7 +107,13 @@ public:
     int GetMaxLabelWidth(CDCEx* pDC); // of the labels at the visible bounds, plus m_nTickSize
     int GetLabelHeight(CDCEx* pDC);   // of the label at m_fMin, plus m_nTickSize
     CSize GetTitleSize(CDCEx* pDC);
-    [[nodiscard]] CString FormatValue(double fValue) const; // the text of a tick label
+    [[nodiscard]] CString FormatValue(double fValue) const;
+    // The text of a tick label: that of the value, as far as any screen could show it.
+    [[nodiscard]] CString LabelText(double fValue) const { return LabelText(m_cDisplayFmt, fValue); }
+    // The same by a format that LabelFormat made ready for many labels.
+    [[nodiscard]] CString LabelText(const CString& strFormat, double fValue) const;
+    [[nodiscard]] CString LabelFormat() const;
+    static constexpr int kLongestLabel = 1024; // units
     // A date-time by a wcsftime format; "Invalid DateTime" for what is none.
     [[nodiscard]] static CString FormatDate(const CString& strFormat, double fValue);
 

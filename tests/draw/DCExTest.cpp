@@ -1,9 +1,13 @@
 #include "Canvas.h"
+#include "DirectOperations.h"
 #include "Recording.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
 
 using Lines = std::vector<std::string>;
 
@@ -213,26 +217,91 @@ TEST(DCEx, PolygonWithoutPointsIsRefused)
     EXPECT_FALSE(canvas.dc.Polygon(&point, -1));
 }
 
-TEST(DCEx, DirectOperationsUseTheDrawingHandleAlone)
+TEST(DCEx, TheNineDirectOperationsUseTheDrawingHandleAlone)
 {
     Canvas drawn(60, 30);
     Canvas asked(60, 30);
     ::IntersectClipRect(asked.dc, 50, 20, 60, 30); // would hide everything below
     drawn.dc.SetAttribDC(asked.dc);
-    const CRect rect(0, 0, 10, 10);
-    CRect room(0, 0, 60, 30);
-
-    CDC& virtualDC = drawn.dc;
-    EXPECT_TRUE(virtualDC.PtVisible(5, 5));
-    EXPECT_TRUE(virtualDC.RectVisible(&rect));
-    EXPECT_TRUE(virtualDC.TextOut(0, 0, L"x", 1));
-    EXPECT_TRUE(virtualDC.ExtTextOut(10, 0, 0, nullptr, L"x", 1, nullptr));
-    EXPECT_GT(virtualDC.TabbedTextOut(20, 0, L"a\tb", 3, 0, nullptr, 0).cx, 0);
-    EXPECT_GT(virtualDC.DrawText(L"x", 1, &room, DT_CENTER), 0);
-    WCHAR text[] = L"x";
-    EXPECT_GT(virtualDC.DrawTextEx(text, 1, &room, DT_RIGHT, nullptr), 0);
-
-    EXPECT_NE(drawn.Picture(), Canvas(60, 30).Picture());
-    EXPECT_EQ(asked.Picture(), Canvas(60, 30).Picture());
+    ExpectDirectOperations(drawn.dc, drawn, asked);
     drawn.dc.SetAttribDC(drawn.dc);
+}
+
+TEST(DCEx, TextFarOutsideTheClipBoxIsMeasuredButNotDrawn)
+{
+    Canvas canvas(60, 30);
+    LOGFONT look{};
+    look.lfHeight = 13;
+    look.lfEscapement = look.lfOrientation = 450;
+    look.lfUnderline = TRUE;
+    CFont turned;
+    turned.CreateFontIndirect(&look);
+    const CFontSelector font(&turned, &canvas.dc, false);
+    CRect close(5, 5, 55, 25);
+    // The best of three runs.
+    const auto time = [](int rounds, const auto& draw) {
+        auto best = std::chrono::steady_clock::duration::max();
+        for (int run = 0; run < 3; ++run) {
+            const auto start = std::chrono::steady_clock::now();
+            for (int round = 0; round < rounds; ++round)
+                draw();
+            best = std::min(best, std::chrono::steady_clock::now() - start);
+        }
+        return best;
+    };
+    const auto seen = time(2000, [&] { canvas.dc.DrawText(L"underlined", &close, 0); });
+    CRect room(close);
+    const int height = canvas.dc.DrawText(L"underlined", &room, DT_CALCRECT);
+    for (const int distant : {INT_MIN, INT_MIN + 1000, INT_MAX - 1000, -(1 << 26), 1 << 20}) {
+        for (const UINT format : {0u, static_cast<UINT>(DT_NOCLIP), static_cast<UINT>(DT_CENTER)}) {
+            CRect rect(5, distant, 55, distant + 20);
+            int result = 0;
+            EXPECT_LT(time(1, [&] { result = canvas.dc.DrawText(L"underlined", &rect, format); }), seen)
+                << distant;
+            EXPECT_EQ(result, height);
+            EXPECT_EQ(rect, CRect(5, distant, 55, distant + 20));
+        }
+        EXPECT_LT(time(1, [&] { canvas.dc.TextOut(5, distant, L"underlined"); }), seen) << distant;
+        EXPECT_LT(time(1, [&] { canvas.dc.TextOut(distant, 5, L"underlined"); }), seen) << distant;
+    }
+}
+
+TEST(DCEx, TextOfARectangleThatBeginsFarOutsideIsDrawnWhereItShows)
+{
+    const auto drawn = [](CRect rect, UINT format) {
+        Canvas canvas(60, 30);
+        canvas.dc.DrawText(L"text", &rect, format);
+        return canvas.Picture();
+    };
+    const auto blank = Canvas(60, 30).Picture();
+    EXPECT_NE(drawn({-100000, 5, 40, 25}, DT_RIGHT), blank);
+    EXPECT_EQ(drawn({-100000, 5, 40, 25}, DT_RIGHT), drawn({-1000, 5, 40, 25}, DT_RIGHT));
+    EXPECT_EQ(drawn({-100000, 5, 100060, 25}, DT_CENTER), drawn({-1000, 5, 1060, 25}, DT_CENTER));
+    EXPECT_EQ(drawn({5, -100000, 55, 25}, DT_BOTTOM | DT_SINGLELINE),
+              drawn({5, -1000, 55, 25}, DT_BOTTOM | DT_SINGLELINE));
+    EXPECT_EQ(drawn({5, -100000, 55, 100030}, DT_VCENTER | DT_SINGLELINE),
+              drawn({5, -1000, 55, 1030}, DT_VCENTER | DT_SINGLELINE));
+    EXPECT_EQ(drawn({5, -100000, 55, 25}, 0), blank);
+}
+
+TEST(DCEx, ARecordingKeepsTextWhereverItIs)
+{
+    Recording recording;
+    CRect remote(5, 1 << 20, 55, (1 << 20) + 20);
+    recording.dc.DrawText(L"text", &remote, 0);
+    EXPECT_EQ(recording.Lines().size(), 1u);
+}
+
+TEST(DCEx, WhatCanBeSeenIsToldInTheCallersUnits)
+{
+    Canvas canvas(60, 30);
+    EXPECT_EQ(canvas.dc.Visible().right, 60);
+    ScaleBy(canvas.dc, 2.0f, 3.0f);
+    EXPECT_EQ(canvas.dc.Visible().right, 30);
+    EXPECT_EQ(canvas.dc.Visible().bottom, 10);
+    EXPECT_TRUE(canvas.dc.Visible().Meets(TRect{29, 9, 500, 500}, 0));
+    EXPECT_TRUE(canvas.dc.Visible().Meets(TRect{500, 500, 29, 9}, 0)) << "inside out";
+    EXPECT_FALSE(canvas.dc.Visible().Meets(TRect{35, 0, 40, 5}, 4));
+    EXPECT_TRUE(canvas.dc.Visible().Meets(TRect{35, 0, 40, 5}, 5));
+    EXPECT_TRUE(Recording().dc.Visible().Meets(TRect{1 << 30, 1 << 30, 1 << 30, 1 << 30}, 0));
 }

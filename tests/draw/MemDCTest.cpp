@@ -1,5 +1,6 @@
 #include "draw/MemDC.h"
 #include "Canvas.h"
+#include "DirectOperations.h"
 #include "support/GdiCount.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +94,39 @@ TEST(MemDC, OverAPrintingContextItDrawsStraightWithNoBitmap)
     EXPECT_EQ(page.At(0, 0), Green);
     EXPECT_EQ(::GetObjectType(page.dc), static_cast<DWORD>(OBJ_MEMDC))
         << "the handle is still the target's";
+}
+
+TEST(MemDC, OverTwoHandlesItTakesBothAndGivesThemBack)
+{
+    Canvas page(30, 30);
+    Canvas asked(30, 30);
+    ::IntersectClipRect(asked.dc, 2, 3, 20, 21);
+    page.dc.m_bPrinting = TRUE;
+    page.dc.SetAttribDC(asked.dc);
+    ::SetBkColor(asked.dc, Green);
+    {
+        CMemDC memory(&page.dc);
+        EXPECT_EQ(memory.m_hDC, page.dc.m_hDC);
+        EXPECT_EQ(memory.m_hAttribDC, asked.dc.m_hDC);
+        EXPECT_EQ(memory.m_rcArea, CRect(2, 3, 20, 21)) << "asked of the attributes' handle";
+    }
+    EXPECT_EQ(page.At(2, 3), Green) << "drawn on the other";
+    EXPECT_EQ(page.At(1, 3), White);
+    EXPECT_EQ(::GetObjectType(page.dc.m_hDC), static_cast<DWORD>(OBJ_MEMDC));
+    EXPECT_EQ(::GetObjectType(asked.dc.m_hDC), static_cast<DWORD>(OBJ_MEMDC));
+    page.dc.SetAttribDC(page.dc.m_hDC);
+}
+
+TEST(MemDC, TheNineDirectOperationsUseTheDrawingHandleAlone)
+{
+    Canvas drawn(60, 30);
+    Canvas asked(60, 30);
+    ::IntersectClipRect(asked.dc, 50, 20, 60, 30); // would hide everything below
+    drawn.dc.m_bPrinting = TRUE;
+    ::SetBkColor(drawn.dc, White);
+    CMemDC memory(&drawn.dc);
+    memory.SetAttribDC(asked.dc);
+    ExpectDirectOperations(memory, drawn, asked);
 }
 
 TEST(MemDC, AnEmptyClipBoxIsHarmless)

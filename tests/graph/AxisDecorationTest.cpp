@@ -100,9 +100,19 @@ TEST_F(AxisDecoration, AHatchedRangeHasAFrameAndGaps)
 
 TEST_F(AxisDecoration, AnUnknownPatternPaintsNothing)
 {
-    Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"", 7);
+    Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"", 12);
     Y().SetColorRange(1, 2, 8, kGreen, kGreen, L"", 0xFFFFFFFF);
     EXPECT_EQ(Shoot().Count(kGreen), 0);
+}
+
+TEST_F(AxisDecoration, ThePlatformsFurtherPatternsAreDrawn)
+{
+    for (UINT nStyle = 7; nStyle < 12; ++nStyle) {
+        Y().SetColorRange(0, 2, 8, kGreen, kBlue, L"", nStyle);
+        const Picture picture = Shoot();
+        EXPECT_GT(picture.Count(kGreen), 2 * (graph.m_rcInner.Width() - 2)) << nStyle; // the frame
+        EXPECT_EQ(picture.Count(kBlue), 0) << nStyle;
+    }
 }
 
 TEST_F(AxisDecoration, RangesOutsideThePlotEndAtItsEdge)

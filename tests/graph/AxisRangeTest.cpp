@@ -1,7 +1,9 @@
 // Ranges, steps, markers and colour ranges of an axis.
 
 #include "GraphHost.h"
+#include "objects/TickSteps.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -231,6 +233,37 @@ TEST_F(AxisOnScreen, AVisibleGraphSpacesTicksByALabel)
     const int nLength = static_cast<int>(graph.m_rcInner.right - axis.m_fEndMargin - axis.m_fKeySpace) -
                         static_cast<int>(graph.m_rcInner.left);
     EXPECT_EQ(axis.m_fStep, 50.0 / nLength * nSize);
+}
+
+TEST_F(AxisOnScreen, AutoScaleRoundsByTheLabelsThatFitThePlot)
+{
+    CClientDC window(&graph);
+    CDCEx dc;
+    dc.Attach(window.GetSafeHdc());
+    for (CXGraphAxis* pAxis : {graph.GetXAxis(0), graph.GetYAxis(0)}) {
+        CXGraphAxis& axis = *pAxis;
+        axis.SetRange(0.37, 7.93);
+        axis.AutoScale(&dc);
+        const CRect plot = graph.m_rcInner;
+        EXPECT_EQ(axis.m_fEndMargin, (axis.IsVertical() ? 2 : 4) * axis.m_nArcSize);
+        EXPECT_EQ(axis.m_fKeySpace, axis.DrawCurveKeys(&dc, false));
+        axis.SetRange(0.37, 7.93); // the label sizes are those of the range before
+        const double fRoom = axis.IsVertical() ? plot.Height() - axis.m_fEndMargin - axis.m_fKeySpace
+                                               : plot.Width() - axis.m_fEndMargin - axis.m_fKeySpace;
+        const int nSize = axis.IsVertical() ? axis.GetLabelHeight(&dc) : axis.GetMaxLabelWidth(&dc);
+        double fLower = 0.37;
+        double fUpper = 7.93;
+        double fStep = 0;
+        ASSERT_TRUE(TickSteps::CalcNiceStep(std::max(static_cast<int>(fRoom / nSize), 2), fLower, fUpper,
+                                            fStep));
+        TickSteps::AdjustRange(fLower, fUpper, fStep);
+        axis.AutoScale(&dc);
+        EXPECT_EQ(axis.m_fStep, fStep);
+        EXPECT_EQ(axis.m_fCurMin, fLower);
+        EXPECT_EQ(axis.m_fCurMax, fUpper);
+        EXPECT_EQ(axis.m_fMin, 0.37);
+    }
+    dc.Detach();
 }
 
 TEST_F(AxisOnScreen, AHiddenGraphSpacesTicksByATenth)

@@ -1,6 +1,7 @@
 // What of a curve becomes pixels, and what of it the mouse can hit.
 
 #include "GraphHost.h"
+#include "WatchedCanvas.h"
 #include "draw/Canvas.h"
 #include "draw/Selectors.h"
 #include "objects/ColumnWalk.h"
@@ -223,6 +224,67 @@ TEST_F(CurveDrawing, MarkersOfNoSizeStepByTwo)
             EXPECT_FALSE(::GetUpdateRect(graph.m_hWnd, nullptr, FALSE));
         }
     }
+}
+
+TEST_F(CurveDrawing, TheSmallestWidthOverASizeOfMinusOneHasMarkersToo)
+{
+    CXGraphDataSerie& curve = Add(Line());
+    curve.m_nMarkerSize = -1;
+    Paint();
+    Canvas canvas(kWidth, kHeight);
+    graph.m_rcInner = CRect(1 << 30, 0, -(1 << 30), 100);
+    ASSERT_EQ(graph.m_rcInner.Width(), INT_MIN);
+    curve.DrawMarkers(&canvas.dc);
+    EXPECT_EQ(graph.m_rcInner.Width(), INT_MIN);
+}
+
+TEST_F(CurveDrawing, AFillPartnerIsMappedByItsOwnAxes)
+{
+    Add({{0, 9}, {10, 9}});
+    std::vector<TDataPoint> points{{0, 500}, {1, 500}};
+    CXGraphDataSerie& partner = *graph.SetData(points.data(), 2, 1, 1, 1, true); // on axes of its own
+    Show(0, 10, 0, 10);
+    for (CXGraphAxis* pAxis : {graph.GetXAxis(1), graph.GetYAxis(1)})
+        pAxis->m_bAutoScale = false;
+    graph.GetXAxis(1)->SetCurrentRange(0, 1, 0.2);
+    graph.GetYAxis(1)->SetCurrentRange(0, 1000, 200);
+    partner.m_bVisible = false;
+    CXGraphDataSerie& filled = graph.m_Curves[0];
+    filled.SetFillBeneath(true, 1);
+    filled.m_bFillTransparent = false;
+    filled.m_crFillColor = 0x0000FF;
+    const Picture picture = Shoot();
+    const int nColumn = At(5, 0).x;
+    const int nMiddle = graph.GetYAxis(1)->GetPointForValue({0, 500}).y;
+    EXPECT_EQ(picture.At(nColumn, At(0, 9).y + 3), 0x0000FFu);
+    EXPECT_EQ(picture.At(nColumn, nMiddle - 3), 0x0000FFu);
+    EXPECT_NE(picture.At(nColumn, nMiddle + 3), 0x0000FFu);
+}
+
+TEST_F(CurveDrawing, NumberedMarkersShowTheCurvesPositionOrTheMarker)
+{
+    Add(Line());
+    for (const int nType : {0, 2, 1}) {
+        CXGraphDataSerie& curve = Add(Line());
+        curve.m_nMarkerType = nType;
+        curve.m_nMarker = 5;
+        curve.m_nMarkerSize = 9;
+    }
+    Paint();
+    const std::vector<std::wstring> numbers{L"2", L"6"};
+    for (int i = 0; i < 2; ++i) {
+        const CXGraphDataSerie& curve = graph.m_Curves[i == 0 ? 1 : 2];
+        WatchedCanvas canvas(kWidth, kHeight);
+        graph.m_Curves[i == 0 ? 1 : 2].DrawMarkers(&canvas.dc);
+        ASSERT_FALSE(canvas.dc.texts.empty());
+        const TPoint first = At(curve.m_pData[0].fXVal, curve.m_pData[0].fYVal);
+        EXPECT_EQ(canvas.dc.texts[0].rect, CRect(CPoint(first.x - 4, first.y - 4), CSize(9, 9)));
+        for (const WatchedDC::Text& text : canvas.dc.texts)
+            EXPECT_EQ(text.text, numbers[i]);
+    }
+    WatchedCanvas canvas(kWidth, kHeight);
+    graph.m_Curves[3].DrawMarkers(&canvas.dc);
+    EXPECT_TRUE(canvas.dc.texts.empty());
 }
 
 TEST_F(CurveDrawing, HostileSettingsPaint)

@@ -6,6 +6,7 @@
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -128,6 +129,45 @@ TEST_F(GraphLabel, ATiedLabelIsJoinedToTheMiddleOfItsCurve)
     EXPECT_GT(tied.CountDifferences(loose), 40);
     // The inner part of the line lies behind the box.
     EXPECT_EQ(tied.Count(label->m_rcObject, 0x00FF00), loose.Count(label->m_rcObject, 0x00FF00));
+}
+
+TEST_F(GraphLabel, TieFillFrameTrackerAndTextAreDrawnInThisOrder)
+{
+    AddLine();
+    label->m_nCurve = 0;
+    label->m_cText = L"!text";
+    label->m_bSizing = true;
+    label->m_Tracker.m_rect = label->m_rcObject;
+    Paint();
+    const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+    CDCEx dc;
+    dc.Attach(hDC);
+    label->Draw(&dc);
+    dc.Detach();
+    std::string order;
+    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hDC);
+    ::EnumEnhMetaFile(
+        nullptr, hFile,
+        [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
+            auto& found = *reinterpret_cast<std::string*>(lParam);
+            char kind = 0;
+            if (pRecord->iType == EMR_LINETO)
+                kind = 'L';
+            else if (pRecord->iType == EMR_RECTANGLE)
+                kind = 'R';
+            else if (pRecord->iType == EMR_EXTTEXTOUTW)
+                kind = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord)->emrtext.nChars == 0 ? 'F' : 'T';
+            else if (pRecord->iType == EMR_SAVEDC)
+                kind = 'S'; // of the tracker
+            if (kind != 0)
+                found += kind;
+            return 1;
+        },
+        &order, nullptr);
+    ::DeleteEnhMetaFile(hFile);
+    EXPECT_EQ(order.substr(0, 4), "LFRS") << order;
+    EXPECT_EQ(order.back(), 'T') << order;
+    EXPECT_EQ(std::count(order.begin(), order.end(), 'T'), 1) << order;
 }
 
 TEST_F(GraphLabel, ItIsWrittenFieldByField)

@@ -2,6 +2,7 @@
 
 #include "GraphHost.h"
 #include "Recording.h"
+#include "WatchedCanvas.h"
 #include "objects/XGraphDataNotation.h"
 
 namespace
@@ -58,6 +59,23 @@ TEST_F(Notation, ItIsAFramedBoxADotAndAStem)
         EXPECT_EQ(picture.At(point.x, y), 0x000000u) << y;
     // Nothing else: frame with its inside, dot, and what of the stem lies between them.
     EXPECT_EQ(picture.CountDifferences(without), 32 * 14 + 9 + (point.y - 1) - (box.bottom + 1));
+}
+
+TEST_F(Notation, ItsTextIsCentredInTwelvePixelArial)
+{
+    CXGraphDataNotation& note = Insert(5);
+    note.m_cText = L"!note";
+    WatchedCanvas canvas(kWidth, kHeight);
+    note.Draw(&canvas.dc);
+    ASSERT_EQ(canvas.dc.texts.size(), 1u);
+    const WatchedDC::Text& text = canvas.dc.texts[0];
+    EXPECT_EQ(text.rect, note.m_rcObject);
+    EXPECT_EQ(text.format, static_cast<UINT>(DT_CENTER));
+    EXPECT_STREQ(text.font.lfFaceName, L"Arial");
+    EXPECT_EQ(text.font.lfHeight, 12);
+    EXPECT_EQ(text.font.lfWeight, 400);
+    EXPECT_EQ(text.font.lfClipPrecision, 1);
+    EXPECT_EQ(text.font.lfQuality, 4);
 }
 
 TEST_F(Notation, TheBoxIsMeasuredOnceAndFollowsItsPoint)

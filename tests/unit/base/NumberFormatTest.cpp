@@ -41,6 +41,34 @@ std::string Printed(const char* format, double value)
 
 } // namespace
 
+TEST(NumberFormat, AShortenedFormatGivesTheSameBeginning)
+{
+    const std::u16string zeros(5000, u'0');
+    const std::u16string text(5000, u'x');
+    const std::u16string percents(5000, u'%');
+    const std::u16string formats[] = {u"",
+                                      u"%5.1f",
+                                      u"%%%d%s%n%.3e%g%",
+                                      u"100%% of %+ #012.4Lg of 100%",
+                                      u"%" + zeros + u"8.2f" + text,
+                                      text + u"%g",
+                                      u"a%" + zeros,
+                                      percents + u"%.2f",
+                                      percents + u"f",
+                                      u"%.99999f" + percents,
+                                      u"%-" + zeros + u"d%e"};
+    for (const std::u16string& format : formats) {
+        for (const std::size_t longest : {0u, 1u, 7u, 1024u}) {
+            const std::u16string shortened = NumberFormat::Shortened(format, longest);
+            EXPECT_LE(shortened.size(), 2 * longest + 16) << longest;
+            for (const double value : {0.0, -3.25, 1e300})
+                EXPECT_EQ(Narrow(FormatNumber(shortened, value).substr(0, longest)),
+                          Narrow(FormatNumber(format, value).substr(0, longest)))
+                    << Narrow(format.substr(0, 40)) << ' ' << longest;
+        }
+    }
+}
+
 TEST(NumberFormat, AgreesWithTheStandardForEveryFloatingItem)
 {
     const double values[] = {0.0,       -0.0, 1.0,   -1.0,    0.1,     123.456,    -123456.789, 1e-5,

@@ -1,0 +1,133 @@
+#include "objects/TickLabels.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <utility>
+
+namespace
+{
+
+constexpr std::size_t kMostShapes = 16;
+constexpr std::size_t kLargestPile = 256;
+
+bool IsDigit(wchar_t unit) noexcept
+{
+    return unit >= L'0' && unit <= L'9';
+}
+
+std::wstring ShapeOf(const CString& cText)
+{
+    std::wstring shape(cText.View());
+    std::replace_if(shape.begin(), shape.end(), IsDigit, L'0');
+    return shape;
+}
+
+// Whether the text is drawn as one line of as many glyphs as it has units: no prefix, no break.
+bool IsPlain(const std::wstring& text) noexcept
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](wchar_t unit) { return unit >= L' ' && unit != L'&'; });
+}
+
+// Whether all digits of the selected font are equally wide.
+bool AreDigitsAlike(HDC hDC) noexcept
+{
+    INT widths[10] = {};
+    return ::GetCharWidth32(hDC, L'0', L'9', widths) &&
+           std::all_of(std::begin(widths), std::end(widths),
+                       [&](INT width) { return width == widths[0]; });
+}
+
+// Whether no digit of the selected font reaches beyond its cell. Known of outline fonts alone.
+bool AreDigitsInside(HDC hDC) noexcept
+{
+    ABC widths[10] = {};
+    return ::GetCharABCWidths(hDC, L'0', L'9', widths) &&
+           std::all_of(std::begin(widths), std::end(widths),
+                       [](const ABC& width) { return width.abcA >= 0 && width.abcC >= 0; });
+}
+
+// Of glyphs that another font has to lend, too.
+double LargestGlyph(HDC hDC) noexcept
+{
+    TEXTMETRIC metric{};
+    ::GetTextMetrics(hDC, &metric);
+    return 4.0 * std::max(metric.tmHeight, metric.tmMaxCharWidth);
+}
+
+} // namespace
+
+CTickLabels::CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat)
+    : m_axis(axis), m_pDC(pDC), m_nFormat(nFormat), m_font(&axis.m_LabelFont, pDC, true),
+      m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible()),
+      m_fReach(CXGraphAxis::kLongestLabel * LargestGlyph(*pDC))
+{
+    LOGFONTW look = {};
+    m_bUpright =
+        axis.m_LabelFont.GetLogFont(&look) != 0 && look.lfEscapement == 0 && look.lfOrientation == 0;
+    m_bDigitsAlike = AreDigitsAlike(*pDC);
+    m_bDigitsInside = m_bDigitsAlike && AreDigitsInside(*pDC);
+    if (m_bDigitsAlike && pDC->m_bScaling) {
+        const CFontSelector measuring(&axis.m_LabelFont, pDC, false);
+        m_bDigitsAlike = AreDigitsAlike(*pDC);
+    }
+}
+
+void CTickLabels::Pile(double fValue, const Place& place)
+{
+    if (!m_visible.Meets(place(CSize()), m_fReach))
+        return;
+    TLabel label;
+    label.cText = m_axis.LabelText(m_cFormat, fValue);
+    label.strShape = ShapeOf(label.cText);
+    label.size = Measure(label.cText, label.strShape);
+    label.rect = place(label.size);
+    // The line under a letter may stand below the rectangle.
+    if (!m_visible.Meets(label.rect, label.size.cy))
+        return;
+    while (!m_pile.empty() && Covers(label, m_pile.back()))
+        m_pile.pop_back();
+    if (m_pile.size() == kLargestPile)
+        Draw();
+    m_pile.push_back(std::move(label));
+}
+
+void CTickLabels::Draw()
+{
+    for (TLabel& label : m_pile)
+        m_pDC->DrawText(label.cText, &label.rect, m_nFormat);
+    m_pile.clear();
+}
+
+CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
+{
+    const auto known = std::find_if(m_shapes.begin(), m_shapes.end(),
+                                    [&](const TShape& shape) { return shape.strShape == strShape; });
+    if (known != m_shapes.end())
+        return known->size;
+    std::optional<CFontSelector> measuring;
+    if (m_pDC->m_bScaling)
+        measuring.emplace(&m_axis.m_LabelFont, m_pDC, false);
+    const CSize size = m_pDC->GetTextExtent(cText);
+    if (m_bDigitsAlike) {
+        if (m_shapes.size() == kMostShapes)
+            m_shapes.erase(m_shapes.begin());
+        m_shapes.push_back({strShape, size});
+    }
+    return size;
+}
+
+// Text is drawn opaque and clipped to its rectangle, so one that fills its rectangle hides what
+// is under it; and one of the same shape at the same place has the same outline.
+bool CTickLabels::Covers(const TLabel& later, const TLabel& earlier) const
+{
+    if (!m_bUpright)
+        return false;
+    if (m_bDigitsInside && later.rect == earlier.rect && later.strShape == earlier.strShape)
+        return true;
+    return !m_pDC->m_bScaling && IsPlain(later.strShape) && IsPlain(earlier.strShape) &&
+           later.rect.Width() <= later.size.cx && later.rect.Height() <= later.size.cy &&
+           later.rect.left <= earlier.rect.left && later.rect.top <= earlier.rect.top &&
+           later.rect.right >= earlier.rect.right && later.rect.bottom >= earlier.rect.bottom;
+}

@@ -1,0 +1,57 @@
+#pragma once
+// The labels of an axis's ticks on their way to the canvas: made one at a time, and only where
+// they can be seen. Of labels on one pixel those go that a later one covers wholly, so that a
+// hundred thousand ticks on a few hundred pixels cost no more than can be seen of them.
+
+#include "draw/DCEx.h"
+#include "draw/Selectors.h"
+#include "draw/VisibleArea.h"
+#include "objects/XGraphAxis.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class CTickLabels
+{
+public:
+    // Gives the rectangle, in screen units, of a label of a size.
+    using Place = std::function<CRect(CSize)>;
+
+    // The axis's label font is selected, scaled, as long as this lives.
+    CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat);
+
+    // Adds the label of a value to those of the present pixel.
+    void Pile(double fValue, const Place& place);
+    // Draws the labels of the present pixel; the next one begins a new pixel.
+    void Draw();
+
+private:
+    // Texts that differ in their digits alone have one shape: the text with zeros for digits.
+    struct TShape {
+        std::wstring strShape;
+        CSize size;
+    };
+    struct TLabel {
+        CString cText;
+        std::wstring strShape;
+        CSize size;
+        CRect rect;
+    };
+
+    [[nodiscard]] CSize Measure(const CString& cText, const std::wstring& strShape);
+    [[nodiscard]] bool Covers(const TLabel& later, const TLabel& earlier) const;
+
+    CXGraphAxis& m_axis;
+    CDCEx* m_pDC;
+    UINT m_nFormat;
+    CFontSelector m_font;
+    CString m_cFormat;      // m_cDisplayFmt, as far as it can show
+    TVisibleArea m_visible; // in screen units
+    double m_fReach;        // farther than any label extends from its place
+    bool m_bUpright;        // text runs from left to right
+    bool m_bDigitsAlike;    // all digits are equally wide, for measuring
+    bool m_bDigitsInside;   // and, as drawn, none of them leaves its cell
+    std::vector<TShape> m_shapes;
+    std::vector<TLabel> m_pile;
+};
