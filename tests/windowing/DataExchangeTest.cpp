@@ -4,6 +4,7 @@
 
 #include <cfloat>
 #include <limits>
+#include <new>
 #include <string>
 
 #include "framework/windowing/Controls.h"
@@ -274,6 +275,29 @@ TEST_F(DataExchange, MissingControlFailsTheExchangeWithoutABox)
     EXPECT_FALSE(m_dialog.UpdateData(FALSE));
     EXPECT_FALSE(m_dialog.UpdateData(TRUE));
     EXPECT_TRUE(m_boxes.m_texts.empty());
+}
+
+TEST_F(DataExchange, ForeignExceptionPassesAndEndsTheSilence)
+{
+    class CFailing : public CValuesDialog
+    {
+    public:
+        bool m_bFail = false;
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override
+        {
+            CValuesDialog::DoDataExchange(pDX);
+            if (m_bFail)
+                throw std::bad_alloc();
+        }
+    };
+    CFailing dialog;
+    ASSERT_TRUE(dialog.Create(30000, m_host));
+    dialog.m_bFail = true;
+    EXPECT_THROW(dialog.UpdateData(TRUE), std::bad_alloc);
+    ::SetDlgItemTextW(dialog, Unsigned, L"78");
+    EXPECT_EQ(dialog.m_nChanges, 1);
 }
 
 TEST_F(DataExchange, DialogMayGoWhileTheBoxIsOpen)

@@ -1,81 +1,22 @@
-// Dialogs: their modal loop, their owner, their keys, and hosts that interfere.
+// Dialogs: their modal loop, their owner, their place and their keys.
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
-#include <thread>
+#include <vector>
 
-#include "framework/windowing/App.h"
-#include "framework/windowing/Dialog.h"
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/ModuleState.h"
-#include "windowing/DialogHost.h"
-#include "windowing/TestWindows.h"
+#include "windowing/TestDialog.h"
+
+using namespace TestDialogs;
 
 namespace
 {
 
-constexpr UINT Values = 30000;  // a dialog with all sorts of controls, at (0, 0)
-constexpr UINT Damaged = 30001; // its rows can't be read
-constexpr UINT Page = 30002;    // a child
-constexpr UINT Placed = 30003;  // with a place of its own, and no idle messages
-
-class CTestDialog : public CDialog
+class Dialog : public TestDialogs::CHostTest
 {
-public:
-    using CDialog::CDialog;
-
-    std::function<void()> m_onInit;
-    std::function<BOOL(MSG*)> m_onPreTranslate;
-    int m_nOK = 0;
-    int m_nCancel = 0;
-    bool m_bShownAtInit = false;
-
-    BOOL OnInitDialog() override
-    {
-        const BOOL result = CDialog::OnInitDialog();
-        m_bShownAtInit = IsWindowVisible();
-        if (m_onInit)
-            m_onInit();
-        return result;
-    }
-    BOOL PreTranslateMessage(MSG* pMsg) override
-    {
-        if (m_onPreTranslate && m_onPreTranslate(pMsg))
-            return TRUE;
-        return CDialog::PreTranslateMessage(pMsg);
-    }
-    void Press(UINT key) const { ::PostMessageW(::GetFocus(), WM_KEYDOWN, key, 1); }
-    void Choose(int id) const { PostMessage(WM_COMMAND, static_cast<WPARAM>(id), 0); }
-
-protected:
-    void OnOK() override
-    {
-        ++m_nOK;
-        CDialog::OnOK();
-    }
-    void OnCancel() override
-    {
-        ++m_nCancel;
-        CDialog::OnCancel();
-    }
-};
-
-class Dialog : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ::SetActiveWindow(m_host.Handle());
-        DrainQueue();
-    }
-    // What must hold after every end of a modal dialog.
-    void TearDown() override
-    {
-        EXPECT_TRUE(::IsWindowEnabled(m_host.Handle()) || !::IsWindow(m_host.Handle()));
-        EXPECT_EQ(::GetCapture(), nullptr);
-    }
-    CHostWindow m_host;
 };
 
 CRect PlaceOf(HWND window)
@@ -104,6 +45,17 @@ TEST_F(Dialog, CanRunAgain)
         const CModalSteps steps({[&] { dialog.EndDialog(run); }});
         EXPECT_EQ(dialog.DoModal(), run);
     }
+}
+
+TEST_F(Dialog, SecondRunMeanwhileIsRefused)
+{
+    CTestDialog dialog(Values);
+    const CModalSteps steps({[&] {
+                                 EXPECT_EQ(dialog.DoModal(), -1);
+                                 EXPECT_TRUE(dialog.IsWindowVisible());
+                             },
+                             [&] { dialog.EndDialog(3); }});
+    EXPECT_EQ(dialog.DoModal(), 3);
 }
 
 TEST_F(Dialog, OwnerIsDisabledMeanwhileAndActiveAfterwards)
@@ -396,81 +348,4 @@ TEST_F(Dialog, PageReachesItsSheetThroughAnotherControl)
     ASSERT_TRUE(page.Create(Page, CWnd::FromHandle(::GetDlgItem(sheet, 111))));
     EXPECT_EQ(page.GetParentOwner(), &sheet);
     EXPECT_FALSE(page.IsWindowVisible());
-}
-
-TEST_F(Dialog, OwnerDestroyedMeanwhileEndsIt)
-{
-    CTestDialog dialog(Values);
-    const CModalSteps steps({[&] { ::DestroyWindow(m_host.Handle()); }});
-    EXPECT_EQ(dialog.DoModal(), IDABORT);
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-}
-
-TEST_F(Dialog, WindowDestroyedMeanwhileEndsItAndFreesTheOwner)
-{
-    CTestDialog dialog(Values);
-    const CModalSteps steps({[&] { ::DestroyWindow(dialog); }});
-    EXPECT_EQ(dialog.DoModal(), IDABORT);
-}
-
-TEST_F(Dialog, OwnerDestroyedUnderANestedDialogEndsBoth)
-{
-    CTestDialog outer(Values);
-    CTestDialog inner(Values);
-    const CModalSteps steps(
-        {[&] { EXPECT_EQ(inner.DoModal(), IDABORT); }, [&] { ::DestroyWindow(m_host.Handle()); }});
-    EXPECT_EQ(outer.DoModal(), IDABORT);
-    EXPECT_EQ(inner.m_hWnd, nullptr);
-}
-
-TEST_F(Dialog, QuitEndsItAndReachesTheLoopsOutside)
-{
-    CTestDialog outer(Values);
-    CTestDialog inner(Values);
-    const CModalSteps steps(
-        {[&] { EXPECT_EQ(inner.DoModal(), IDABORT); }, [] { ::PostQuitMessage(7); }});
-    EXPECT_EQ(outer.DoModal(), IDABORT);
-    MSG message;
-    ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_EQ(message.wParam, 7u);
-}
-
-TEST_F(Dialog, ExceptionThroughTheLoopLeavesNothingBehind)
-{
-    CTestDialog dialog(Values);
-    dialog.m_onPreTranslate = [](MSG* message) -> BOOL {
-        if (message->message == WM_KEYDOWN)
-            AfxThrowUserException();
-        return FALSE;
-    };
-    const CModalSteps steps({[&] { dialog.Press(VK_TAB); }});
-    EXPECT_THROW(dialog.DoModal(), CUserException*);
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-    EXPECT_TRUE(::IsWindowEnabled(m_host.Handle()));
-}
-
-TEST_F(Dialog, CallFromAnotherThreadWakesTheLoop)
-{
-    CTestDialog dialog(Values);
-    std::thread other;
-    const CModalSteps steps({[&] {
-        const HWND window = dialog;
-        other = std::thread([window] {
-            ::Sleep(50); // no message of its own queue wakes the dialog by then
-            ::SendMessageW(window, WM_COMMAND, IDCANCEL, 0);
-        });
-    }});
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    other.join();
-}
-
-TEST_F(Dialog, ObjectDestroyedWithItsWindowOpenClosesIt)
-{
-    HWND window = nullptr;
-    {
-        CTestDialog dialog;
-        ASSERT_TRUE(dialog.Create(Values, m_host));
-        window = dialog;
-    }
-    EXPECT_FALSE(::IsWindow(window));
 }

@@ -62,6 +62,20 @@ bool IsInput(UINT message) noexcept
            (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
 }
 
+// UpdateData is under way: ends on every way out.
+class CExchanging
+{
+public:
+    explicit CExchanging(bool& flag) noexcept : m_flag(flag), m_before(std::exchange(flag, true)) {}
+    CExchanging(const CExchanging&) = delete;
+    CExchanging& operator=(const CExchanging&) = delete;
+    ~CExchanging() { m_flag = m_before; }
+
+private:
+    bool& m_flag;
+    bool m_before;
+};
+
 // Handlers do the work: what they leave, the platform does.
 INT_PTR CALLBACK DialogProcedure(HWND, UINT, WPARAM, LPARAM) noexcept
 {
@@ -96,6 +110,8 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)
 
 INT_PTR CDialog::DoModal()
 {
+    if (m_hWnd)
+        return -1; // it runs already
     const HWND owner = AfxGetSafeOwner(m_pParentWnd ? m_pParentWnd->m_hWnd : nullptr);
     const CDialogEnd end(*this, owner);
     m_nModalResult = IDABORT;
@@ -204,17 +220,15 @@ BOOL CDialog::OnInitDialog()
 
 BOOL CDialog::UpdateData(BOOL bSaveAndValidate)
 {
-    const bool before = std::exchange(m_bExchanging, true);
-    bool done = false;
+    const CExchanging silence(m_bExchanging);
     try {
         CDataExchange exchange(this, bSaveAndValidate);
         DoDataExchange(&exchange);
-        done = true;
+        return TRUE;
     } catch (CException* e) {
         e->Delete();
     }
-    m_bExchanging = before;
-    return done;
+    return FALSE;
 }
 
 void CDialog::DoDataExchange(CDataExchange*) {}

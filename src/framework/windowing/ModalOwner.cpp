@@ -6,8 +6,10 @@ CModalOwner::CModalOwner(HWND hOwner)
         if (window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
             continue;
         m_disabled.push_back(window);
-        ::EnableWindow(window, FALSE);
     }
+    // Only now, with nothing left that can fail.
+    for (const HWND window : m_disabled)
+        ::EnableWindow(window, FALSE);
 }
 
 void CModalOwner::Enable() noexcept
