@@ -36,6 +36,7 @@ ON_BN_CLICKED(IDC_POLYNOMIALTREND, OnPolynomialTrend)
 ON_WM_MEASUREITEM()
 ON_WM_DRAWITEM()
 ON_WM_LBUTTONDBLCLK()
+ON_MESSAGE(WM_DESTROY, OnDestroy)
 END_MESSAGE_MAP()
 
 namespace
@@ -43,6 +44,17 @@ namespace
 constexpr UINT kMaxLineSize = 5;
 constexpr UINT kMaxMarkerSize = 20;
 constexpr int kSymbol = 1; // of m_nMarkerType
+
+// Takes the picture that a static control has loaded by its template.
+BOOL CALLBACK FreeTile(HWND hWnd, LPARAM)
+{
+    WCHAR className[8] = {};
+    ::GetClassNameW(hWnd, className, 8);
+    const LONG_PTR style = ::GetWindowLongPtrW(hWnd, GWL_STYLE);
+    if (::lstrcmpiW(className, WC_STATICW) == 0 && (style & SS_TYPEMASK) == SS_BITMAP)
+        ::DeleteObject(reinterpret_cast<HGDIOBJ>(::SendMessageW(hWnd, STM_SETIMAGE, IMAGE_BITMAP, 0)));
+    return TRUE;
+}
 } // namespace
 
 void CCurveDlg::DoDataExchange(CDataExchange* pDX)
@@ -209,6 +221,13 @@ BOOL CCurveDlg::PreTranslateMessage(MSG* pMsg)
 
 // The sheet has no use for it.
 void CCurveDlg::OnLButtonDblClk(UINT, CPoint) {}
+
+// Not every platform's control frees the picture of its template.
+LRESULT CCurveDlg::OnDestroy(WPARAM, LPARAM)
+{
+    ::EnumChildWindows(m_hWnd, &FreeTile, 0);
+    return Default();
+}
 
 void CCurveDlg::OnMeasureItem(int nIDCtl, MEASUREITEMSTRUCT* lpMeasureItemStruct)
 {

@@ -60,6 +60,7 @@ protected:
     afx_msg void OnMeasureItem(int nIDCtl, MEASUREITEMSTRUCT* lpMeasureItemStruct);
     afx_msg void OnDrawItem(int nIDCtl, DRAWITEMSTRUCT* lpDrawItemStruct);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnDestroy(WPARAM wParam, LPARAM lParam);
 
 private:
     using Trend = TDataPoint* (CXGraphDataSerie::*)(int) const;
