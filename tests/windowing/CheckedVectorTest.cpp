@@ -21,6 +21,15 @@ void ExitWith42(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintpt
 
 void Ignore(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t) {}
 
+// As a host does that was built with a run-time of its own.
+void InstallIn(LPCWSTR runTime, LPCSTR setter, _invalid_parameter_handler handler)
+{
+    const FARPROC found = ::GetProcAddress(::LoadLibraryW(runTime), setter);
+    const auto set = reinterpret_cast<_invalid_parameter_handler (*)(_invalid_parameter_handler)>(
+        reinterpret_cast<void*>(found));
+    set(handler);
+}
+
 // What a child process does; each of these should be its end.
 const std::map<std::wstring, void (*)()>& Bodies()
 {
@@ -43,6 +52,22 @@ const std::map<std::wstring, void (*)()>& Bodies()
              TNumbers()[0] = 1;
          }},
         {L"inside", [] { TNumbers(3)[2] = 1; }},
+        {L"host",
+         [] {
+             InstallIn(L"ucrtbase.dll", "_set_invalid_parameter_handler", &ExitWith42);
+             TNumbers()[0] = 1;
+         }},
+        {L"host's thread",
+         [] {
+             InstallIn(L"ucrtbase.dll", "_set_invalid_parameter_handler", &Ignore);
+             InstallIn(L"ucrtbase.dll", "_set_thread_local_invalid_parameter_handler", &ExitWith42);
+             TNumbers()[0] = 1;
+         }},
+        {L"older host",
+         [] {
+             InstallIn(L"msvcr100.dll", "_set_invalid_parameter_handler", &ExitWith42);
+             TNumbers()[0] = 1;
+         }},
     };
     return bodies;
 }
@@ -105,6 +130,13 @@ TEST(CheckedVector, IndexOutsideEndsTheProcessAtOnce)
 TEST(CheckedVector, InstalledHandlerIsCalledFirst)
 {
     EXPECT_EQ(ExitCodeOf(L"handler"), 42u);
+}
+
+TEST(CheckedVector, HandlerOfTheHostsOwnRunTimeIsFound)
+{
+    EXPECT_EQ(ExitCodeOf(L"host"), 42u);
+    EXPECT_EQ(ExitCodeOf(L"host's thread"), 42u);
+    EXPECT_EQ(ExitCodeOf(L"older host"), 42u);
 }
 
 TEST(CheckedVector, HandlerThatReturnsDoesNotSaveTheProcess)

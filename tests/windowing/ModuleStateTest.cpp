@@ -209,9 +209,9 @@ TEST(ThreadState, WindowsThatOutliveTheModuleAreLeftWithoutItsProcedure)
     CWnd child;
     ASSERT_TRUE(child.Create(nullptr, nullptr, 0, {0, 0, 10, 10}, host, 1));
     const HWND handle = child.m_hWnd;
-    AfxGetThreadState().windows.DisarmWindows();
+    AfxGetThreadState().windows.ReleaseWindows();
     EXPECT_EQ(::GetWindowLongPtrW(handle, GWLP_WNDPROC), reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
-    EXPECT_TRUE(child.DestroyWindow());
     EXPECT_EQ(child.m_hWnd, nullptr);
     EXPECT_EQ(AfxDllCanUnloadNow(), S_OK);
+    EXPECT_TRUE(::DestroyWindow(handle));
 }

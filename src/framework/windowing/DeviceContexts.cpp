@@ -1,6 +1,7 @@
 #include "framework/windowing/DeviceContexts.h"
 
 #include "framework/windowing/Exceptions.h"
+#include "framework/windowing/ThreadState.h"
 #include "framework/windowing/Window.h"
 
 IMPLEMENT_DYNAMIC(CDC, CObject)
@@ -24,6 +25,11 @@ bool IsPrinterDC(HDC hDC)
 }
 } // namespace
 
+void AfxFreeTemporaryDCs(DWORD thread) noexcept
+{
+    g_DCTable.DeleteTemporaries(thread);
+}
+
 CDC::~CDC()
 {
     // A temporary context has left the table, with its mark, before it is destroyed; what it
@@ -35,6 +41,7 @@ CDC::~CDC()
 CDC* CDC::FromHandle(HDC hDC)
 {
     return g_DCTable.Find<CDC>(hDC, [hDC] {
+        AfxNoteTemporaryHandle();
         auto* temporary = new CDC;
         temporary->m_hDC = temporary->m_hAttribDC = hDC;
         temporary->m_bPrinting = IsPrinterDC(hDC);
@@ -44,7 +51,7 @@ CDC* CDC::FromHandle(HDC hDC)
 
 void CDC::DeleteTempMap() noexcept
 {
-    g_DCTable.DeleteTemporaries(::GetCurrentThreadId());
+    AfxFreeTemporaryDCs(::GetCurrentThreadId());
 }
 
 BOOL CDC::Attach(HDC hDC)

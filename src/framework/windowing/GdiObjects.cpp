@@ -2,6 +2,7 @@
 
 #include "framework/windowing/DeviceContexts.h"
 #include "framework/windowing/Exceptions.h"
+#include "framework/windowing/ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CGdiObject, CObject)
 IMPLEMENT_DYNAMIC(CPen, CGdiObject)
@@ -23,12 +24,18 @@ struct TGdiTableEnd {
 template <class TClass> TClass* FindGdiObject(HGDIOBJ handle)
 {
     return g_GdiTable.Find<TClass>(handle, [handle] {
+        AfxNoteTemporaryHandle();
         auto* object = new TClass;
         object->m_hObject = handle;
         return object;
     });
 }
 } // namespace
+
+void AfxFreeTemporaryGdiObjects(DWORD thread) noexcept
+{
+    g_GdiTable.DeleteTemporaries(thread);
+}
 
 CGdiObject::~CGdiObject()
 {

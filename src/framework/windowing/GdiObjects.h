@@ -2,8 +2,8 @@
 // Owners of GDI handles. An object that is attached to a handle deletes it when it is
 // destroyed, unless the handle was detached before. A handle can be found back from its
 // object (GetSafeHandle) and the object from its handle (FromHandle): a handle that no
-// object owns gets a temporary one of the calling thread, which lives to the end of the module
-// and owns nothing.
+// object owns gets a temporary one of the calling thread, which owns nothing and ends with the
+// call or message that made it.
 // Objects are not copied and not moved. Constructors that take the look of a pen, a brush
 // or a palette throw CResourceException where the platform refuses; the Create functions
 // return FALSE instead and leave the object empty.

@@ -30,7 +30,7 @@ LRESULT CALLBACK QueueHook(int nCode, WPARAM wParam, LPARAM lParam) noexcept
     AFX_THREAD_STATE* const state = AfxFindThreadState();
     if (nCode == HC_ACTION && (wParam & PM_REMOVE) && state && !state->bPumping) {
         if (state->nScopeDepth == 0)
-            state->windows.FreeTemporary(true); // the thread is back in its own loop
+            state->FreeTemporaries(true); // the thread is back in its own loop
         MSG* const message = reinterpret_cast<MSG*>(lParam);
         if (state->windows.HasPermanent() && IsTaken(*message)) {
             message->message = WM_NULL;
@@ -65,8 +65,6 @@ void AfxWatchQueue(AFX_THREAD_STATE& state) noexcept
     if (state.windows.HasPermanent() && !state.hMessageHook)
         state.hMessageHook =
             ::SetWindowsHookExW(WH_GETMESSAGE, &QueueHook, nullptr, ::GetCurrentThreadId());
-    else if (!state.windows.HasPermanent() && state.hMessageHook)
-        ::UnhookWindowsHookEx(std::exchange(state.hMessageHook, nullptr));
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*)

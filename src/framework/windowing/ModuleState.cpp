@@ -85,7 +85,7 @@ AFX_TEMP_SCOPE::AFX_TEMP_SCOPE() : m_pThread(&AfxGetThreadState())
 AFX_TEMP_SCOPE::~AFX_TEMP_SCOPE()
 {
     if (--m_pThread->nScopeDepth == 0)
-        m_pThread->windows.FreeTemporary(false);
+        m_pThread->FreeTemporaries(false);
 }
 
 void AFX_TEMP_SCOPE::SetModuleState(AFX_MODULE_STATE* pState) noexcept

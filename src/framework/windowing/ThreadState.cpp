@@ -10,10 +10,23 @@
 namespace
 {
 
+// The process is past its last instruction: other threads were stopped wherever they were,
+// perhaps inside of a lock, and the host's own objects may be gone.
+bool IsProcessEnding() noexcept
+{
+    const FARPROC question =
+        ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress");
+    return question && reinterpret_cast<BOOLEAN(WINAPI*)()>(reinterpret_cast<void*>(question))();
+}
+
 void CALLBACK FreeThreadState(void* state) noexcept
 {
-    delete static_cast<AFX_THREAD_STATE*>(state);
+    if (!IsProcessEnding())
+        delete static_cast<AFX_THREAD_STATE*>(state);
 }
+
+constinit SRWLOCK g_ownership = SRWLOCK_INIT;
+constinit AFX_THREAD_STATE* g_threads = nullptr; // all that there are
 
 // The system's own per-thread slot rather than the compiler's: it ends with the thread in a
 // library as well as in a program, and when the library goes, for all threads at once. The index
@@ -63,13 +76,65 @@ AFX_THREAD_STATE& AfxGetThreadState()
     return *state.release();
 }
 
+AFX_THREAD_STATE::AFX_THREAD_STATE() noexcept
+{
+    const CWindowOwnership lock;
+    next = std::exchange(g_threads, this);
+}
+
 AFX_THREAD_STATE::~AFX_THREAD_STATE()
 {
     if (hCreateHook)
         ::UnhookWindowsHookEx(hCreateHook);
     if (hMessageHook)
         ::UnhookWindowsHookEx(hMessageHook);
-    windows.DisarmWindows();
+    windows.ReleaseWindows();
+    FreeTemporaries(true);
+    const CWindowOwnership lock;
+    AFX_THREAD_STATE** place = &g_threads;
+    while (*place != this)
+        place = &(*place)->next;
+    *place = next;
+}
+
+AFX_THREAD_STATE* AFX_THREAD_STATE::OwnerOf(const CWnd& wnd) noexcept
+{
+    AFX_THREAD_STATE* thread = g_threads;
+    while (thread && !thread->windows.Holds(wnd))
+        thread = thread->next;
+    return thread;
+}
+
+void AFX_THREAD_STATE::FreeTemporaries(bool all) noexcept
+{
+    windows.FreeTemporary(all);
+    if (all ? bHandlesInScope || bHandlesOutside : bHandlesInScope && !bHandlesOutside) {
+        AfxFreeTemporaryGdiObjects(thread);
+        AfxFreeTemporaryDCs(thread);
+        bHandlesInScope = bHandlesOutside = false;
+    }
+}
+
+void AFX_THREAD_STATE::UnwatchQueue() noexcept
+{
+    if (!windows.HasPermanent() && hMessageHook)
+        ::UnhookWindowsHookEx(std::exchange(hMessageHook, nullptr));
+}
+
+void AfxNoteTemporaryHandle() noexcept
+{
+    if (AFX_THREAD_STATE* const state = AfxFindThreadState())
+        (state->nScopeDepth > 0 ? state->bHandlesInScope : state->bHandlesOutside) = true;
+}
+
+CWindowOwnership::CWindowOwnership() noexcept
+{
+    ::AcquireSRWLockExclusive(&g_ownership);
+}
+
+CWindowOwnership::~CWindowOwnership()
+{
+    ::ReleaseSRWLockExclusive(&g_ownership);
 }
 
 CWndMap::CWndMap() = default;
@@ -77,6 +142,7 @@ CWndMap::~CWndMap() = default;
 
 CWnd* CWndMap::LookupPermanent(HWND hWnd) const noexcept
 {
+    const CWindowOwnership lock;
     const auto found = m_permanent.find(hWnd);
     return found == m_permanent.end() ? nullptr : found->second;
 }
@@ -97,12 +163,19 @@ CWnd* CWndMap::FromHandle(HWND hWnd, bool inScope)
     return result;
 }
 
-void CWndMap::DisarmWindows() const noexcept
+bool CWndMap::Holds(const CWnd& wnd) const noexcept
 {
-    for (const auto& entry : m_permanent) {
-        if (AFX_WND_ENTRY::HasOurProcedure(entry.first))
-            ::SetWindowLongPtrW(entry.first, GWLP_WNDPROC,
-                                reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
+    const auto found = m_permanent.find(wnd.m_hWnd);
+    return found != m_permanent.end() && found->second == &wnd;
+}
+
+void CWndMap::ReleaseWindows() noexcept
+{
+    const CWindowOwnership lock;
+    while (!m_permanent.empty()) {
+        const auto [hWnd, pWnd] = *m_permanent.begin();
+        AFX_WND_ENTRY::Release(*pWnd);
+        m_permanent.erase(hWnd);
     }
 }
 

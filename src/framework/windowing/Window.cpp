@@ -7,6 +7,17 @@
 #include "framework/windowing/ThreadState.h"
 #include "framework/windowing/WindowEntry.h"
 
+namespace
+{
+
+bool IsPermanent(const CWnd& wnd) noexcept
+{
+    const CWindowOwnership lock;
+    return AFX_THREAD_STATE::OwnerOf(wnd) != nullptr;
+}
+
+} // namespace
+
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
 const CWnd CWnd::wndTop(HWND_TOP);
@@ -15,7 +26,7 @@ const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 CWnd::~CWnd()
 {
     // Temporary objects and the constants above stand for windows that are not theirs.
-    if (m_hWnd && FromHandlePermanent(m_hWnd) == this) {
+    if (m_hWnd && IsPermanent(*this)) {
         CWnd::DestroyWindow();
         Detach();
     }
@@ -38,8 +49,11 @@ BOOL CWnd::Attach(HWND hWndNew)
     if (!hWndNew || m_hWnd)
         return FALSE;
     AFX_THREAD_STATE& state = AfxGetThreadState();
-    state.windows.SetPermanent(hWndNew, this);
-    m_hWnd = hWndNew;
+    {
+        const CWindowOwnership lock;
+        state.windows.SetPermanent(hWndNew, this);
+        m_hWnd = hWndNew;
+    }
     AfxOleLockApp(); // the window's procedure lies in this module
     AfxWatchQueue(state);
     return TRUE;
@@ -47,20 +61,8 @@ BOOL CWnd::Attach(HWND hWndNew)
 
 HWND CWnd::Detach() noexcept
 {
-    const HWND hWnd = m_hWnd;
-    if (!hWnd)
-        return nullptr;
-    if (m_pfnSuper && AFX_WND_ENTRY::HasOurProcedure(hWnd))
-        ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
-    AFX_THREAD_STATE* const state = AfxFindThreadState();
-    if (state && state->windows.LookupPermanent(hWnd) == this) {
-        state->windows.RemovePermanent(hWnd);
-        AfxOleUnlockApp();
-        AfxWatchQueue(*state);
-    }
-    m_hWnd = nullptr;
-    m_pfnSuper = nullptr;
-    return hWnd;
+    const CWindowOwnership lock;
+    return AFX_WND_ENTRY::Release(*this);
 }
 
 void CWnd::TakeMessages()

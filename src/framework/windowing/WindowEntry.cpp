@@ -73,6 +73,23 @@ bool AFX_WND_ENTRY::HasOurProcedure(HWND hWnd) noexcept
     return ::GetWindowLongPtrW(hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&Procedure);
 }
 
+HWND AFX_WND_ENTRY::Release(CWnd& wnd) noexcept
+{
+    const HWND hWnd = wnd.m_hWnd;
+    if (!hWnd)
+        return nullptr;
+    if (wnd.m_pfnSuper && HasOurProcedure(hWnd))
+        ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(wnd.m_pfnSuper));
+    if (AFX_THREAD_STATE* const owner = AFX_THREAD_STATE::OwnerOf(wnd)) {
+        owner->windows.RemovePermanent(hWnd);
+        AfxOleUnlockApp();
+        owner->UnwatchQueue();
+    }
+    wnd.m_hWnd = nullptr;
+    wnd.m_pfnSuper = nullptr;
+    return hWnd;
+}
+
 void AFX_WND_ENTRY::HookCreation(CWnd* pWnd)
 {
     AFX_THREAD_STATE& state = AfxGetThreadState();

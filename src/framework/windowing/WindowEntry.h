@@ -11,6 +11,9 @@ struct AFX_WND_ENTRY {
     static LRESULT CALLBACK Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     [[nodiscard]] static bool HasOurProcedure(HWND hWnd) noexcept;
 
+    // Parts an object from its window, on any thread, under CWindowOwnership.
+    static HWND Release(CWnd& wnd) noexcept;
+
     // The next window that this thread creates becomes pWnd's.
     static void HookCreation(CWnd* pWnd);
     // False if no window was created in between.
