@@ -2,36 +2,10 @@
 
 #include "GraphHost.h"
 #include "support/GdiCount.h"
+#include "support/PrivateServer.h"
 
 namespace
 {
-
-// A second module of its own: its end is the end of its graphs alone.
-class PrivateServer
-{
-public:
-    PrivateServer()
-    {
-        wchar_t folder[MAX_PATH];
-        ::GetTempPathW(MAX_PATH, folder);
-        m_path = std::wstring(folder) + L"VantoplexPrivate.dll";
-        ::CopyFileW(Server::PathBesideProgram().c_str(), m_path.c_str(), FALSE);
-        m_server = std::make_unique<Server>(m_path);
-    }
-    PrivateServer(const PrivateServer&) = delete;
-    PrivateServer& operator=(const PrivateServer&) = delete;
-    ~PrivateServer()
-    {
-        m_server.reset();
-        ::DeleteFileW(m_path.c_str());
-    }
-    Server& operator*() const { return *m_server; }
-    Server* operator->() const { return m_server.get(); }
-
-private:
-    std::wstring m_path;
-    std::unique_ptr<Server> m_server;
-};
 
 int CountChildren(HWND hWnd)
 {

@@ -4,6 +4,7 @@
 #include "base/Vocabulary.h"
 #include "framework/windowing/ModuleState.h"
 #include "graph/XGraph.h"
+#include "support/HostWindow.h"
 #include "support/Picture.h"
 
 #include <gtest/gtest.h>
@@ -20,22 +21,6 @@ inline void PrintTo(const CRect& rect, std::ostream* stream)
 {
     PrintTo(static_cast<const RECT&>(rect), stream);
 }
-
-// A top-level window on the platform's own means.
-class GraphParent
-{
-public:
-    GraphParent()
-    {
-        m_hWnd = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 900, 700, nullptr,
-                                   nullptr, nullptr, nullptr);
-    }
-    GraphParent(const GraphParent&) = delete;
-    GraphParent& operator=(const GraphParent&) = delete;
-    ~GraphParent() { ::DestroyWindow(m_hWnd); }
-
-    HWND m_hWnd;
-};
 
 class GraphTest : public testing::Test
 {
@@ -78,6 +63,6 @@ protected:
         return Picture(graph.m_hWnd);
     }
 
-    GraphParent host;
+    HostWindow host;
     CXGraph& graph;
 };

@@ -138,7 +138,7 @@ TEST_F(GraphWindow, AGraphOutlivesItsWindowUntilItIsFreed)
 
 TEST(GraphAccount, FreeAllDestroysWhatIsLeftWithItsWindow)
 {
-    GraphParent host;
+    HostWindow host;
     const int before = CXGraph::GetLiveCount();
     ASSERT_EQ(before, 0);
     auto* pGraph = new CXGraph;

@@ -64,7 +64,7 @@ protected:
     int Children() const
     {
         int count = 0;
-        for (HWND child = ::GetWindow(m_hHost, GW_CHILD); child != nullptr;
+        for (HWND child = ::GetWindow(host.m_hWnd, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT)) {
             ++count;
         }

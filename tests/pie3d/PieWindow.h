@@ -3,6 +3,7 @@
 // says otherwise: the pie stands at (30, 100, 500, 570), centre (265, 335), radius 235.
 
 #include "pie3d/PieChartWnd.h"
+#include "support/HostWindow.h"
 #include "support/Picture.h"
 
 #include <gtest/gtest.h>
@@ -16,26 +17,12 @@ protected:
     static constexpr PieColors::Argb kGreen = 0xFF00C000;
     static constexpr PieColors::Argb kBlue = 0xFF0000FF;
 
-    PieWindow()
-    {
-        WNDCLASSW wndclass = {};
-        wndclass.lpfnWndProc = &::DefWindowProcW;
-        wndclass.hInstance = ::GetModuleHandleW(nullptr);
-        wndclass.lpszClassName = L"PieWindowHost";
-        ::RegisterClassW(&wndclass); // fails harmlessly the second time
-        m_hHost = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 900,
-                                    700, nullptr, nullptr, wndclass.hInstance, nullptr);
-        Make(pie);
-    }
-    ~PieWindow() override
-    {
-        pie.DestroyWindow();
-        ::DestroyWindow(m_hHost);
-    }
+    PieWindow() { Make(pie); }
+    ~PieWindow() override { pie.DestroyWindow(); }
 
     void Make(CPieChartWnd& wnd, int width = 800, int height = 600) const
     {
-        wnd.Create(L"Title", CRect(0, 0, width, height), CWnd::FromHandle(m_hHost), 5);
+        wnd.Create(L"Title", CRect(0, 0, width, height), CWnd::FromHandle(host.m_hWnd), 5);
     }
 
     // Elements of these values, named e0, e1, ... and red, green, blue in turn.
@@ -92,7 +79,7 @@ protected:
     }
     bool NeedsPaint() const { return ::GetUpdateRect(pie.m_hWnd, nullptr, FALSE) != FALSE; }
 
-    HWND m_hHost = nullptr;
+    HostWindow host;
     CPieChartWnd pie;
 };
 

@@ -57,7 +57,7 @@ TEST_F(PieSettings, TheCaptionIsTheTitleAndTheWindowAVisibleChildWithClippedChil
     pie.GetWindowText(text);
     EXPECT_TRUE(text.IsEmpty());
     CPieChartWnd untitled;
-    untitled.Create(nullptr, CRect(0, 0, 10, 10), CWnd::FromHandle(m_hHost), 6);
+    untitled.Create(nullptr, CRect(0, 0, 10, 10), CWnd::FromHandle(host.m_hWnd), 6);
     EXPECT_TRUE(untitled.m_strTitle.IsEmpty());
 }
 

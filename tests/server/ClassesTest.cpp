@@ -10,7 +10,7 @@ namespace
 class Classes : public testing::Test
 {
 protected:
-    LoadedServer server;
+    Server server;
 };
 
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // it ends with its scope
@@ -67,12 +67,12 @@ TEST_F(Classes, ResultPointerIsRequired)
 TEST_F(Classes, EveryClassHasOneClassObject)
 {
     for (const ServerClass& row : serverClasses) {
-        Ref<IClassFactory> first;
-        Ref<IClassFactory> second;
+        Holder<IClassFactory> first;
+        Holder<IClassFactory> second;
         ASSERT_EQ(server.GetClassObject(row.clsid, IID_IClassFactory, first.OutVoid()), S_OK)
             << Narrow(row.name);
         ASSERT_EQ(server.GetClassObject(row.clsid, IID_IClassFactory, second.OutVoid()), S_OK);
-        EXPECT_EQ(first.p, second.p) << Narrow(row.name);
+        EXPECT_EQ(first.Get(), second.Get()) << Narrow(row.name);
     }
 }
 
@@ -87,11 +87,11 @@ TEST_F(Classes, ClassObjectAnswersNothingButItsInterface)
 TEST_F(Classes, EveryClassAnswersItsTwoInterfacesAndIUnknown)
 {
     for (const ServerClass& row : serverClasses) {
-        Ref<IUnknown> object;
+        Holder<IUnknown> object;
         ASSERT_EQ(server.Create(row.clsid, nullptr, IID_IUnknown, object.OutVoid()), S_OK)
             << Narrow(row.name);
         for (const IID& iid : {row.iid, IID_IDispatch, IID_IUnknown}) {
-            Ref<IUnknown> answer;
+            Holder<IUnknown> answer;
             EXPECT_EQ(object->QueryInterface(iid, answer.OutVoid()), S_OK) << Narrow(row.name);
         }
         EXPECT_EQ(object->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
@@ -101,7 +101,7 @@ TEST_F(Classes, EveryClassAnswersItsTwoInterfacesAndIUnknown)
 TEST_F(Classes, NoClassAnswersTheInterfaceOfAnother)
 {
     for (const ServerClass& row : serverClasses) {
-        Ref<IUnknown> object;
+        Holder<IUnknown> object;
         ASSERT_EQ(server.Create(row.clsid, nullptr, IID_IUnknown, object.OutVoid()), S_OK)
             << Narrow(row.name);
         for (const ServerClass& other : serverClasses) {
@@ -125,7 +125,7 @@ TEST_F(Classes, LogAxisDoesNotAnswerItsBaseInterfaces)
     EXPECT_EQ(axis->QueryInterface(__uuidof(ISGraphAxis), &answer), E_NOINTERFACE);
     EXPECT_EQ(axis->QueryInterface(__uuidof(ISGraphObject), &answer), E_NOINTERFACE);
     EXPECT_EQ(axis->QueryInterface(__uuidof(ISObject), &answer), E_NOINTERFACE);
-    Ref<IUnknown> own;
+    Holder<IUnknown> own;
     EXPECT_EQ(axis->QueryInterface(__uuidof(ISGraphLogAxis), own.OutVoid()), S_OK);
     EXPECT_EQ(axis->QueryInterface(IID_IDispatch, own.OutVoid()), S_OK);
     EXPECT_EQ(axis->QueryInterface(IID_IUnknown, own.OutVoid()), S_OK);
@@ -164,18 +164,18 @@ TEST_F(Classes, EveryClassCanBeAggregated)
 {
     for (const ServerClass& row : serverClasses) {
         OuterObject outer;
-        Ref<IUnknown> inner;
+        Holder<IUnknown> inner;
         ASSERT_EQ(server.Create(row.clsid, &outer, IID_IUnknown, inner.OutVoid()), S_OK)
             << Narrow(row.name);
         outer.inner = inner;
 
         {
-            Ref<IUnknown> own;
+            Holder<IUnknown> own;
             ASSERT_EQ(inner->QueryInterface(row.iid, own.OutVoid()), S_OK);
             EXPECT_EQ(outer.references, 2U) << "the interface's references are the outer's";
-            Ref<IUnknown> identity;
+            Holder<IUnknown> identity;
             EXPECT_EQ(own->QueryInterface(IID_IUnknown, identity.OutVoid()), S_OK);
-            EXPECT_EQ(identity.p, &outer);
+            EXPECT_EQ(identity.Get(), &outer);
         }
         EXPECT_EQ(outer.references, 1U);
         EXPECT_EQ(server.CanUnloadNow(), S_FALSE);
@@ -198,7 +198,7 @@ TEST_F(Classes, LiveInstanceHoldsTheModule)
 TEST_F(Classes, CachedClassObjectsDoNotHoldTheModule)
 {
     for (const ServerClass& row : serverClasses) {
-        Ref<IClassFactory> factory;
+        Holder<IClassFactory> factory;
         ASSERT_EQ(server.GetClassObject(row.clsid, IID_IClassFactory, factory.OutVoid()), S_OK);
     }
     EXPECT_EQ(server.CanUnloadNow(), S_OK);
@@ -206,7 +206,7 @@ TEST_F(Classes, CachedClassObjectsDoNotHoldTheModule)
 
 TEST_F(Classes, LockServerHoldsTheModule)
 {
-    Ref<IClassFactory> factory;
+    Holder<IClassFactory> factory;
     ASSERT_EQ(server.GetClassObject(__uuidof(SGraph), IID_IClassFactory, factory.OutVoid()), S_OK);
 
     EXPECT_EQ(factory->LockServer(TRUE), S_OK);
@@ -226,7 +226,7 @@ TEST_F(Classes, ManyInstancesComeAndGo)
 {
     for (int round = 0; round < 200; ++round) {
         for (const ServerClass& row : serverClasses) {
-            Ref<IUnknown> object;
+            Holder<IUnknown> object;
             ASSERT_EQ(server.Create(row.clsid, nullptr, row.iid, object.OutVoid()), S_OK);
         }
     }
@@ -238,9 +238,9 @@ TEST(Module, LoadsAndUnloadsAgain)
     // Other tests of the program may hold it for good.
     const HMODULE held = GetModuleHandleW(L"Vantoplex.dll");
     for (int round = 0; round < 5; ++round) {
-        const LoadedServer server;
+        const Server server;
         const auto object = server.Make<SGraphObject, ISGraphObject>();
-        EXPECT_NE(object.p, nullptr);
+        EXPECT_NE(object.Get(), nullptr);
     }
     EXPECT_EQ(GetModuleHandleW(L"Vantoplex.dll"), held);
 }

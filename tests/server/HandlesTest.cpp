@@ -17,14 +17,14 @@ protected:
     UINT* Native() { return reinterpret_cast<UINT*>(memory.data()); }
 
     // A wrapper of the memory.
-    Ref<ISGraphObject> Wrapper()
+    Holder<ISGraphObject> Wrapper()
     {
         auto wrapper = server.Make<SGraphObject, ISGraphObject>();
         EXPECT_EQ(wrapper->SetObjectHandle(Native()), S_OK);
         return wrapper;
     }
 
-    LoadedServer server;
+    Server server;
     alignas(16) std::array<BYTE, 4096> memory{};
 };
 
@@ -97,7 +97,7 @@ TEST_F(Handles, EveryChildWrapperTreatsItsHandleAlike)
             name == "SGraphDataNotation") {
             continue;
         }
-        Ref<ISObject> wrapper; // the table of each begins with these methods
+        Holder<ISObject> wrapper; // the table of each begins with these methods
         ASSERT_EQ(server.Create(row.clsid, nullptr, row.iid, wrapper.OutVoid()), S_OK) << name;
         UINT* p = nullptr;
         EXPECT_EQ(wrapper->GetObjectHandle(&p), S_OK) << name;

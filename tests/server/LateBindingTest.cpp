@@ -5,8 +5,8 @@
 #include "server/ExpectedInterfaces.h"
 #include "support/LoadedServer.h"
 
-#include <gtest/gtest.h>
 #include <oleauto.h>
+#include <gtest/gtest.h>
 
 #include <cstring>
 #include <map>
@@ -87,7 +87,7 @@ HRESULT CallEntry(IUnknown* object, int entry, const char* parameters)
 class LateBinding : public testing::Test
 {
 protected:
-    template <class Coclass> Ref<IDispatch> Object() { return server.Make<Coclass, IDispatch>(); }
+    template <class Coclass> Holder<IDispatch> Object() { return server.Make<Coclass, IDispatch>(); }
 
     // Drives every entry that the library counts for an interface's own methods on an object
     // without a handle, and gives the results that are not S_OK, by number.
@@ -104,12 +104,12 @@ protected:
         return refusals;
     }
 
-    LoadedServer server;
+    Server server;
 };
 
 // A graph in a window that is not shown.
 struct GraphInAWindow {
-    explicit GraphInAWindow(const LoadedServer& server) : graph(server.Make<SGraph, ISGraph>())
+    explicit GraphInAWindow(const Server& server) : graph(server.Make<SGraph, ISGraph>())
     {
         RECT rect{0, 0, 400, 300};
         EXPECT_EQ(graph->Create(nullptr, &rect, ToWire(parent), 1), S_OK);
@@ -120,7 +120,7 @@ struct GraphInAWindow {
 
     HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
                                   nullptr, nullptr, nullptr);
-    Ref<ISGraph> graph;
+    Holder<ISGraph> graph;
 };
 
 using Refused = std::map<int, HRESULT>;
@@ -134,7 +134,7 @@ TEST_F(LateBinding, EveryNameHasItsNumberInEveryClass)
         byName[row.name] = &row;
     }
     for (const ServerClass& row : serverClasses) {
-        Ref<IDispatch> object;
+        Holder<IDispatch> object;
         ASSERT_EQ(server.Create(row.clsid, nullptr, IID_IDispatch, object.OutVoid()), S_OK);
         std::map<std::string, int> expected; // the most derived declaration counts
         for (std::string name = "I" + Narrow(row.name); name != "IDispatch";
@@ -172,12 +172,12 @@ TEST_F(LateBinding, WrongArgumentsAreRefused)
 TEST_F(LateBinding, DescriptionIsThatOfTheInterface)
 {
     for (const ServerClass& row : serverClasses) {
-        Ref<IDispatch> object;
+        Holder<IDispatch> object;
         ASSERT_EQ(server.Create(row.clsid, nullptr, IID_IDispatch, object.OutVoid()), S_OK);
         UINT count = 0;
         EXPECT_EQ(object->GetTypeInfoCount(&count), S_OK);
         EXPECT_EQ(count, 1U);
-        Ref<ITypeInfo> info;
+        Holder<ITypeInfo> info;
         ASSERT_EQ(object->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.Out()), S_OK) << Narrow(row.name);
         TYPEATTR* attributes = nullptr;
         ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
@@ -234,7 +234,7 @@ TEST_F(LateBinding, CallsOfALabelLandTwoMethodsFurtherDown)
 {
     const GraphInAWindow host(server);
     RECT place{10, 10, 60, 30};
-    Ref<ISGraphLabel> label;
+    Holder<ISGraphLabel> label;
     ASSERT_EQ(host.graph->InsertLabel(nullptr, &place, label.Out()), S_OK);
     label->SetColor(1);
     label->SetTextColor(2);
@@ -256,7 +256,7 @@ TEST_F(LateBinding, CallsOfACurveLandOneMethodFurtherDown)
 {
     const GraphInAWindow host(server);
     TDataPoint points[] = {{0, 1}, {1, 2}, {2, 3}};
-    Ref<ISGraphDataSerie> curve;
+    Holder<ISGraphDataSerie> curve;
     ASSERT_EQ(host.graph->SetData(curve.Out(), points, 3, 0, 0, 0, 1), S_OK);
     curve->SetLineSize(4);
     curve->SetFillStyle(0);
@@ -275,7 +275,7 @@ TEST_F(LateBinding, ObjectsLiveOnAfterRefusals)
     const auto label = Object<SGraphLabel>();
     ASSERT_EQ(Call(label, 93, {Of(1)}), E_NOTIMPL);
 
-    Ref<ISGraphLabel> same;
+    Holder<ISGraphLabel> same;
     EXPECT_EQ(label->QueryInterface(__uuidof(ISGraphLabel), same.OutVoid()), S_OK);
     EXPECT_EQ(same->SetAlignment(1), S_OK);
     EXPECT_EQ(label->AddRef(), 3U);
@@ -286,7 +286,7 @@ TEST_F(LateBinding, TypedResultsArriveByReference)
 {
     const auto object = Object<SGraphObject>();
     alignas(16) BYTE native[4096] = {};
-    Ref<ISGraphObject> wrapper;
+    Holder<ISGraphObject> wrapper;
     ASSERT_EQ(object->QueryInterface(__uuidof(ISGraphObject), wrapper.OutVoid()), S_OK);
     wrapper->SetObjectHandle(reinterpret_cast<UINT*>(native));
     LONG flag = 7;
@@ -304,7 +304,7 @@ TEST_F(LateBinding, WorksFromTheRegisteredLibraryToo)
 {
     ASSERT_EQ(server.Register(), S_OK);
     const auto notation = Object<SGraphDataNotation>();
-    Ref<ITypeInfo> info;
+    Holder<ITypeInfo> info;
     EXPECT_EQ(notation->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.Out()), S_OK);
     const auto axis = Object<SGraphAxis>();
     EXPECT_EQ(Call(axis, IdOf(axis, "SetArcSize"), {Of(1)}), S_OK);

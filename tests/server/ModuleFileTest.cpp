@@ -23,12 +23,12 @@ protected:
                                                SizeofResource(server.module, found));
     }
 
-    LoadedServer server;
+    Server server;
 };
 
 std::vector<BYTE> VersionRecord()
 {
-    const std::wstring path = LoadedServer::BesideTheProgram();
+    const std::wstring path = Server::PathBesideProgram();
     DWORD ignored = 0;
     std::vector<BYTE> record(GetFileVersionInfoSizeW(path.c_str(), &ignored));
     EXPECT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(record.size()), record.data()));

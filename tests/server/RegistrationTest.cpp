@@ -3,9 +3,9 @@
 
 #include "support/LoadedServer.h"
 
-#include <gtest/gtest.h>
 #include <oleauto.h>
 #include <shlwapi.h>
+#include <gtest/gtest.h>
 
 #include <vector>
 
@@ -48,7 +48,7 @@ protected:
     Registration() { EXPECT_EQ(server.Register(), S_OK); }
     ~Registration() override { EXPECT_EQ(server.Unregister(), S_OK); }
 
-    LoadedServer server;
+    Server server;
 };
 
 } // namespace
@@ -81,7 +81,7 @@ TEST_F(Registration, EveryClassTellsWhereItLives)
         EXPECT_EQ(Value(key + L"\\VersionIndependentProgID"), progId);
         EXPECT_TRUE(Exists(key + L"\\Programmable"));
         EXPECT_EQ(Value(key + L"\\Programmable"), absent);
-        EXPECT_EQ(Value(key + L"\\InprocServer32"), LoadedServer::BesideTheProgram());
+        EXPECT_EQ(Value(key + L"\\InprocServer32"), Server::PathBesideProgram());
         EXPECT_EQ(Value(key + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
         EXPECT_EQ(Value(key + L"\\TypeLib"), libid);
     }
@@ -93,10 +93,10 @@ TEST_F(Registration, TypeLibraryIsFoundByItsIdentifier)
     constexpr GUID id{0x6C24BE93, 0x2D8D, 0x4820, {0x8F, 0xFF, 0xAF, 0x9F, 0xC6, 0x30, 0x07, 0xF8}};
 
     ASSERT_EQ(QueryPathOfRegTypeLib(id, 1, 0, 1033, &path), S_OK);
-    EXPECT_EQ(_wcsicmp(path, LoadedServer::BesideTheProgram().c_str()), 0) << Narrow(path);
+    EXPECT_EQ(_wcsicmp(path, Server::PathBesideProgram().c_str()), 0) << Narrow(path);
     SysFreeString(path);
     EXPECT_EQ(Value(std::wstring(L"TypeLib\\") + libid + L"\\1.0"), L"Vantoplex 1.0 Type Library");
-    Ref<ITypeLib> library;
+    Holder<ITypeLib> library;
     EXPECT_EQ(LoadRegTypeLib(id, 1, 0, 1033, library.Out()), S_OK);
 }
 
@@ -111,7 +111,7 @@ TEST_F(Registration, HostCreatesClassesByProgId)
     ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
     for (const ServerClass& row : serverClasses) {
         CLSID clsid{};
-        Ref<IUnknown> object;
+        Holder<IUnknown> object;
         EXPECT_EQ(CLSIDFromProgID((std::wstring(L"Vantoplex.") + row.name + L".1").c_str(), &clsid),
                   S_OK);
         EXPECT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, row.iid, object.OutVoid()),
@@ -163,9 +163,9 @@ TEST(RegistrationElsewhere, AnyFolderNameIsStoredAsItIs)
     const std::wstring folder = std::wstring(temporary) + L"it's 100%MODULE% {\u00FCber}";
     const std::wstring path = folder + L"\\Vantoplex.dll";
     CreateDirectoryW(folder.c_str(), nullptr);
-    ASSERT_TRUE(CopyFileW(LoadedServer::BesideTheProgram().c_str(), path.c_str(), FALSE));
+    ASSERT_TRUE(CopyFileW(Server::PathBesideProgram().c_str(), path.c_str(), FALSE));
     {
-        const LoadedServer server(path);
+        const Server server(path);
         EXPECT_EQ(server.Register(), S_OK);
         EXPECT_EQ(Value(L"CLSID\\" + ClassKey(serverClasses[10]) + L"\\InprocServer32"), path);
         EXPECT_EQ(server.Unregister(), S_OK);

@@ -63,7 +63,7 @@ protected:
         return output;
     }
 
-    LoadedServer server;
+    Server server;
 };
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include "support/LoadedServer.h"
 
-#include <gtest/gtest.h>
 #include <oleauto.h>
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -40,11 +40,11 @@ protected:
         return sum;
     }
 
-    LoadedServer server;
+    Server server;
     HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
                                   nullptr, nullptr, nullptr);
-    Ref<ISGraph> graph;
-    Ref<ISGraphAxis> axis;
+    Holder<ISGraph> graph;
+    Holder<ISGraphAxis> axis;
 };
 
 } // namespace

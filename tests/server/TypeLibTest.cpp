@@ -3,8 +3,8 @@
 #include "server/ExpectedInterfaces.h"
 #include "support/LoadedServer.h"
 
-#include <gtest/gtest.h>
 #include <oleauto.h>
+#include <gtest/gtest.h>
 
 #include <map>
 #include <set>
@@ -31,7 +31,7 @@ std::string TypeName(ITypeInfo* info, const TYPEDESC& type)
         return TypeName(info, *type.lptdesc) + "*";
     }
     if (type.vt == VT_USERDEFINED) {
-        Ref<ITypeInfo> user;
+        Holder<ITypeInfo> user;
         BSTR name = nullptr;
         if (FAILED(info->GetRefTypeInfo(type.hreftype, user.Out())) ||
             FAILED(user->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr))) {
@@ -96,15 +96,14 @@ class TypeLib : public testing::Test
 protected:
     TypeLib()
     {
-        EXPECT_EQ(LoadTypeLibEx(LoadedServer::BesideTheProgram().c_str(), REGKIND_NONE, library.Out()),
-                  S_OK);
+        EXPECT_EQ(LoadTypeLibEx(Server::PathBesideProgram().c_str(), REGKIND_NONE, library.Out()), S_OK);
     }
 
     // The description of a type by its name.
-    Ref<ITypeInfo> Find(const char* name) const
+    Holder<ITypeInfo> Find(const char* name) const
     {
         std::wstring wide(name, name + strlen(name));
-        Ref<ITypeInfo> info;
+        Holder<ITypeInfo> info;
         MEMBERID member = 0;
         USHORT count = 1;
         EXPECT_EQ(library->FindName(wide.data(), 0, info.Out(), &member, &count), S_OK) << name;
@@ -113,10 +112,10 @@ protected:
     }
 
     // The half of a dual interface that describes its method table.
-    Ref<ITypeInfo> Table(const char* name) const
+    Holder<ITypeInfo> Table(const char* name) const
     {
-        const Ref<ITypeInfo> dispatch = Find(name);
-        Ref<ITypeInfo> table;
+        const Holder<ITypeInfo> dispatch = Find(name);
+        Holder<ITypeInfo> table;
         HREFTYPE reference = 0;
         EXPECT_EQ(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference), S_OK) << name;
         EXPECT_EQ(dispatch->GetRefTypeInfo(reference, table.Out()), S_OK) << name;
@@ -139,10 +138,10 @@ protected:
         return Taken(help);
     }
 
-    Ref<ITypeLib> library;
+    Holder<ITypeLib> library;
 };
 
-std::string Text(REFGUID guid)
+std::string GuidText(REFGUID guid)
 {
     wchar_t text[40] = L"";
     StringFromGUID2(guid, text, 40);
@@ -155,7 +154,7 @@ TEST_F(TypeLib, CarriesItsIdentity)
 {
     TLIBATTR* attributes = nullptr;
     ASSERT_EQ(library->GetLibAttr(&attributes), S_OK);
-    EXPECT_EQ(Text(attributes->guid), "{6C24BE93-2D8D-4820-8FFF-AF9FC63007F8}");
+    EXPECT_EQ(GuidText(attributes->guid), "{6C24BE93-2D8D-4820-8FFF-AF9FC63007F8}");
     EXPECT_EQ(attributes->wMajorVerNum, 1);
     EXPECT_EQ(attributes->wMinorVerNum, 0);
     EXPECT_EQ(attributes->lcid, 1033U);
@@ -174,11 +173,11 @@ TEST_F(TypeLib, InterfacesAreDualAndFitForAutomation)
     for (const ExpectedInterface& expected : expectedInterfaces) {
         const TYPEATTR dispatch = Attributes(Find(expected.name));
         EXPECT_EQ(dispatch.typekind, TKIND_DISPATCH) << expected.name;
-        EXPECT_EQ(Text(dispatch.guid), expected.iid) << expected.name;
+        EXPECT_EQ(GuidText(dispatch.guid), expected.iid) << expected.name;
         EXPECT_TRUE(dispatch.wTypeFlags & TYPEFLAG_FDUAL) << expected.name;
         const TYPEATTR table = Attributes(Table(expected.name));
         EXPECT_EQ(table.typekind, TKIND_INTERFACE) << expected.name;
-        EXPECT_EQ(Text(table.guid), expected.iid) << expected.name;
+        EXPECT_EQ(GuidText(table.guid), expected.iid) << expected.name;
         EXPECT_TRUE(table.wTypeFlags & TYPEFLAG_FDUAL) << expected.name;
         EXPECT_TRUE(table.wTypeFlags & TYPEFLAG_FOLEAUTOMATION)
             << expected.name << std::hex << table.wTypeFlags;
@@ -188,9 +187,9 @@ TEST_F(TypeLib, InterfacesAreDualAndFitForAutomation)
 TEST_F(TypeLib, InterfacesDeriveAsPromised)
 {
     for (const ExpectedInterface& expected : expectedInterfaces) {
-        const Ref<ITypeInfo> table = Table(expected.name);
+        const Holder<ITypeInfo> table = Table(expected.name);
         HREFTYPE reference = 0;
-        Ref<ITypeInfo> base;
+        Holder<ITypeInfo> base;
         ASSERT_EQ(table->GetRefTypeOfImplType(0, &reference), S_OK) << expected.name;
         ASSERT_EQ(table->GetRefTypeInfo(reference, base.Out()), S_OK) << expected.name;
         BSTR name = nullptr;
@@ -202,7 +201,7 @@ TEST_F(TypeLib, InterfacesDeriveAsPromised)
 TEST_F(TypeLib, MethodsStandInOrderWithTheirNumbersAndParameters)
 {
     for (const ExpectedInterface& expected : expectedInterfaces) {
-        const Ref<ITypeInfo> table = Table(expected.name);
+        const Holder<ITypeInfo> table = Table(expected.name);
         ASSERT_EQ(Attributes(table).cFuncs, expected.methods.size()) << expected.name;
         for (UINT index = 0; index < expected.methods.size(); ++index) {
             const Method method = Describe(table, index);
@@ -220,7 +219,7 @@ TEST_F(TypeLib, EveryDeclaredMethodHasAnEntryOfItsOwn)
 {
     std::map<std::string, int> entries{{"IDispatch", 7}};
     for (const ExpectedInterface& expected : expectedInterfaces) {
-        const Ref<ITypeInfo> table = Table(expected.name);
+        const Holder<ITypeInfo> table = Table(expected.name);
         int entry = entries.at(expected.base);
         for (UINT index = 0; index < expected.methods.size(); ++index) {
             EXPECT_EQ(Describe(table, index).entry, entry++)
@@ -240,7 +239,7 @@ TEST_F(TypeLib, HelpStringsOfMethods)
         {"ISGraphLabel::SetFont", "PLOGFONTW pLogFontw"}};
     std::map<std::string, std::string> found;
     for (const ExpectedInterface& expected : expectedInterfaces) {
-        const Ref<ITypeInfo> table = Table(expected.name);
+        const Holder<ITypeInfo> table = Table(expected.name);
         for (UINT index = 0; index < expected.methods.size(); ++index) {
             const Method method = Describe(table, index);
             const std::string name = std::string(expected.name) + "::" + method.name;
@@ -256,22 +255,22 @@ TEST_F(TypeLib, EveryClassHasItsInterfaceAsDefault)
 {
     for (const ServerClass& row : serverClasses) {
         const std::string name = Narrow(row.name);
-        const Ref<ITypeInfo> coclass = Find(name.c_str());
+        const Holder<ITypeInfo> coclass = Find(name.c_str());
         const TYPEATTR attributes = Attributes(coclass);
         EXPECT_EQ(attributes.typekind, TKIND_COCLASS) << name;
-        EXPECT_EQ(Text(attributes.guid), Text(row.clsid)) << name;
+        EXPECT_EQ(GuidText(attributes.guid), GuidText(row.clsid)) << name;
         EXPECT_TRUE(attributes.wTypeFlags & TYPEFLAG_FCANCREATE) << name;
         EXPECT_EQ(HelpOf(coclass), name + " Class");
         ASSERT_EQ(attributes.cImplTypes, 1) << name;
 
         int flags = 0;
         HREFTYPE reference = 0;
-        Ref<ITypeInfo> interfaceInfo;
+        Holder<ITypeInfo> interfaceInfo;
         ASSERT_EQ(coclass->GetImplTypeFlags(0, &flags), S_OK);
         ASSERT_EQ(coclass->GetRefTypeOfImplType(0, &reference), S_OK);
         ASSERT_EQ(coclass->GetRefTypeInfo(reference, interfaceInfo.Out()), S_OK);
         EXPECT_TRUE(flags & IMPLTYPEFLAG_FDEFAULT) << name;
-        EXPECT_EQ(Text(Attributes(interfaceInfo).guid), Text(row.iid)) << name;
+        EXPECT_EQ(GuidText(Attributes(interfaceInfo).guid), GuidText(row.iid)) << name;
     }
 }
 
@@ -309,7 +308,7 @@ TEST_F(TypeLib, EnumerationsHaveTheirValues)
         {"XGRAPH_XGC", {{"XGC_HORIZ", 1}, {"XGC_VERT", 2}, {"XGC_LEGEND", 4}, {"XGC_ADJUSTSMOOTH", 8}}},
     };
     for (const auto& [name, values] : expected) {
-        const Ref<ITypeInfo> info = Find(name.c_str());
+        const Holder<ITypeInfo> info = Find(name.c_str());
         EXPECT_EQ(Attributes(info).typekind, TKIND_ENUM) << name;
         Values found;
         for (UINT index = 0; index < Attributes(info).cVars; ++index) {
@@ -333,7 +332,7 @@ TEST_F(TypeLib, RecordsHaveTheirFields)
         {"tagRECT", {{{"left", "long"}, {"top", "long"}, {"right", "long"}, {"bottom", "long"}}, 16}},
     };
     for (const auto& [name, record] : expected) {
-        const Ref<ITypeInfo> info = Find(name.c_str());
+        const Holder<ITypeInfo> info = Find(name.c_str());
         const TYPEATTR attributes = Attributes(info);
         EXPECT_EQ(attributes.typekind, TKIND_RECORD) << name;
         EXPECT_EQ(attributes.cbSizeInstance, record.second) << name;

@@ -4,44 +4,12 @@
 #include <windows.h>
 
 #include <gtest/gtest.h>
-#include <unknwn.h>
 
 #include <string>
 #include <utility>
 
+#include "support/ComPointer.h"
 #include "vantoplex.h"
-
-// Owner of one reference.
-template <class T> class Ref
-{
-public:
-    Ref() = default;
-    Ref(Ref&& other) noexcept : p(std::exchange(other.p, nullptr)) {}
-    Ref(const Ref&) = delete;
-    Ref& operator=(Ref other) noexcept
-    {
-        std::swap(p, other.p);
-        return *this;
-    }
-    ~Ref() { Release(); }
-
-    void Release()
-    {
-        if (T* old = std::exchange(p, nullptr)) {
-            old->Release();
-        }
-    }
-    T* operator->() const { return p; }
-    operator T*() const { return p; }
-    T** Out()
-    {
-        Release();
-        return &p;
-    }
-    void** OutVoid() { return reinterpret_cast<void**>(Out()); }
-
-    T* p = nullptr;
-};
 
 struct ServerClass {
     const wchar_t* name;
@@ -75,30 +43,42 @@ inline std::string Narrow(const wchar_t* text)
     return result;
 }
 
-class LoadedServer
+class Server
 {
 public:
-    explicit LoadedServer(const std::wstring& path = BesideTheProgram())
-        : module(LoadLibraryW(path.c_str()))
+    explicit Server(const std::wstring& path = PathBesideProgram())
+        : module(::LoadLibraryW(path.c_str()))
     {
-        EXPECT_NE(module, nullptr) << "Vantoplex.dll does not load: " << GetLastError();
+        EXPECT_NE(module, nullptr) << "Vantoplex.dll does not load: " << ::GetLastError();
     }
-    LoadedServer(const LoadedServer&) = delete;
-    LoadedServer& operator=(const LoadedServer&) = delete;
-    ~LoadedServer() { FreeLibrary(module); }
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
+    ~Server() { Unload(); }
 
+    // The one that all tests share which don't look at the module's end.
+    static Server& Shared()
+    {
+        static Server server;
+        return server;
+    }
     static std::wstring Folder()
     {
         wchar_t program[MAX_PATH] = L"";
-        GetModuleFileNameW(nullptr, program, MAX_PATH);
+        ::GetModuleFileNameW(nullptr, program, MAX_PATH);
         const std::wstring path = program;
         return path.substr(0, path.rfind(L'\\') + 1);
     }
-    static std::wstring BesideTheProgram() { return Folder() + L"Vantoplex.dll"; }
+    static std::wstring PathBesideProgram() { return Folder() + L"Vantoplex.dll"; }
+
+    void Unload()
+    {
+        if (module)
+            ::FreeLibrary(std::exchange(module, nullptr));
+    }
 
     template <class Function> Function* Entry(const char* name) const
     {
-        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(module, name)));
     }
 
     HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** object) const
@@ -111,15 +91,15 @@ public:
 
     HRESULT Create(REFCLSID clsid, IUnknown* outer, REFIID iid, void** object) const
     {
-        Ref<IClassFactory> factory;
+        Holder<IClassFactory> factory;
         const HRESULT result = GetClassObject(clsid, IID_IClassFactory, factory.OutVoid());
         return FAILED(result) ? result : factory->CreateInstance(outer, iid, object);
     }
 
     // A new object of the coclass, as its interface.
-    template <class Coclass, class Interface> Ref<Interface> Make() const
+    template <class Coclass, class Interface> [[nodiscard]] Holder<Interface> Make() const
     {
-        Ref<Interface> made;
+        Holder<Interface> made;
         EXPECT_EQ(Create(__uuidof(Coclass), nullptr, __uuidof(Interface), made.OutVoid()), S_OK);
         return made;
     }
