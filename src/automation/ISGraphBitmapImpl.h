@@ -3,7 +3,7 @@
 // bitmap comes from a file or from native code; it can't be set or read here.
 
 #include "automation/ISGraphObjectImpl.h"
-#include "automation/NativeFields.h"
+#include "automation/WrapperCalls.h"
 #include "objects/XGraphBitmap.h"
 
 template <class T, const IID* piid, const GUID* plibid>
@@ -12,24 +12,21 @@ class ISGraphBitmapImpl : public ISGraphObjectImpl<T, piid, plibid>
 public:
     STDMETHOD(SetBorder)(long bValue) override
     {
-        return NativeFields::StoreFlag(Native(), &CXGraphBitmap::m_bBorder, bValue);
+        return Wrapper::StoreFlag(*this, &CXGraphBitmap::m_bBorder, bValue);
     }
     STDMETHOD(SetBitmap)(UINT*) override
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        return S_OK;
+        return Wrapper::Act([] {});
     }
     STDMETHOD(GetBorder)(long* pbValue) override
     {
-        return NativeFields::Fetch(Native(), &CXGraphBitmap::m_bBorder, pbValue);
+        return Wrapper::Fetch(*this, &CXGraphBitmap::m_bBorder, pbValue);
     }
     STDMETHOD(GetBitmap)(UINT**) override
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        return S_OK;
+        return Wrapper::Act([] {});
     }
 
-protected:
     // Null without a handle, or with one of another class.
     [[nodiscard]] CXGraphBitmap* Native() const
     {

@@ -3,6 +3,7 @@
 // the handle is not tested here, and a call without one faults. Nothing repaints.
 
 #include "automation/ISObjectImpl.h"
+#include "automation/WrapperCalls.h"
 
 template <class T, const IID* piid, const GUID* plibid>
 class ISGraphObjectImpl : public ISObjectImpl<T, piid, plibid>
@@ -10,12 +11,7 @@ class ISGraphObjectImpl : public ISObjectImpl<T, piid, plibid>
 public:
     STDMETHOD(SetRect)(RECT* pRect) override
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        if (pRect == nullptr) {
-            return S_FALSE;
-        }
-        this->m_pObject->m_rcObject = *pRect;
-        return S_OK;
+        return Wrapper::ActGiven(pRect, [&] { this->m_pObject->m_rcObject = *pRect; });
     }
     STDMETHOD(GetRect)(RECT* pRect) override { return Deliver(&CXGraphObject::m_rcObject, pRect); }
 
@@ -40,29 +36,17 @@ public:
     // The wrapper's own interface, without a reference: not the graph.
     STDMETHOD(GetGraph)(IDispatch** pGraph) override
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        if (pGraph == nullptr) {
-            return S_FALSE;
-        }
-        *pGraph = this;
-        return S_OK;
+        return Wrapper::Answer(pGraph, [&] { return this; });
     }
 
 private:
     template <class Field> HRESULT Take(Field CXGraphObject::*field, Field value)
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        this->m_pObject->*field = value;
-        return S_OK;
+        return Wrapper::Act([&] { this->m_pObject->*field = value; });
     }
 
     template <class Field, class Value> HRESULT Deliver(Field CXGraphObject::*field, Value* pValue) const
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        if (pValue == nullptr) {
-            return S_FALSE;
-        }
-        *pValue = this->m_pObject->*field;
-        return S_OK;
+        return Wrapper::Answer(pValue, [&] { return this->m_pObject->*field; });
     }
 };

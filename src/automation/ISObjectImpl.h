@@ -3,6 +3,7 @@
 // outside and not counted. It is good only until the graph's lists change.
 
 #include "automation/Interfaces.h"
+#include "automation/WrapperCalls.h"
 #include "objects/XGraphObject.h"
 
 // T is the interface that the class finally exposes, or its table from Interfaces.h.
@@ -15,7 +16,7 @@ public:
     {
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
         DropObject();
-        if (hObj != nullptr) {
+        if (hObj) {
             m_pObject = reinterpret_cast<CXGraphObject*>(hObj);
             m_bAttached = TRUE;
         }
@@ -25,12 +26,7 @@ public:
     // Stores hObj itself: the native pointer can't be read back.
     STDMETHOD(GetObjectHandle)(UINT** hObj) override
     {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState());
-        if (hObj == nullptr) {
-            return S_FALSE;
-        }
-        *hObj = reinterpret_cast<UINT*>(hObj);
-        return S_OK;
+        return Wrapper::Answer(hObj, [&] { return reinterpret_cast<UINT*>(hObj); });
     }
 
     CXGraphObject* m_pObject = nullptr;
@@ -43,9 +39,8 @@ protected:
 private:
     void DropObject()
     {
-        if (!m_bAttached) {
+        if (!m_bAttached)
             delete m_pObject;
-        }
         m_pObject = nullptr;
         m_bAttached = FALSE;
     }

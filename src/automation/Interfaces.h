@@ -6,10 +6,9 @@
 #include "framework/component/ClassFactory.h"
 #include "framework/component/Dispatch.h"
 #include "framework/windowing/ModuleState.h"
+#include "vantoplex.h"
 
 #include <windows.h>
-
-#include "vantoplex.h"
 
 // Three interfaces declare methods of their base again. Those take no entry of the method
 // table, but the type library counts one for each: its entries run that far past the real

@@ -1,7 +1,7 @@
 // The settings of the 3D pie's window.
 
 #include "automation/PieChart3d.h"
-
+#include "automation/WrapperCalls.h"
 #include "pie3d/PieColors.h"
 
 #include <cstring>
@@ -27,125 +27,85 @@ std::int32_t NativeStyle(int nChartStyle) noexcept
 
 STDMETHODIMP CPieChart3d::SetLabelFont(VARIANT* lf)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetLabelFont(FontOf(lf));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetLabelFont(FontOf(lf)); });
 }
 
 STDMETHODIMP CPieChart3d::SetLabelFontName(BSTR bstrName)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetLabelFontName(CString(bstrName));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetLabelFontName(CString(bstrName)); });
 }
 
 STDMETHODIMP CPieChart3d::SetTitleFont(VARIANT* lf)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetTitleFont(FontOf(lf));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetTitleFont(FontOf(lf)); });
 }
 
 STDMETHODIMP CPieChart3d::SetTitleFontName(BSTR bstrName)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetTitleFontName(CString(bstrName));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetTitleFontName(CString(bstrName)); });
 }
 
 STDMETHODIMP CPieChart3d::SetLabelBoxColor(ULONG crItem)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetLabelBoxColor(PieColors::FromColorRef(crItem));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetLabelBoxColor(PieColors::FromColorRef(crItem)); });
 }
 
 STDMETHODIMP CPieChart3d::SetBackgrndColor(ULONG crItem)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetBackgrndColor(PieColors::FromColorRef(crItem));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetBackgrndColor(PieColors::FromColorRef(crItem)); });
 }
 
 STDMETHODIMP CPieChart3d::SetLabelColor(ULONG crLbColor)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetLabelColor(PieColors::FromColorRef(crLbColor));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetLabelColor(PieColors::FromColorRef(crLbColor)); });
 }
 
 STDMETHODIMP CPieChart3d::SetParentWindowColor(ULONG crParent)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetParentWindowColor(crParent);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetParentWindowColor(crParent); });
 }
 
 STDMETHODIMP CPieChart3d::SetBackGroundGradientLight(float flGradientVal)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetBackGroundGradientLight(flGradientVal);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetBackGroundGradientLight(flGradientVal); });
 }
 
 STDMETHODIMP CPieChart3d::SetBackGroundGradientDark(float flGradientVal)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetBackGroundGradientDark(flGradientVal);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetBackGroundGradientDark(flGradientVal); });
 }
 
 STDMETHODIMP CPieChart3d::GetBackGroungGrLight(float* flGradientVal)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (flGradientVal == nullptr)
-        return S_FALSE;
-    *flGradientVal = m_pNative->GetBackGroungGrLight();
-    return S_OK;
+    return Wrapper::Answer(flGradientVal, [&] { return m_pNative->GetBackGroungGrLight(); });
 }
 
 STDMETHODIMP CPieChart3d::GetBackgroundGrDark(float* flGradientVal)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (flGradientVal == nullptr)
-        return S_FALSE;
-    *flGradientVal = m_pNative->GetBackgroundGrDark();
-    return S_OK;
+    return Wrapper::Answer(flGradientVal, [&] { return m_pNative->GetBackgroundGrDark(); });
 }
 
 STDMETHODIMP CPieChart3d::SetPieChartTitle(BSTR bstrTittle)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (bstrTittle == nullptr)
-        return S_FALSE;
-    m_pNative->SetPieChartTitle(CString(bstrTittle));
-    return S_OK;
+    return Wrapper::ActGiven(bstrTittle, [&] { m_pNative->SetPieChartTitle(CString(bstrTittle)); });
 }
 
 STDMETHODIMP CPieChart3d::SetPieChartStyle(int nChartStyle)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetPieChartStyle(NativeStyle(nChartStyle));
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetPieChartStyle(NativeStyle(nChartStyle)); });
 }
 
 STDMETHODIMP CPieChart3d::SetStartAngle(float flAngle)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetStartAngle(flAngle);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetStartAngle(flAngle); });
 }
 
 STDMETHODIMP CPieChart3d::SetInclineAngle(float flAngle)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetInclineAngle(flAngle);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetInclineAngle(flAngle); });
 }
 
 STDMETHODIMP CPieChart3d::SetDepth(float fDepth)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetDepth(fDepth);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetDepth(fDepth); });
 }

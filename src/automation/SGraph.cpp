@@ -2,9 +2,9 @@
 
 #include "automation/SGraph.h"
 
-#include "automation/SGraphAxis.h"
-#include "automation/SGraphDataSerie.h"
+#include "automation/ChildWrappers.h"
 #include "automation/SGraphLabel.h"
+#include "automation/WrapperCalls.h"
 
 #include <memory>
 
@@ -15,18 +15,10 @@ namespace
 // with a null pointer.
 template <class Wrapper, class Interface> void HandOut(CXGraphObject* pNative, Interface** ppWrapper)
 {
-    if (ppWrapper == nullptr)
+    if (!ppWrapper)
         return;
     if (SUCCEEDED(Wrapper::CreateInstance(ppWrapper)))
         (*ppWrapper)->SetObjectHandle(reinterpret_cast<UINT*>(pNative));
-}
-
-template <class Elements> HRESULT Count(const Elements& elements, int* pnValue)
-{
-    if (pnValue == nullptr)
-        return S_FALSE;
-    *pnValue = static_cast<int>(elements.size());
-    return S_OK;
 }
 
 void __stdcall FreeGraphs(DWORD_PTR)
@@ -53,112 +45,87 @@ IDispatch* NewUnattachedGraph()
 STDMETHODIMP CSGraph::SetData(ISGraphDataSerie** pSerie, TDataPoint* pValues, long nCount, int nCurve,
                               int nXAxis, int nYAxis, long bAutoDelete)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    CXGraphDataSerie* pCurve =
-        m_pNative->SetData(pValues, nCount, nCurve, nXAxis, nYAxis, bAutoDelete != 0);
-    HandOut<CSGraphDataSerie>(pCurve, pSerie);
-    return S_OK;
+    return Wrapper::Act([&] {
+        CXGraphDataSerie* pCurve =
+            m_pNative->SetData(pValues, nCount, nCurve, nXAxis, nYAxis, bAutoDelete != 0);
+        HandOut<CSGraphDataSerie>(pCurve, pSerie);
+    });
 }
 
 STDMETHODIMP CSGraph::GetXAxis(ISGraphAxis** pGraphAxis, int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    HandOut<CSGraphAxis>(m_pNative->GetXAxis(nAxis), pGraphAxis);
-    return S_OK;
+    return Wrapper::Act([&] { HandOut<CSGraphAxis>(m_pNative->GetXAxis(nAxis), pGraphAxis); });
 }
 
 STDMETHODIMP CSGraph::GetYAxis(ISGraphAxis** pGraphAxis, int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    HandOut<CSGraphAxis>(m_pNative->GetYAxis(nAxis), pGraphAxis);
-    return S_OK;
+    return Wrapper::Act([&] { HandOut<CSGraphAxis>(m_pNative->GetYAxis(nAxis), pGraphAxis); });
 }
 
 STDMETHODIMP CSGraph::GetCurve(ISGraphDataSerie** pGraphAxis, int nCurve)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    HandOut<CSGraphDataSerie>(m_pNative->GetCurve(nCurve), pGraphAxis);
-    return S_OK;
+    return Wrapper::Act([&] { HandOut<CSGraphDataSerie>(m_pNative->GetCurve(nCurve), pGraphAxis); });
 }
 
 STDMETHODIMP CSGraph::DeleteXAxis(int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->DeleteXAxis(nAxis);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->DeleteXAxis(nAxis); });
 }
 
 STDMETHODIMP CSGraph::DeleteYAxis(int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->DeleteYAxis(nAxis);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->DeleteYAxis(nAxis); });
 }
 
 STDMETHODIMP CSGraph::DeleteCurve(int nCurve)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->DeleteCurve(nCurve);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->DeleteCurve(nCurve); });
 }
 
 STDMETHODIMP CSGraph::GetXAxisCount(int* pnValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Count(m_pNative->m_XAxes, pnValue);
+    return Wrapper::Answer(pnValue, [&] { return m_pNative->m_XAxes.size(); });
 }
 
 STDMETHODIMP CSGraph::GetYAxisCount(int* pnValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Count(m_pNative->m_YAxes, pnValue);
+    return Wrapper::Answer(pnValue, [&] { return m_pNative->m_YAxes.size(); });
 }
 
 STDMETHODIMP CSGraph::GetCurveCount(int* pnValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Count(m_pNative->m_Curves, pnValue);
+    return Wrapper::Answer(pnValue, [&] { return m_pNative->m_Curves.size(); });
 }
 
 STDMETHODIMP CSGraph::SelectXAxis(int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SelectXAxis(nAxis);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SelectXAxis(nAxis); });
 }
 
 STDMETHODIMP CSGraph::SelectYAxis(int nAxis)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SelectYAxis(nAxis);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SelectYAxis(nAxis); });
 }
 
 STDMETHODIMP CSGraph::SelectCurve(int nCurve)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SelectCurve(nCurve);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SelectCurve(nCurve); });
 }
 
 STDMETHODIMP CSGraph::Autoscale(int nXAxis, int nYAxis, int nCurve)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->Autoscale(nXAxis, nYAxis, nCurve);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->Autoscale(nXAxis, nYAxis, nCurve); });
 }
 
 STDMETHODIMP CSGraph::ResetAll()
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->ResetAll();
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->ResetAll(); });
 }
 
 STDMETHODIMP CSGraph::SetBackgroundBitmap(ISGraphBitmap* pBitmap, UINT)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (pBitmap != nullptr) {
+    if (pBitmap) {
         UINT* pHandle = nullptr;
         pBitmap->GetObjectHandle(&pHandle); // a graph has no background picture to give it to
     }
@@ -169,8 +136,8 @@ STDMETHODIMP CSGraph::InsertLabel(BSTR bstrText, RECT* pRect, ISGraphLabel** pGr
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     const CString strText(bstrText);
-    CXGraphLabel* pLabel = pRect != nullptr ? m_pNative->InsertLabel(*pRect, strText)
-                                            : m_pNative->InsertCenteredLabel(strText);
+    CXGraphLabel* pLabel =
+        pRect ? m_pNative->InsertLabel(*pRect, strText) : m_pNative->InsertCenteredLabel(strText);
     HandOut<CSGraphLabel>(pLabel, pGraphLabel);
     return S_OK;
 }
@@ -183,17 +150,13 @@ STDMETHODIMP CSGraph::InsertBitmap(RECT*, ISGraphBitmap*, ISGraphBitmap**)
 
 STDMETHODIMP CSGraph::SaveBitmap(BSTR bstrText)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (bstrText == nullptr)
-        return S_FALSE;
-    m_pNative->SaveBitmap(CString(bstrText));
-    return S_OK;
+    return Wrapper::ActGiven(bstrText, [&] { m_pNative->SaveBitmap(CString(bstrText)); });
 }
 
 STDMETHODIMP CSGraph::Create(BSTR, RECT* rect, wireHWND hWnd, UINT nID)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (m_pNative != nullptr || rect == nullptr)
+    if (m_pNative || !rect)
         return S_FALSE;
     m_pNative = std::make_unique<CXGraph>().release();
     FreeGraphsWithModule();
@@ -205,15 +168,13 @@ STDMETHODIMP CSGraph::Create(BSTR, RECT* rect, wireHWND hWnd, UINT nID)
 
 STDMETHODIMP CSGraph::Invalidate(long bErase)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->Invalidate(bErase);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->Invalidate(bErase); });
 }
 
 STDMETHODIMP CSGraph::PostMessage(UINT message, UINT_PTR wParam, LONG_PTR lParam)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (m_pNative == nullptr || m_pNative->m_hWnd == nullptr)
+    if (!m_pNative || !m_pNative->m_hWnd)
         return S_FALSE;
     m_pNative->PostMessage(message, wParam, lParam);
     return S_OK;
@@ -222,7 +183,7 @@ STDMETHODIMP CSGraph::PostMessage(UINT message, UINT_PTR wParam, LONG_PTR lParam
 STDMETHODIMP CSGraph::SendMessage(UINT message, UINT_PTR wParam, LONG_PTR lParam)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (m_pNative == nullptr || m_pNative->m_hWnd == nullptr)
+    if (!m_pNative || !m_pNative->m_hWnd)
         return S_FALSE;
     m_pNative->SendMessage(message, wParam, lParam);
     return S_OK;
@@ -231,8 +192,8 @@ STDMETHODIMP CSGraph::SendMessage(UINT message, UINT_PTR wParam, LONG_PTR lParam
 STDMETHODIMP CSGraph::GetHandle(wireHWND* phWnd)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (phWnd == nullptr)
+    if (!phWnd)
         return S_FALSE;
-    *phWnd = m_pNative != nullptr ? reinterpret_cast<wireHWND>(m_pNative->m_hWnd) : nullptr;
-    return m_pNative != nullptr ? S_OK : S_FALSE;
+    *phWnd = m_pNative ? reinterpret_cast<wireHWND>(m_pNative->m_hWnd) : nullptr;
+    return m_pNative ? S_OK : S_FALSE;
 }

@@ -6,13 +6,14 @@
 
 #include "automation/Interfaces.h"
 #include "graph/XGraph.h"
+#include "resources/ScriptIds.h"
 
 class CSGraph : public CComObjectRootEx<CComSingleThreadModel>,
                 public CComCoClass<CSGraph, &CLSID_SGraph>,
                 public IDispatchImpl<ISGraph, &IID_ISGraph, &LIBID_VANTOPLEXLib>
 {
 public:
-    DECLARE_REGISTRY_RESOURCEID(127)
+    DECLARE_REGISTRY_RESOURCEID(IDR_SGRAPH)
 
     BEGIN_COM_MAP(CSGraph)
     COM_INTERFACE_ENTRY(ISGraph)

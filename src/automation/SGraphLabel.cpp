@@ -1,6 +1,6 @@
 #include "automation/SGraphLabel.h"
 
-#include "automation/NativeFields.h"
+#include "automation/WrapperCalls.h"
 
 #include <cstring>
 #include <cwchar>
@@ -9,7 +9,7 @@ STDMETHODIMP CSGraphLabel::SetFont(UINT* pLogFontw)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     CXGraphLabel* pLabel = Native();
-    if (pLabel == nullptr)
+    if (!pLabel)
         return S_OK;
     LOGFONTW font;
     std::memcpy(&font, pLogFontw, sizeof font);
@@ -23,70 +23,70 @@ STDMETHODIMP CSGraphLabel::SetFont(UINT* pLogFontw)
 
 STDMETHODIMP CSGraphLabel::SetText(BSTR pText)
 {
-    return NativeFields::StoreText(Native(), &CXGraphLabel::m_cText, pText);
+    return Wrapper::StoreText(*this, &CXGraphLabel::m_cText, pText);
 }
 
 STDMETHODIMP CSGraphLabel::GetText(BSTR* pText)
 {
-    return NativeFields::FetchText(Native(), &CXGraphLabel::m_cText, pText);
+    return Wrapper::FetchText(*this, &CXGraphLabel::m_cText, pText);
 }
 
 STDMETHODIMP CSGraphLabel::SetColor(ULONG color)
 {
-    return NativeFields::Store(Native(), &CXGraphLabel::m_crFillColor, color);
+    return Wrapper::Store(*this, &CXGraphLabel::m_crFillColor, color);
 }
 
 STDMETHODIMP CSGraphLabel::GetColor(ULONG* pColor)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_crFillColor, pColor);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_crFillColor, pColor);
 }
 
 STDMETHODIMP CSGraphLabel::SetTextColor(ULONG color)
 {
-    return NativeFields::Store(Native(), &CXGraphLabel::m_crTextColor, color);
+    return Wrapper::Store(*this, &CXGraphLabel::m_crTextColor, color);
 }
 
 STDMETHODIMP CSGraphLabel::GetTextColor(ULONG* pColor)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_crTextColor, pColor);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_crTextColor, pColor);
 }
 
 STDMETHODIMP CSGraphLabel::SetBorder(long bValue)
 {
-    return NativeFields::StoreFlag(Native(), &CXGraphLabel::m_bBorder, bValue);
+    return Wrapper::StoreFlag(*this, &CXGraphLabel::m_bBorder, bValue);
 }
 
 STDMETHODIMP CSGraphLabel::GetBorder(long* bpValue)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_bBorder, bpValue);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_bBorder, bpValue);
 }
 
 STDMETHODIMP CSGraphLabel::SetTransparent(long bValue)
 {
-    return NativeFields::StoreFlag(Native(), &CXGraphLabel::m_bTransparent, bValue);
+    return Wrapper::StoreFlag(*this, &CXGraphLabel::m_bTransparent, bValue);
 }
 
 STDMETHODIMP CSGraphLabel::GetTransparent(long* bpValue)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_bTransparent, bpValue);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_bTransparent, bpValue);
 }
 
 STDMETHODIMP CSGraphLabel::SetAlignment(UINT value)
 {
-    return NativeFields::Store(Native(), &CXGraphLabel::m_nAlignment, value);
+    return Wrapper::Store(*this, &CXGraphLabel::m_nAlignment, value);
 }
 
 STDMETHODIMP CSGraphLabel::GetAlignment(UINT* pValue)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_nAlignment, pValue);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_nAlignment, pValue);
 }
 
 STDMETHODIMP CSGraphLabel::SetCurve(int value)
 {
-    return NativeFields::Store(Native(), &CXGraphLabel::m_nAlignment, value);
+    return Wrapper::Store(*this, &CXGraphLabel::m_nAlignment, value);
 }
 
 STDMETHODIMP CSGraphLabel::GetCurve(int* pValue)
 {
-    return NativeFields::Fetch(Native(), &CXGraphLabel::m_nCurve, pValue);
+    return Wrapper::Fetch(*this, &CXGraphLabel::m_nCurve, pValue);
 }

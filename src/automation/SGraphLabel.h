@@ -4,13 +4,14 @@
 
 #include "automation/ISGraphObjectImpl.h"
 #include "objects/XGraphLabel.h"
+#include "resources/ScriptIds.h"
 
 class CSGraphLabel : public CComObjectRootEx<CComSingleThreadModel>,
                      public CComCoClass<CSGraphLabel, &CLSID_SGraphLabel>,
                      public ISGraphObjectImpl<ISGraphLabelTable, &IID_ISGraphLabel, &LIBID_VANTOPLEXLib>
 {
 public:
-    DECLARE_REGISTRY_RESOURCEID(122)
+    DECLARE_REGISTRY_RESOURCEID(IDR_SGRAPHLABEL)
 
     BEGIN_COM_MAP(CSGraphLabel)
     COM_INTERFACE_ENTRY(ISGraphLabel)
@@ -34,7 +35,6 @@ public:
     STDMETHOD(SetCurve)(int value) override;
     STDMETHOD(GetCurve)(int* pValue) override;
 
-private:
     // Null without a handle, or with one of another class.
     [[nodiscard]] CXGraphLabel* Native() const { return DYNAMIC_DOWNCAST(CXGraphLabel, m_pObject); }
 };

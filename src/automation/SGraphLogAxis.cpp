@@ -14,9 +14,9 @@ STDMETHODIMP CSGraphLogAxis::GetValueForPos(int nPos, double* pValue)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     CXGraphLogAxis* pLogAxis = NativeLog();
-    if (pLogAxis == nullptr)
+    if (!pLogAxis)
         return Base::GetValueForPos(nPos, pValue);
-    if (pValue == nullptr)
+    if (!pValue)
         return S_FALSE;
     *pValue = pLogAxis->GetValueForPos(nPos);
     return S_OK;
@@ -26,7 +26,7 @@ STDMETHODIMP CSGraphLogAxis::SetAxisType(EAxisType type)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     CXGraphLogAxis* pLogAxis = NativeLog();
-    if (pLogAxis == nullptr)
+    if (!pLogAxis)
         return Base::SetAxisType(type);
     pLogAxis->m_LogType = type;
     return S_OK;

@@ -6,6 +6,7 @@
 
 #include "automation/ISGraphAxisImpl.h"
 #include "objects/XGraphLogAxis.h"
+#include "resources/ScriptIds.h"
 
 class CSGraphLogAxis
     : public CComObjectRootEx<CComSingleThreadModel>,
@@ -13,7 +14,7 @@ class CSGraphLogAxis
       public ISGraphAxisImpl<ISGraphLogAxisTable, &IID_ISGraphLogAxis, &LIBID_VANTOPLEXLib>
 {
 public:
-    DECLARE_REGISTRY_RESOURCEID(121)
+    DECLARE_REGISTRY_RESOURCEID(IDR_SGRAPHLOGAXIS)
 
     BEGIN_COM_MAP(CSGraphLogAxis)
     COM_INTERFACE_ENTRY(ISGraphLogAxis)

@@ -1,12 +1,11 @@
 // What the mouse and the keys do, the cursor, trends and files.
 
 #include "automation/SGraph.h"
+#include "automation/WrapperCalls.h"
 
 STDMETHODIMP CSGraph::InsertDataNotation(int nCurve, int nIndex)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->InsertDataNotation(nCurve, nIndex);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->InsertDataNotation(nCurve, nIndex); });
 }
 
 // The curve is taken from the handle that the wrapper delivers, whatever that is; the graph adds
@@ -14,11 +13,11 @@ STDMETHODIMP CSGraph::InsertDataNotation(int nCurve, int nIndex)
 HRESULT CSGraph::AddTrend(ISGraphDataSerie* pSerie, void (CXGraph::*add)(CXGraphDataSerie*))
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (pSerie == nullptr)
+    if (!pSerie)
         return S_FALSE;
     UINT* pHandle = nullptr;
     pSerie->GetObjectHandle(&pHandle);
-    if (pHandle == nullptr)
+    if (!pHandle)
         return S_FALSE;
     (m_pNative->*add)(reinterpret_cast<CXGraphDataSerie*>(pHandle));
     return S_OK;
@@ -36,9 +35,7 @@ STDMETHODIMP CSGraph::AddCubicTrend(ISGraphDataSerie* pSerie)
 
 HRESULT CSGraph::Run(void (CXGraph::*operation)())
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    (m_pNative->*operation)();
-    return S_OK;
+    return Wrapper::Act([&] { (m_pNative->*operation)(); });
 }
 
 STDMETHODIMP CSGraph::Edit()
@@ -74,45 +71,33 @@ STDMETHODIMP CSGraph::Measure()
 // Has no effect by design: hosts enter the cursor's mode by the graph's command.
 STDMETHODIMP CSGraph::Cursor()
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return S_OK;
+    return Wrapper::Act([] {});
 }
 
 STDMETHODIMP CSGraph::GetZoomDepth(int* pnValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (pnValue == nullptr)
-        return S_FALSE;
-    *pnValue = m_pNative->GetZoomDepth();
-    return S_OK;
+    return Wrapper::Answer(pnValue, [&] { return m_pNative->GetZoomDepth(); });
 }
 
 STDMETHODIMP CSGraph::GetCursorAbsolute(int nCurve, TDataPoint* pPoint)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (pPoint == nullptr)
-        return S_FALSE;
-    *pPoint = m_pNative->GetCursorAbsolute(nCurve);
-    return S_OK;
+    return Wrapper::Answer(pPoint, [&] { return m_pNative->GetCursorAbsolute(nCurve); });
 }
 
 STDMETHODIMP CSGraph::SetCursorAbsolute(int nCurve, TDataPoint* pPoint, long bForceVisible)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (pPoint == nullptr)
-        return S_FALSE;
-    m_pNative->SetCursorAbsolute(nCurve, *pPoint, bForceVisible != 0);
-    return S_OK;
+    return Wrapper::ActGiven(pPoint,
+                             [&] { m_pNative->SetCursorAbsolute(nCurve, *pPoint, bForceVisible != 0); });
 }
 
 STDMETHODIMP CSGraph::Save(BSTR bstrFile, UINT nFlags)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return bstrFile != nullptr && m_pNative->Save(bstrFile, nFlags) ? S_OK : S_FALSE;
+    return bstrFile && m_pNative->Save(bstrFile, nFlags) ? S_OK : S_FALSE;
 }
 
 STDMETHODIMP CSGraph::Load(BSTR bstrFile)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return bstrFile != nullptr && m_pNative->Load(bstrFile) ? S_OK : S_FALSE;
+    return bstrFile && m_pNative->Load(bstrFile) ? S_OK : S_FALSE;
 }

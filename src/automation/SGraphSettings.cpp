@@ -1,195 +1,139 @@
 // Settings of the graph. Setters store and don't repaint.
 
 #include "automation/SGraph.h"
-
-namespace
-{
-
-template <class Field, class Value> HRESULT Tell(const Field& field, Value* pValue)
-{
-    if (pValue == nullptr)
-        return S_FALSE;
-    *pValue = static_cast<Value>(field);
-    return S_OK;
-}
-
-} // namespace
+#include "automation/WrapperCalls.h"
 
 STDMETHODIMP CSGraph::SetGraphMargins(int nLeft, int nTop, int nRight, int nBottom)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->SetGraphMargins(nLeft, nTop, nRight, nBottom);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->SetGraphMargins(nLeft, nTop, nRight, nBottom); });
 }
 
 STDMETHODIMP CSGraph::SetBackColor(ULONG color)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_crBackColor = color;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_crBackColor = color; });
 }
 
 // The colour of the graph area is set by the property sheet and by files alone.
 STDMETHODIMP CSGraph::SetGraphColor(ULONG)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return S_OK;
+    return Wrapper::Act([] {});
 }
 
 STDMETHODIMP CSGraph::SetInnerColor(ULONG color)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_crInnerColor = color;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_crInnerColor = color; });
 }
 
 STDMETHODIMP CSGraph::SetDoubleBuffer(long bValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_bDoubleBuffer = bValue != 0;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_bDoubleBuffer = bValue != 0; });
 }
 
 STDMETHODIMP CSGraph::SetShowLegend(long bValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_bShowLegend = bValue != 0;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_bShowLegend = bValue != 0; });
 }
 
 STDMETHODIMP CSGraph::SetInteraction(long bValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_bInteraction = bValue != 0;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_bInteraction = bValue != 0; });
 }
 
 STDMETHODIMP CSGraph::SetSnapCursor(long bValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_bSnapCursor = bValue != 0;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_bSnapCursor = bValue != 0; });
 }
 
 STDMETHODIMP CSGraph::SetLegendAlignment(EAlignment align)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_nLegendAlignment = align;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_nLegendAlignment = align; });
 }
 
 STDMETHODIMP CSGraph::SetSnapRange(int nValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_nSnapRange = nValue;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_nSnapRange = nValue; });
 }
 
 STDMETHODIMP CSGraph::SetPrintHeader(BSTR bstrText)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (bstrText == nullptr)
-        return S_FALSE;
-    m_pNative->m_strPrintHeader = CString(bstrText);
-    return S_OK;
+    return Wrapper::ActGiven(bstrText, [&] { m_pNative->m_strPrintHeader = CString(bstrText); });
 }
 
 STDMETHODIMP CSGraph::SetPrintFooter(BSTR bstrText)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (bstrText == nullptr)
-        return S_FALSE;
-    m_pNative->m_strPrintFooter = CString(bstrText);
-    return S_OK;
+    return Wrapper::ActGiven(bstrText, [&] { m_pNative->m_strPrintFooter = CString(bstrText); });
 }
 
 STDMETHODIMP CSGraph::SetCursor(long x, long y)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_ptCurrent = CPoint(x, y);
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_ptCurrent = CPoint(x, y); });
 }
 
 STDMETHODIMP CSGraph::SetCursorFlags(UINT nFlags)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_nCursorFlags = nFlags;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_nCursorFlags = nFlags; });
 }
 
 STDMETHODIMP CSGraph::DeleteMeasures()
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_Measures.clear();
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_Measures.clear(); });
 }
 
 STDMETHODIMP CSGraph::ForceSnap(int nCurve)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    m_pNative->m_nForcedSnapCurve = nCurve;
-    return S_OK;
+    return Wrapper::Act([&] { m_pNative->m_nForcedSnapCurve = nCurve; });
 }
 
 STDMETHODIMP CSGraph::GetBackColor(ULONG* pColor)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_crBackColor, pColor);
+    return Wrapper::Answer(pColor, [&] { return m_pNative->m_crBackColor; });
 }
 
 STDMETHODIMP CSGraph::GetGraphColor(ULONG* pColor)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_crGraphColor, pColor);
+    return Wrapper::Answer(pColor, [&] { return m_pNative->m_crGraphColor; });
 }
 
 STDMETHODIMP CSGraph::GetInnerColor(ULONG* pColor)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_crInnerColor, pColor);
+    return Wrapper::Answer(pColor, [&] { return m_pNative->m_crInnerColor; });
 }
 
 STDMETHODIMP CSGraph::GetDoubleBuffer(long* pbValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_bDoubleBuffer, pbValue);
+    return Wrapper::Answer(pbValue, [&] { return m_pNative->m_bDoubleBuffer; });
 }
 
 STDMETHODIMP CSGraph::GetShowLegend(long* pbValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_bShowLegend, pbValue);
+    return Wrapper::Answer(pbValue, [&] { return m_pNative->m_bShowLegend; });
 }
 
 STDMETHODIMP CSGraph::GetInteraction(long* pbValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_bInteraction, pbValue);
+    return Wrapper::Answer(pbValue, [&] { return m_pNative->m_bInteraction; });
 }
 
 STDMETHODIMP CSGraph::GetSnapCursor(long* pbValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_bSnapCursor, pbValue);
+    return Wrapper::Answer(pbValue, [&] { return m_pNative->m_bSnapCursor; });
 }
 
 STDMETHODIMP CSGraph::GetLegendAlignment(EAlignment* pAalign)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_nLegendAlignment, pAalign);
+    return Wrapper::Answer(pAalign, [&] { return m_pNative->m_nLegendAlignment; });
 }
 
 STDMETHODIMP CSGraph::GetSnapRange(int* pnValue)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_nSnapRange, pnValue);
+    return Wrapper::Answer(pnValue, [&] { return m_pNative->m_nSnapRange; });
 }
 
 // Only px is tested, so that a null py faults.
 STDMETHODIMP CSGraph::GetCursor(long* px, long* py)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (px == nullptr)
+    if (!px)
         return S_FALSE;
     *px = m_pNative->m_ptCurrent.x;
     *py = m_pNative->m_ptCurrent.y;
@@ -198,8 +142,7 @@ STDMETHODIMP CSGraph::GetCursor(long* px, long* py)
 
 STDMETHODIMP CSGraph::GetOperation(EOperation* peop)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Tell(m_pNative->m_opOperation, peop);
+    return Wrapper::Answer(peop, [&] { return m_pNative->m_opOperation; });
 }
 
 STDMETHODIMP CSGraph::GetXGraphMsgInfo(XGRAPH_MSG, BSTR)

@@ -2,12 +2,10 @@
 
 void DeliverString(LPCWSTR pszText, BSTR* pBstr)
 {
-    if (pszText == nullptr || pBstr == nullptr) {
+    if (!pszText || !pBstr)
         return;
-    }
-    if (*pBstr != nullptr) {
-        SysReAllocString(pBstr, pszText);
-    } else {
-        *pBstr = SysAllocString(pszText);
-    }
+    if (*pBstr)
+        ::SysReAllocString(pBstr, pszText);
+    else
+        *pBstr = ::SysAllocString(pszText);
 }

@@ -5,7 +5,6 @@
 #include "framework/windowing/Strings.h"
 
 #include <windows.h>
-
 #include <oleauto.h>
 
 // Delivers a text into *pBstr. A null text or a null pointer writes nothing. A live string in

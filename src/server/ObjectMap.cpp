@@ -1,16 +1,11 @@
 #include "server/ObjectMap.h"
 
 #include "automation/Chart2d.h"
+#include "automation/ChildWrappers.h"
 #include "automation/PieChart3d.h"
 #include "automation/SGraph.h"
-#include "automation/SGraphAxis.h"
-#include "automation/SGraphBitmap.h"
-#include "automation/SGraphDataNotation.h"
-#include "automation/SGraphDataSerie.h"
 #include "automation/SGraphLabel.h"
 #include "automation/SGraphLogAxis.h"
-#include "automation/SGraphObject.h"
-#include "automation/SObject.h"
 
 namespace
 {

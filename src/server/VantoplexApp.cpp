@@ -1,10 +1,9 @@
 #include "server/VantoplexApp.h"
 
 #include "server/ObjectMap.h"
+#include "vantoplex.h"
 
 #include <windows.h>
-
-#include "vantoplex.h"
 
 // In this order: the module object is there before the application.
 CComModule _Module;

@@ -114,7 +114,7 @@ TEST_F(AxisWrapper, TitleAndFormatAreTexts)
     EXPECT_EQ(axis->SetDisplayFmt(Text(L"%g")), S_OK);
     EXPECT_EQ(axis->GetDisplayFmt(text.Out()), S_OK);
     EXPECT_EQ(text.Str(), L"%g");
-    EXPECT_EQ(axis->GetDisplayFmt(nullptr), S_OK);
+    EXPECT_EQ(axis->GetDisplayFmt(nullptr), S_FALSE);
 }
 
 TEST_F(AxisWrapper, AnEmptyTitleComesBackAsAnEmptyText)

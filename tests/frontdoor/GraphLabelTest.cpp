@@ -1,6 +1,7 @@
 // The label wrapper and the picture wrapper.
 
 #include "GraphHost.h"
+#include "support/Faults.h"
 
 namespace
 {
@@ -64,7 +65,7 @@ TEST_F(LabelWrapper, TextAndFlags)
     EXPECT_EQ(label->SetText(Text(L"two\nlines")), S_OK);
     EXPECT_EQ(label->GetText(text.Out()), S_OK);
     EXPECT_EQ(text.Str(), L"two\nlines");
-    EXPECT_EQ(label->GetText(nullptr), S_OK);
+    EXPECT_EQ(label->GetText(nullptr), S_FALSE);
     LONG bValue = -1;
     EXPECT_EQ(label->GetBorder(&bValue), S_OK);
     EXPECT_EQ(bValue, 1);
@@ -145,4 +146,12 @@ TEST(PictureWithoutHandle, BitmapsCanNeitherBeSetNorRead)
     EXPECT_EQ(picture->SetBorder(1), S_OK);
     EXPECT_EQ(picture->GetBorder(&bBorder), S_OK);
     EXPECT_EQ(bBorder, 77);
+}
+
+TEST_F(LabelWrapper, ANullFontFaults)
+{
+    EXPECT_EXIT((Faults::EndAtOnce(), label->SetFont(nullptr)),
+                testing::ExitedWithCode(Faults::AccessViolation), "");
+    const auto empty = Server::Shared().Make<SGraphLabel, ISGraphLabel>();
+    EXPECT_EQ(empty->SetFont(nullptr), S_OK) << "the handle is tested first";
 }

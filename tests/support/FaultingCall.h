@@ -3,6 +3,7 @@
 // of its own, which a handler ends at the fault.
 
 #include <functional>
+#include <utility>
 
 #include <windows.h>
 
@@ -17,11 +18,21 @@ inline DWORD& WatchedThread() noexcept
     return id;
 }
 
+// What to look at on the faulting thread, at the fault.
+inline std::function<void()>& AtFault()
+{
+    static std::function<void()> look;
+    return look;
+}
+
 inline LONG CALLBACK EndThreadAtFault(EXCEPTION_POINTERS* info)
 {
     if (info->ExceptionRecord->ExceptionCode != EXCEPTION_ACCESS_VIOLATION ||
         GetCurrentThreadId() != WatchedThread()) {
         return EXCEPTION_CONTINUE_SEARCH;
+    }
+    if (AtFault()) {
+        AtFault()();
     }
     CONTEXT& context = *info->ContextRecord;
     context.Rsp = ((context.Rsp - 0x200) & ~DWORD64{15}) - 8; // as right after a call
@@ -38,8 +49,9 @@ inline DWORD WINAPI Run(void* call)
 }
 
 // True if the call faults. What it had on its stack is lost then.
-[[nodiscard]] inline bool Faults(std::function<void()> call)
+[[nodiscard]] inline bool Faults(std::function<void()> call, std::function<void()> look = {})
 {
+    AtFault() = std::move(look);
     void* handler = AddVectoredExceptionHandler(1, &EndThreadAtFault);
     const HANDLE thread = CreateThread(nullptr, 0, &Run, &call, 0, nullptr);
     WaitForSingleObject(thread, INFINITE);
@@ -48,6 +60,7 @@ inline DWORD WINAPI Run(void* call)
     CloseHandle(thread);
     RemoveVectoredExceptionHandler(handler);
     WatchedThread() = 0;
+    AtFault() = {};
     return code == faulted;
 }
 

@@ -8,22 +8,19 @@ void CComClassFactory::SetVoid(void* pv)
 HRESULT STDMETHODCALLTYPE CComClassFactory::CreateInstance(LPUNKNOWN pUnkOuter, REFIID riid,
                                                            void** ppvObj)
 {
-    if (ppvObj == nullptr) {
+    if (!ppvObj)
         return E_POINTER;
-    }
     *ppvObj = nullptr;
-    if (pUnkOuter != nullptr && !InlineIsEqualGUID(riid, IID_IUnknown)) {
+    if (pUnkOuter && !InlineIsEqualGUID(riid, IID_IUnknown))
         return CLASS_E_NOAGGREGATION;
-    }
     return m_pfnCreateInstance(pUnkOuter, riid, ppvObj);
 }
 
 HRESULT STDMETHODCALLTYPE CComClassFactory::LockServer(BOOL fLock)
 {
-    if (fLock) {
+    if (fLock)
         _pModule->Lock();
-    } else {
+    else
         _pModule->Unlock();
-    }
     return S_OK;
 }

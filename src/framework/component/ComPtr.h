@@ -28,9 +28,8 @@ public:
 
     void Release() noexcept
     {
-        if (T* old = std::exchange(p, nullptr)) {
+        if (T* old = std::exchange(p, nullptr))
             old->Release();
-        }
     }
     // Takes over a reference; drops the one held.
     void Attach(T* pointer) noexcept
@@ -49,8 +48,7 @@ public:
 private:
     void AddRefIfAny() noexcept
     {
-        if (p != nullptr) {
+        if (p)
             p->AddRef();
-        }
     }
 };

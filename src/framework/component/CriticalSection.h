@@ -14,16 +14,15 @@ public:
 
     HRESULT Init() noexcept
     {
-        if (!m_initialised) {
-            m_initialised = InitializeCriticalSectionAndSpinCount(&m_sec, 0) != FALSE;
-        }
+        if (!m_initialised)
+            m_initialised = ::InitializeCriticalSectionAndSpinCount(&m_sec, 0) != FALSE;
         return m_initialised ? S_OK : E_OUTOFMEMORY;
     }
 
     HRESULT Term() noexcept
     {
         if (m_initialised) {
-            DeleteCriticalSection(&m_sec);
+            ::DeleteCriticalSection(&m_sec);
             m_initialised = false;
         }
         return S_OK;
@@ -31,18 +30,16 @@ public:
 
     HRESULT Lock() noexcept
     {
-        if (!m_initialised) {
+        if (!m_initialised)
             return E_FAIL;
-        }
-        EnterCriticalSection(&m_sec);
+        ::EnterCriticalSection(&m_sec);
         return S_OK;
     }
 
     HRESULT Unlock() noexcept
     {
-        if (m_initialised) {
-            LeaveCriticalSection(&m_sec);
-        }
+        if (m_initialised)
+            ::LeaveCriticalSection(&m_sec);
         return S_OK;
     }
 
@@ -63,9 +60,8 @@ public:
     CComCritSecLock& operator=(const CComCritSecLock&) = delete;
     ~CComCritSecLock()
     {
-        if (SUCCEEDED(m_result)) {
+        if (SUCCEEDED(m_result))
             m_section.Unlock();
-        }
     }
 
     [[nodiscard]] HRESULT Result() const noexcept { return m_result; }

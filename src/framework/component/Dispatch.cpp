@@ -17,9 +17,8 @@ HRESULT WithMethodTable(ITypeInfo* info, ITypeInfo** table)
 {
     TYPEATTR* attributes = nullptr;
     HRESULT result = info->GetTypeAttr(&attributes);
-    if (FAILED(result)) {
+    if (FAILED(result))
         return result;
-    }
     const bool twofold =
         attributes->typekind == TKIND_DISPATCH && (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
     info->ReleaseTypeAttr(attributes);
@@ -39,42 +38,36 @@ HRESULT CComTypeInfoHolder::Load(LCID lcid)
 {
     CComPtr<ITypeLib> library;
     CComPtr<ITypeInfo> info;
-    HRESULT result = LoadRegTypeLib(*m_plibid, m_wMajor, m_wMinor, lcid, &library);
-    if (SUCCEEDED(result)) {
+    HRESULT result = ::LoadRegTypeLib(*m_plibid, m_wMajor, m_wMinor, lcid, &library);
+    if (SUCCEEDED(result))
         result = DescriptionIn(library, *m_pguid, &info);
-    }
     if (FAILED(result)) {
         library.Release();
         result = AtlLoadTypeLib(_pModule->m_hInstTypeLib, &library);
-        if (SUCCEEDED(result)) {
+        if (SUCCEEDED(result))
             result = DescriptionIn(library, *m_pguid, &info);
-        }
     }
     CComPtr<ITypeInfo> table;
-    if (SUCCEEDED(result)) {
+    if (SUCCEEDED(result))
         result = WithMethodTable(info, &table);
-    }
-    if (SUCCEEDED(result)) {
+    if (SUCCEEDED(result))
         result = _pModule->AddTermFunc(&Cleanup, reinterpret_cast<DWORD_PTR>(this));
-    }
     if (SUCCEEDED(result)) {
         // Other threads look at m_pInfo without the lock: it comes last.
         m_pCall = table.Detach();
-        InterlockedExchangePointer(reinterpret_cast<void* volatile*>(&m_pInfo), info.Detach());
+        ::InterlockedExchangePointer(reinterpret_cast<void* volatile*>(&m_pInfo), info.Detach());
     }
     return result;
 }
 
 HRESULT CComTypeInfoHolder::GetTI(LCID lcid)
 {
-    if (m_pInfo != nullptr) {
+    if (m_pInfo)
         return S_OK;
-    }
     const CComCritSecLock lock(_pModule->m_csTypeInfoHolder);
-    if (FAILED(lock.Result())) {
+    if (FAILED(lock.Result()))
         return lock.Result();
-    }
-    return m_pInfo != nullptr ? S_OK : Load(lcid);
+    return m_pInfo ? S_OK : Load(lcid);
 }
 
 HRESULT CComTypeInfoHolder::GetTI(LCID lcid, ITypeInfo** ppInfo)
@@ -90,9 +83,8 @@ HRESULT CComTypeInfoHolder::GetTI(LCID lcid, ITypeInfo** ppInfo)
 
 HRESULT CComTypeInfoHolder::GetTypeInfo(UINT itinfo, LCID lcid, ITypeInfo** pptinfo)
 {
-    if (pptinfo == nullptr) {
+    if (!pptinfo)
         return E_POINTER;
-    }
     *pptinfo = nullptr;
     return itinfo != 0 ? DISP_E_BADINDEX : GetTI(lcid, pptinfo);
 }
@@ -118,7 +110,7 @@ void __stdcall CComTypeInfoHolder::Cleanup(DWORD_PTR dw)
 {
     auto* holder = reinterpret_cast<CComTypeInfoHolder*>(dw);
     for (ITypeInfo** info : {&holder->m_pInfo, &holder->m_pCall}) {
-        if (*info != nullptr) {
+        if (*info) {
             (*info)->Release();
             *info = nullptr;
         }

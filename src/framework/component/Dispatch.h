@@ -39,9 +39,8 @@ class IDispatchImpl : public T
 public:
     STDMETHOD(GetTypeInfoCount)(UINT* pctinfo) override
     {
-        if (pctinfo == nullptr) {
+        if (!pctinfo)
             return E_POINTER;
-        }
         *pctinfo = 1;
         return S_OK;
     }

@@ -11,43 +11,38 @@ bool CComModule::m_bInitFailed = false;
 CComModule::CComModule() noexcept
 {
     if (FAILED(m_csObjMap.Init()) || FAILED(m_csTypeInfoHolder.Init()) ||
-        FAILED(m_csStaticDataInit.Init())) {
+        FAILED(m_csStaticDataInit.Init()))
         m_bInitFailed = true;
-    } else {
+    else
         cbSize = sizeof(CComModule);
-    }
     _pModule = this;
 }
 
 CComModule::~CComModule()
 {
     Term();
-    if (_pModule == this) {
+    if (_pModule == this)
         _pModule = nullptr;
-    }
 }
 
 HRESULT CComModule::Init(_ATL_OBJMAP_ENTRY* p, HINSTANCE h, const GUID* plibid)
 {
-    if (cbSize == 0) {
+    if (cbSize == 0)
         return E_FAIL;
-    }
     m_pObjMap = p;
     m_hInst = m_hInstResource = m_hInstTypeLib = h;
     m_plibid = plibid;
-    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry != nullptr && entry->pclsid != nullptr; ++entry) {
+    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry && entry->pclsid; ++entry)
         entry->pfnObjectMain(true);
-    }
     return S_OK;
 }
 
 void CComModule::Term()
 {
-    if (cbSize == 0) {
+    if (cbSize == 0)
         return;
-    }
-    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry != nullptr && entry->pclsid != nullptr; ++entry) {
-        if (entry->pCF != nullptr) {
+    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry && entry->pclsid; ++entry) {
+        if (entry->pCF) {
             entry->pCF->Release();
             entry->pCF = nullptr;
         }
@@ -58,7 +53,7 @@ void CComModule::Term()
         m_termFuncs.pop_back();
         last.pFunc(last.dw);
     }
-    if (m_pGIT != nullptr) {
+    if (m_pGIT) {
         m_pGIT->Release();
         m_pGIT = nullptr;
     }
@@ -71,9 +66,8 @@ void CComModule::Term()
 HRESULT CComModule::AddTermFunc(_ATL_TERMFUNC* pFunc, DWORD_PTR dw)
 {
     const CComCritSecLock lock(m_csStaticDataInit);
-    if (FAILED(lock.Result())) {
+    if (FAILED(lock.Result()))
         return lock.Result();
-    }
     try {
         m_termFuncs.push_back({pFunc, dw});
     } catch (const std::bad_alloc&) {
@@ -84,17 +78,14 @@ HRESULT CComModule::AddTermFunc(_ATL_TERMFUNC* pFunc, DWORD_PTR dw)
 
 HRESULT CComModule::GetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
 {
-    if (ppv == nullptr) {
+    if (!ppv)
         return E_POINTER;
-    }
     *ppv = nullptr;
-    if (cbSize == 0) {
+    if (cbSize == 0)
         return E_FAIL;
-    }
-    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry != nullptr && entry->pclsid != nullptr; ++entry) {
-        if (entry->pfnGetClassObject == nullptr || !InlineIsEqualGUID(rclsid, *entry->pclsid)) {
+    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry && entry->pclsid; ++entry) {
+        if (!entry->pfnGetClassObject || !InlineIsEqualGUID(rclsid, *entry->pclsid))
             continue;
-        }
         const HRESULT made = MakeClassObject(*entry);
         return FAILED(made) ? made : entry->pCF->QueryInterface(riid, ppv);
     }
@@ -103,42 +94,35 @@ HRESULT CComModule::GetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv)
 
 HRESULT CComModule::MakeClassObject(_ATL_OBJMAP_ENTRY& entry)
 {
-    if (entry.pCF != nullptr) {
+    if (entry.pCF)
         return S_OK;
-    }
     const CComCritSecLock lock(m_csObjMap);
-    if (FAILED(lock.Result())) {
+    if (FAILED(lock.Result()))
         return lock.Result();
-    }
-    if (entry.pCF != nullptr) {
+    if (entry.pCF)
         return S_OK;
-    }
     void* made = nullptr;
     const HRESULT result =
         entry.pfnGetClassObject(reinterpret_cast<void*>(entry.pfnCreateInstance), IID_IUnknown, &made);
-    if (SUCCEEDED(result)) {
+    if (SUCCEEDED(result))
         entry.pCF = static_cast<IUnknown*>(made);
-    }
     return result;
 }
 
 HRESULT CComModule::GetGITPtr(IGlobalInterfaceTable** ppGIT)
 {
-    if (ppGIT == nullptr) {
+    if (!ppGIT)
         return E_POINTER;
-    }
     *ppGIT = nullptr;
     const CComCritSecLock lock(m_csStaticDataInit);
-    if (FAILED(lock.Result())) {
+    if (FAILED(lock.Result()))
         return lock.Result();
-    }
-    if (m_pGIT == nullptr) {
+    if (!m_pGIT) {
         const HRESULT result =
-            CoCreateInstance(CLSID_StdGlobalInterfaceTable, nullptr, CLSCTX_INPROC_SERVER,
-                             __uuidof(IGlobalInterfaceTable), reinterpret_cast<void**>(&m_pGIT));
-        if (FAILED(result)) {
+            ::CoCreateInstance(CLSID_StdGlobalInterfaceTable, nullptr, CLSCTX_INPROC_SERVER,
+                               __uuidof(IGlobalInterfaceTable), reinterpret_cast<void**>(&m_pGIT));
+        if (FAILED(result))
             return result;
-        }
     }
     m_pGIT->AddRef();
     *ppGIT = m_pGIT;
@@ -147,17 +131,14 @@ HRESULT CComModule::GetGITPtr(IGlobalInterfaceTable** ppGIT)
 
 HRESULT CComModule::UpdateClasses(BOOL bRegister, const CLSID* pCLSID)
 {
-    if (cbSize == 0) {
+    if (cbSize == 0)
         return E_FAIL;
-    }
-    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry != nullptr && entry->pclsid != nullptr; ++entry) {
-        if (pCLSID != nullptr && !InlineIsEqualGUID(*pCLSID, *entry->pclsid)) {
+    for (_ATL_OBJMAP_ENTRY* entry = m_pObjMap; entry && entry->pclsid; ++entry) {
+        if (pCLSID && !InlineIsEqualGUID(*pCLSID, *entry->pclsid))
             continue;
-        }
         const HRESULT result = entry->pfnUpdateRegistry(bRegister);
-        if (FAILED(result)) {
+        if (FAILED(result))
             return result;
-        }
     }
     return S_OK;
 }
@@ -177,13 +158,12 @@ HRESULT CComModule::UnregisterServer(BOOL bUnRegTypeLib, const CLSID* pCLSID)
 HRESULT CComModule::UpdateRegistryFromResource(UINT nResID, BOOL bRegister)
 try {
     const std::wstring path = AtlGetModulePath(m_hInst);
-    if (path.empty()) {
-        return HRESULT_FROM_WIN32(GetLastError());
-    }
+    if (path.empty())
+        return HRESULT_FROM_WIN32(::GetLastError());
     // The path lands between the quotes of a script's text. A program's path is quoted
     // once more, since it becomes a command line.
     const std::wstring raw = CRegObject::EscapeSingleQuotes(path);
-    const bool program = m_hInst == GetModuleHandleW(nullptr);
+    const bool program = m_hInst == ::GetModuleHandleW(nullptr);
 
     CRegObject registrar;
     registrar.AddReplacement(L"Module", program ? L"\"" + raw + L"\"" : raw);
@@ -199,14 +179,13 @@ std::wstring AtlGetModulePath(HINSTANCE module)
     std::wstring path(MAX_PATH, L'\0');
     constexpr size_t longest = 0x8000; // the platform's own bound on paths
     while (true) {
-        const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+        const DWORD length = ::GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
         if (length < path.size()) {
             path.resize(length);
             return path;
         }
-        if (path.size() >= longest) {
+        if (path.size() >= longest)
             return {};
-        }
         path.resize(path.size() * 2);
     }
 }

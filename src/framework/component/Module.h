@@ -7,7 +7,6 @@
 #include "framework/component/CriticalSection.h"
 
 #include <windows.h>
-
 #include <ole2.h>
 
 #include <string>
@@ -76,8 +75,8 @@ public:
     // Asks that pFunc(dw) be called at Term.
     HRESULT AddTermFunc(_ATL_TERMFUNC* pFunc, DWORD_PTR dw);
 
-    LONG Lock() noexcept { return InterlockedIncrement(&m_nLockCnt); }
-    LONG Unlock() noexcept { return InterlockedDecrement(&m_nLockCnt); }
+    LONG Lock() noexcept { return ::InterlockedIncrement(&m_nLockCnt); }
+    LONG Unlock() noexcept { return ::InterlockedDecrement(&m_nLockCnt); }
     [[nodiscard]] LONG GetLockCount() const noexcept { return m_nLockCnt; }
 
     // E_POINTER without ppv, CLASS_E_CLASSNOTAVAILABLE for a class that no row has.

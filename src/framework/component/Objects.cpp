@@ -4,9 +4,8 @@ HRESULT CComObjectRootBase::InternalQueryInterface(void* pThis,
                                                    std::span<const _ATL_INTMAP_ENTRY> entries,
                                                    REFIID iid, void** ppvObject)
 {
-    if (ppvObject == nullptr) {
+    if (!ppvObject)
         return E_POINTER;
-    }
     *ppvObject = nullptr;
     for (const _ATL_INTMAP_ENTRY& entry : entries) {
         if (InlineIsEqualGUID(iid, *entry.piid) || InlineIsEqualGUID(iid, IID_IUnknown)) {

@@ -10,7 +10,6 @@
 #include "framework/windowing/Exceptions.h"
 
 #include <windows.h>
-
 #include <unknwn.h>
 
 #include <new>
@@ -33,8 +32,8 @@ public:
 class CComMultiThreadModel
 {
 public:
-    static ULONG Increment(LONG* p) noexcept { return static_cast<ULONG>(InterlockedIncrement(p)); }
-    static ULONG Decrement(LONG* p) noexcept { return static_cast<ULONG>(InterlockedDecrement(p)); }
+    static ULONG Increment(LONG* p) noexcept { return static_cast<ULONG>(::InterlockedIncrement(p)); }
+    static ULONG Decrement(LONG* p) noexcept { return static_cast<ULONG>(::InterlockedDecrement(p)); }
 };
 
 using CComGlobalsThreadModel = CComMultiThreadModel;
@@ -122,18 +121,16 @@ public:
         // A reference taken and dropped while the object ends must not end it again.
         this->m_dwRef = -(LONG_MAX / 2);
         this->FinalRelease();
-        if (_pModule != nullptr) {
+        if (_pModule)
             _pModule->Unlock();
-        }
     }
 
     STDMETHOD_(ULONG, AddRef)() override { return this->InternalAddRef(); }
     STDMETHOD_(ULONG, Release)() override
     {
         const ULONG left = this->InternalRelease();
-        if (left == 0) {
+        if (left == 0)
             delete this;
-        }
         return left;
     }
     STDMETHOD(QueryInterface)(REFIID iid, void** ppvObject) override
@@ -169,9 +166,8 @@ public:
     ~CComAggObject()
     {
         this->m_dwRef = -(LONG_MAX / 2);
-        if (_pModule != nullptr) {
+        if (_pModule)
             _pModule->Unlock();
-        }
     }
 
     HRESULT FinalConstruct() { return m_contained.FinalConstruct(); }
@@ -180,19 +176,16 @@ public:
     STDMETHOD_(ULONG, Release)() override
     {
         const ULONG left = this->InternalRelease();
-        if (left == 0) {
+        if (left == 0)
             delete this;
-        }
         return left;
     }
     STDMETHOD(QueryInterface)(REFIID iid, void** ppvObject) override
     {
-        if (ppvObject == nullptr) {
+        if (!ppvObject)
             return E_POINTER;
-        }
-        if (!InlineIsEqualGUID(iid, IID_IUnknown)) {
+        if (!InlineIsEqualGUID(iid, IID_IUnknown))
             return m_contained._InternalQueryInterface(iid, ppvObject);
-        }
         *ppvObject = static_cast<IUnknown*>(this);
         AddRef();
         return S_OK;
@@ -216,19 +209,17 @@ public:
     STDMETHOD_(ULONG, AddRef)() override
     {
         const ULONG count = this->InternalAddRef();
-        if (count == 2) {
+        if (count == 2)
             _pModule->Lock();
-        }
         return count;
     }
     STDMETHOD_(ULONG, Release)() override
     {
         const ULONG left = this->InternalRelease();
-        if (left == 0) {
+        if (left == 0)
             delete this;
-        } else if (left == 1 && _pModule != nullptr) {
+        else if (left == 1 && _pModule)
             _pModule->Unlock();
-        }
         return left;
     }
     STDMETHOD(QueryInterface)(REFIID iid, void** ppvObject) override
@@ -256,24 +247,20 @@ template <class T> class CComCreator
 public:
     static HRESULT WINAPI CreateInstance(void* pv, REFIID riid, LPVOID* ppv)
     {
-        if (ppv == nullptr) {
+        if (!ppv)
             return E_POINTER;
-        }
         *ppv = nullptr;
         T* object = AtlNew<T>(pv);
-        if (object == nullptr) {
+        if (!object)
             return E_OUTOFMEMORY;
-        }
         object->SetVoid(pv);
         object->InternalAddRef(); // FinalConstruct may hand the object around
         HRESULT result = object->FinalConstruct();
         object->InternalRelease();
-        if (result == S_OK) {
+        if (result == S_OK)
             result = object->QueryInterface(riid, ppv);
-        }
-        if (result != S_OK) {
+        if (result != S_OK)
             delete object;
-        }
         return result;
     }
 };
@@ -284,21 +271,19 @@ template <class Plain, class Aggregated> class CComCreator2
 public:
     static HRESULT WINAPI CreateInstance(void* pv, REFIID riid, LPVOID* ppv)
     {
-        return pv == nullptr ? Plain::CreateInstance(nullptr, riid, ppv)
-                             : Aggregated::CreateInstance(pv, riid, ppv);
+        return !pv ? Plain::CreateInstance(nullptr, riid, ppv)
+                   : Aggregated::CreateInstance(pv, riid, ppv);
     }
 };
 
 template <class Base> HRESULT WINAPI CComObject<Base>::CreateInstance(CComObject<Base>** pp)
 {
-    if (pp == nullptr) {
+    if (!pp)
         return E_POINTER;
-    }
     *pp = nullptr;
     auto* object = AtlNew<CComObject<Base>>(nullptr);
-    if (object == nullptr) {
+    if (!object)
         return E_OUTOFMEMORY;
-    }
     object->InternalAddRef();
     const HRESULT result = object->FinalConstruct();
     object->InternalRelease();

@@ -24,19 +24,18 @@ public:
     CRegKey& operator=(const CRegKey&) = delete;
     ~CRegKey()
     {
-        if (m_hKey != nullptr) {
-            RegCloseKey(m_hKey);
-        }
+        if (m_hKey)
+            ::RegCloseKey(m_hKey);
     }
 
     LSTATUS Create(HKEY parent, const wchar_t* name)
     {
-        return RegCreateKeyExW(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE,
-                               nullptr, &m_hKey, nullptr);
+        return ::RegCreateKeyExW(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE,
+                                 nullptr, &m_hKey, nullptr);
     }
     LSTATUS Open(HKEY parent, const wchar_t* name)
     {
-        return RegOpenKeyExW(parent, name, 0, KEY_READ | KEY_WRITE, &m_hKey);
+        return ::RegOpenKeyExW(parent, name, 0, KEY_READ | KEY_WRITE, &m_hKey);
     }
 
     HKEY m_hKey = nullptr;
@@ -77,8 +76,8 @@ HKEY HandleOf(RootKey root) noexcept
 LSTATUS SetValue(HKEY key, const wchar_t* name, const Value& value)
 {
     const auto set = [&](DWORD type, const void* data, size_t size) {
-        return RegSetValueExW(key, name, 0, type, static_cast<const BYTE*>(data),
-                              static_cast<DWORD>(size));
+        return ::RegSetValueExW(key, name, 0, type, static_cast<const BYTE*>(data),
+                                static_cast<DWORD>(size));
     };
     const size_t textSize = (value.text.size() + 1) * sizeof(char16_t); // with the NUL at the end
     switch (value.kind) {
@@ -96,12 +95,9 @@ LSTATUS SetValue(HKEY key, const wchar_t* name, const Value& value)
 
 LSTATUS SetNamedValues(HKEY key, const std::vector<NamedValue>& values)
 {
-    for (const NamedValue& named : values) {
-        if (const LSTATUS status = SetValue(key, Wide(named.name), named.value);
-            status != ERROR_SUCCESS) {
+    for (const NamedValue& named : values)
+        if (const LSTATUS status = SetValue(key, Wide(named.name), named.value); status != ERROR_SUCCESS)
             return status;
-        }
-    }
     return ERROR_SUCCESS;
 }
 
@@ -112,7 +108,7 @@ bool MayRemove(const Key& key, bool underRoot)
 
 LSTATUS RemoveTree(HKEY parent, const Key& key)
 {
-    const LSTATUS status = RegDeleteTreeW(parent, Wide(key.name));
+    const LSTATUS status = ::RegDeleteTreeW(parent, Wide(key.name));
     return status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status;
 }
 
@@ -121,27 +117,21 @@ LSTATUS Register(HKEY parent, const std::vector<Key>& keys, bool underRoot)
     for (const Key& key : keys) {
         if ((key.mode == KeyMode::ForceRemove || key.mode == KeyMode::Delete) &&
             MayRemove(key, underRoot)) {
-            if (const LSTATUS status = RemoveTree(parent, key); status != ERROR_SUCCESS) {
+            if (const LSTATUS status = RemoveTree(parent, key); status != ERROR_SUCCESS)
                 return status;
-            }
         }
-        if (key.mode == KeyMode::Delete) {
+        if (key.mode == KeyMode::Delete)
             continue;
-        }
         CRegKey made;
         LSTATUS status = made.Create(parent, Wide(key.name));
-        if (status == ERROR_SUCCESS && key.value) {
+        if (status == ERROR_SUCCESS && key.value)
             status = SetValue(made.m_hKey, nullptr, *key.value);
-        }
-        if (status == ERROR_SUCCESS) {
+        if (status == ERROR_SUCCESS)
             status = SetNamedValues(made.m_hKey, key.values);
-        }
-        if (status == ERROR_SUCCESS) {
+        if (status == ERROR_SUCCESS)
             status = Register(made.m_hKey, key.keys, false);
-        }
-        if (status != ERROR_SUCCESS) {
+        if (status != ERROR_SUCCESS)
             return status;
-        }
     }
     return ERROR_SUCCESS;
 }
@@ -149,10 +139,9 @@ LSTATUS Register(HKEY parent, const std::vector<Key>& keys, bool underRoot)
 LSTATUS RemoveValues(HKEY key, const std::vector<NamedValue>& values)
 {
     for (const NamedValue& named : values) {
-        const LSTATUS status = RegDeleteValueW(key, Wide(named.name));
-        if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND) {
+        const LSTATUS status = ::RegDeleteValueW(key, Wide(named.name));
+        if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND)
             return status;
-        }
     }
     return ERROR_SUCCESS;
 }
@@ -160,28 +149,23 @@ LSTATUS RemoveValues(HKEY key, const std::vector<NamedValue>& values)
 LSTATUS Unregister(HKEY parent, const std::vector<Key>& keys, bool underRoot)
 {
     for (const Key& key : keys) {
-        if (key.mode == KeyMode::Delete) {
+        if (key.mode == KeyMode::Delete)
             continue;
-        }
         LSTATUS status = ERROR_SUCCESS;
         if (MayRemove(key, underRoot)) {
             status = RemoveTree(parent, key);
         } else {
             CRegKey kept;
             status = kept.Open(parent, Wide(key.name));
-            if (status == ERROR_FILE_NOT_FOUND) {
+            if (status == ERROR_FILE_NOT_FOUND)
                 continue;
-            }
-            if (status == ERROR_SUCCESS) {
+            if (status == ERROR_SUCCESS)
                 status = RemoveValues(kept.m_hKey, key.values);
-            }
-            if (status == ERROR_SUCCESS) {
+            if (status == ERROR_SUCCESS)
                 status = Unregister(kept.m_hKey, key.keys, false);
-            }
         }
-        if (status != ERROR_SUCCESS) {
+        if (status != ERROR_SUCCESS)
             return status;
-        }
     }
     return ERROR_SUCCESS;
 }
@@ -189,17 +173,16 @@ LSTATUS Unregister(HKEY parent, const std::vector<Key>& keys, bool underRoot)
 // UTF-8, of which plain ASCII is a part.
 std::optional<std::u16string> Decode(std::string_view bytes)
 {
-    if (bytes.empty()) {
+    if (bytes.empty())
         return std::u16string();
-    }
     const int size = static_cast<int>(bytes.size());
     const int length =
-        MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0);
-    if (length <= 0) {
+        ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0);
+    if (length <= 0)
         return std::nullopt;
-    }
     std::u16string text(static_cast<size_t>(length), u'\0');
-    MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, reinterpret_cast<wchar_t*>(text.data()), length);
+    ::MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, reinterpret_cast<wchar_t*>(text.data()),
+                          length);
     return text;
 }
 
@@ -238,13 +221,12 @@ std::wstring CRegObject::EscapeSingleQuotes(std::wstring_view text)
 
 HRESULT CRegObject::RunResource(HINSTANCE module, UINT nID, LPCWSTR szType, bool bRegister) const
 try {
-    const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(nID), szType);
-    const HGLOBAL loaded = found != nullptr ? LoadResource(module, found) : nullptr;
-    if (loaded == nullptr) {
-        return HRESULT_FROM_WIN32(GetLastError());
-    }
+    const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(nID), szType);
+    const HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
+    if (!loaded)
+        return HRESULT_FROM_WIN32(::GetLastError());
     const auto text =
-        Decode({static_cast<const char*>(LockResource(loaded)), SizeofResource(module, found)});
+        Decode({static_cast<const char*>(::LockResource(loaded)), ::SizeofResource(module, found)});
     return text ? Run(*text, bRegister) : DISP_E_EXCEPTION;
 } catch (const std::bad_alloc&) {
     return E_OUTOFMEMORY;
@@ -254,19 +236,16 @@ HRESULT CRegObject::Run(std::u16string_view script, bool bRegister) const
 try {
     const auto expanded = RegistrarScript::Expand(script, m_replacements);
     const auto roots = expanded ? RegistrarScript::Parse(*expanded) : std::nullopt;
-    if (!roots) {
+    if (!roots)
         return DISP_E_EXCEPTION;
-    }
     for (const Root& root : *roots) {
         const HKEY handle = HandleOf(root.root);
         LSTATUS status =
             bRegister ? SetNamedValues(handle, root.values) : RemoveValues(handle, root.values);
-        if (status == ERROR_SUCCESS) {
+        if (status == ERROR_SUCCESS)
             status = bRegister ? Register(handle, root.keys, true) : Unregister(handle, root.keys, true);
-        }
-        if (status != ERROR_SUCCESS) {
+        if (status != ERROR_SUCCESS)
             return HRESULT_FROM_WIN32(static_cast<unsigned long>(status));
-        }
     }
     return S_OK;
 } catch (const std::bad_alloc&) {

@@ -11,10 +11,10 @@ namespace RegistrarScript
 namespace
 {
 
-constexpr std::size_t deepest = 64;
-constexpr std::size_t longestText = 1'000'000;
-constexpr std::size_t longestKeyPart = 255;
-constexpr std::size_t longestValueName = 16383;
+constexpr std::size_t DeepestLevel = 64;
+constexpr std::size_t LongestText = 1'000'000;
+constexpr std::size_t LongestKeyPart = 255;
+constexpr std::size_t LongestValueName = 16383;
 
 std::optional<RootKey> RootOf(const Token& token)
 {
@@ -32,11 +32,9 @@ std::optional<RootKey> RootOf(const Token& token)
         {u"HKDD", u"HKEY_DYN_DATA", RootKey::DynData},
         {u"HKCC", u"HKEY_CURRENT_CONFIG", RootKey::CurrentConfig},
     }};
-    for (const Name& name : names) {
-        if (token.Is(name.brief) || token.Is(name.full)) {
+    for (const Name& name : names)
+        if (token.Is(name.brief) || token.Is(name.full))
             return name.root;
-        }
-    }
     return std::nullopt;
 }
 
@@ -61,9 +59,8 @@ std::optional<Value> TakeValue(Words& words)
 {
     const std::optional<Token> kind = words.Take();
     const std::optional<Token> data = words.Take();
-    if (!kind || !data) {
+    if (!kind || !data)
         return std::nullopt;
-    }
     Value value;
     if (kind->Is(u"s")) {
         value.text = data->text;
@@ -102,12 +99,10 @@ bool IsKeyName(std::u16string_view name) noexcept
     while (true) {
         const std::size_t end = name.find(u'\\');
         const std::u16string_view part = name.substr(0, end);
-        if (part.empty() || part.size() > longestKeyPart || part.find(u'\0') != part.npos) {
+        if (part.empty() || part.size() > LongestKeyPart || part.find(u'\0') != part.npos)
             return false;
-        }
-        if (end == name.npos) {
+        if (end == name.npos)
             return true;
-        }
         name.remove_prefix(end + 1);
     }
 }
@@ -115,9 +110,8 @@ bool IsKeyName(std::u16string_view name) noexcept
 std::optional<std::u16string> TakeKeyName(Words& words)
 {
     std::optional<Token> name = words.Take();
-    if (!name || IsSign(*name) || !IsKeyName(name->text)) {
+    if (!name || IsSign(*name) || !IsKeyName(name->text))
         return std::nullopt;
-    }
     return std::move(name->text);
 }
 
@@ -126,50 +120,42 @@ bool TakeBlock(Words& words, std::vector<NamedValue>& values, std::vector<Key>& 
 bool TakeNamedValue(Words& words, std::vector<NamedValue>& values)
 {
     std::optional<Token> name = words.Take();
-    if (!name || IsSign(*name) || name->text.size() > longestValueName || !words.TakeIf(u"=")) {
+    if (!name || IsSign(*name) || name->text.size() > LongestValueName || !words.TakeIf(u"="))
         return false;
-    }
     std::optional<Value> value = TakeValue(words);
-    if (!value) {
+    if (!value)
         return false;
-    }
     values.push_back({std::move(name->text), std::move(*value)});
     return true;
 }
 
 KeyMode TakeMode(Words& words)
 {
-    if (words.TakeIf(u"NoRemove")) {
+    if (words.TakeIf(u"NoRemove"))
         return KeyMode::NoRemove;
-    }
-    if (words.TakeIf(u"ForceRemove")) {
+    if (words.TakeIf(u"ForceRemove"))
         return KeyMode::ForceRemove;
-    }
     return words.TakeIf(u"Delete") ? KeyMode::Delete : KeyMode::Plain;
 }
 
 bool TakeEntry(Words& words, std::vector<NamedValue>& values, std::vector<Key>& keys, std::size_t depth)
 {
-    if (words.TakeIf(u"val")) {
+    if (words.TakeIf(u"val"))
         return TakeNamedValue(words, values);
-    }
     Key key;
     key.mode = TakeMode(words);
     auto name = TakeKeyName(words);
-    if (!name) {
+    if (!name)
         return false;
-    }
     key.name = std::move(*name);
     if (key.mode != KeyMode::Delete) {
         if (words.TakeIf(u"=")) {
             key.value = TakeValue(words);
-            if (!key.value) {
+            if (!key.value)
                 return false;
-            }
         }
-        if (words.TakeIf(u"{") && !TakeBlock(words, key.values, key.keys, depth + 1)) {
+        if (words.TakeIf(u"{") && !TakeBlock(words, key.values, key.keys, depth + 1))
             return false;
-        }
     }
     keys.push_back(std::move(key));
     return true;
@@ -178,14 +164,11 @@ bool TakeEntry(Words& words, std::vector<NamedValue>& values, std::vector<Key>& 
 // Behind the opening brace; takes the closing one.
 bool TakeBlock(Words& words, std::vector<NamedValue>& values, std::vector<Key>& keys, std::size_t depth)
 {
-    if (depth > deepest) {
+    if (depth > DeepestLevel)
         return false;
-    }
-    while (!words.TakeIf(u"}")) {
-        if (words.Peek() == nullptr || !TakeEntry(words, values, keys, depth)) {
+    while (!words.TakeIf(u"}"))
+        if (!words.Peek() || !TakeEntry(words, values, keys, depth))
             return false;
-        }
-    }
     return true;
 }
 
@@ -212,21 +195,18 @@ std::optional<std::u16string> Expand(std::u16string_view text, const Replacement
     while (true) {
         const std::size_t open = text.find(u'%');
         expanded += text.substr(0, open);
-        if (open == text.npos) {
-            return expanded.size() > longestText ? std::nullopt : std::optional(std::move(expanded));
-        }
+        if (open == text.npos)
+            return expanded.size() > LongestText ? std::nullopt : std::optional(std::move(expanded));
         text.remove_prefix(open + 1);
         const std::size_t close = text.find(u'%');
-        if (close == text.npos || expanded.size() > longestText) {
+        if (close == text.npos || expanded.size() > LongestText)
             return std::nullopt;
-        }
-        if (close == 0) {
+        if (close == 0)
             expanded += u'%';
-        } else if (const std::u16string* found = replacements.Find(text.substr(0, close))) {
+        else if (const std::u16string* found = replacements.Find(text.substr(0, close)))
             expanded += *found;
-        } else {
+        else
             return std::nullopt;
-        }
         text.remove_prefix(close + 1);
     }
 }
@@ -235,12 +215,11 @@ std::optional<std::vector<Root>> Parse(std::u16string_view text)
 {
     Words words(text);
     std::vector<Root> roots;
-    while (words.Peek() != nullptr) {
+    while (words.Peek()) {
         const auto which = RootOf(*words.Take());
         Root root;
-        if (!which || !words.TakeIf(u"{") || !TakeBlock(words, root.values, root.keys, 1)) {
+        if (!which || !words.TakeIf(u"{") || !TakeBlock(words, root.values, root.keys, 1))
             return std::nullopt;
-        }
         root.root = *which;
         roots.push_back(std::move(root));
     }
@@ -262,9 +241,8 @@ std::u16string EscapeSingleQuotes(std::u16string_view text)
     escaped.reserve(text.size());
     for (const char16_t c : text) {
         escaped += c;
-        if (c == u'\'') {
+        if (c == u'\'')
             escaped += c;
-        }
     }
     return escaped;
 }

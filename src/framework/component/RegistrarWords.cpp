@@ -15,9 +15,8 @@ constexpr bool IsBlank(char16_t c) noexcept
 
 constexpr int HexDigit(char16_t c) noexcept
 {
-    if (c >= u'0' && c <= u'9') {
+    if (c >= u'0' && c <= u'9')
         return c - u'0';
-    }
     const char16_t upper = Upper(c);
     return upper >= u'A' && upper <= u'F' ? upper - u'A' + 10 : -1;
 }
@@ -34,18 +33,16 @@ std::optional<Token> Words::Take()
 {
     std::optional<Token> taken = std::move(m_next);
     m_next.reset();
-    if (taken) {
+    if (taken)
         Advance();
-    }
     return taken;
 }
 
 bool Words::TakeIf(std::u16string_view word)
 {
     const bool is = m_next && m_next->Is(word);
-    if (is) {
+    if (is)
         Take();
-    }
     return is;
 }
 
@@ -53,9 +50,8 @@ void Words::Advance()
 {
     const auto start = std::find_if_not(m_rest.begin(), m_rest.end(), IsBlank);
     m_rest.remove_prefix(static_cast<std::size_t>(start - m_rest.begin()));
-    if (m_rest.empty() || m_broken) {
+    if (m_rest.empty() || m_broken)
         return;
-    }
     if (m_rest.front() == u'\'') {
         AdvanceQuoted();
         return;
@@ -93,36 +89,31 @@ std::optional<std::uint32_t> NumberOf(std::u16string_view text)
         base = 16;
         text.remove_prefix(2);
     }
-    if (text.empty()) {
+    if (text.empty())
         return std::nullopt;
-    }
     std::uint64_t number = 0;
     for (const char16_t c : text) {
         const int digit = HexDigit(c);
-        if (digit < 0 || static_cast<std::uint32_t>(digit) >= base) {
+        if (digit < 0 || static_cast<std::uint32_t>(digit) >= base)
             return std::nullopt;
-        }
         number = number * base + static_cast<std::uint32_t>(digit);
-        if (number > UINT32_MAX) {
+        if (number > UINT32_MAX)
             return std::nullopt;
-        }
     }
     return static_cast<std::uint32_t>(number);
 }
 
 std::optional<std::vector<std::uint8_t>> BytesOf(std::u16string_view text)
 {
-    if (text.size() % 2 != 0) {
+    if (text.size() % 2 != 0)
         return std::nullopt;
-    }
     std::vector<std::uint8_t> bytes;
     bytes.reserve(text.size() / 2);
     for (std::size_t at = 0; at < text.size(); at += 2) {
         const int high = HexDigit(text[at]);
         const int low = HexDigit(text[at + 1]);
-        if (high < 0 || low < 0) {
+        if (high < 0 || low < 0)
             return std::nullopt;
-        }
         bytes.push_back(static_cast<std::uint8_t>(high * 16 + low));
     }
     return bytes;

@@ -2,7 +2,6 @@
 // The type library that a module carries as its resource.
 
 #include <windows.h>
-
 #include <oleauto.h>
 
 // The library of the module itself, by its path; registers nothing. The caller releases it.
