@@ -2,7 +2,7 @@
 # Installs by apt whatever a Debian 12 machine lacks to build, test and run Vantoplex.
 # Needs root or sudo only when something is missing; says nothing and ends at once otherwise.
 #   scripts/setup.sh          what building, testing and the demo need
-#   scripts/setup.sh --all    the tools of scripts/format.sh too (clang-format, clang-tidy)
+#   scripts/setup.sh --all    what scripts/format.sh tidy needs, too
 set -euo pipefail
 
 packages=(
@@ -10,10 +10,10 @@ packages=(
   gcc-mingw-w64-x86-64-posix g++-mingw-w64-x86-64-posix mingw-w64-tools
   wine wine64 xvfb util-linux
   fonts-liberation fonts-wqy-microhei fonts-wine
-  googletest ccache
+  googletest ccache clang-format-14
 )
 if [ "${1:-}" = --all ]; then
-  packages+=(clang-format-14 clang-tidy-14 clang-14)
+  packages+=(clang-tidy-14 clang-14)
 fi
 
 missing=()

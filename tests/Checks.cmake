@@ -21,6 +21,10 @@ endforeach()
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 add_test(NAME include-arrows
   COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/support/check_includes.py ${PROJECT_SOURCE_DIR})
+add_test(NAME style
+  COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/support/check_style.py ${PROJECT_SOURCE_DIR})
+add_test(NAME format COMMAND ${PROJECT_SOURCE_DIR}/scripts/format.sh check)
+set_tests_properties(format PROPERTIES TIMEOUT 300)
 if(TARGET Vantoplex)
   add_test(NAME dll-exports-and-imports
     COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/support/check_dll.py

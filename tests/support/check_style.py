@@ -1,0 +1,167 @@
+#!/usr/bin/env python3
+"""Checks the parts of the house style that need no compiler (CONTRIBUTING.md, "Style").
+
+usage: check_style.py REPOSITORY [FILE...]
+
+- A constant at the scope of a namespace or a class is in upper camel case.
+- A source file that has a header of its own includes it first.
+- A pointer in a condition is tested by its truth, not against nullptr.
+- A function of the platform that is called with :: somewhere in src/ is called so everywhere in src/.
+- A file of tests is named *Test.cpp.
+- Files are plain text: no tabs, no blanks at the end of a line, one line end at the end; at most 400 lines.
+"""
+import pathlib
+import re
+import subprocess
+import sys
+
+LONGEST = 400
+# Rooms that are still on their way to a rule.
+LATER = {
+    "constant": ("src/charts2d", "src/dialogs", "src/graph", "src/objects", "src/pie3d", "hosts", "tests", "bench"),
+    "null test": ("src/charts2d", "src/dialogs", "src/draw", "src/framework/windowing/Dialog", "src/graph", "src/objects", "src/pie3d"),
+    "platform call": ("src/dialogs", "src/framework/windowing/HandleTable", "src/graph"),
+    "file of tests": ("tests/unit/dialogs",),
+    "length": ("src/draw/DCEx", "tests/frontdoor/Chart2dWindowTest", "tests/windowing/DialogTest"),
+}
+# Data put together by a person, line by line.
+TABLES = ("tests/server/Expected",)
+
+CONSTANT = re.compile(
+    r"^(?P<scope>|    )(?P<words>(?:inline |static |constinit )*)constexpr (?!auto operator)"
+    r"(?P<type>[\w:<>,*& ]+?)[ *&](?P<name>\w+)(?:\[[^\]]*\])*(?: =|\{|;)")
+NULL_TEST = re.compile(r"\b(?:if|while) \(.*[!=]= nullptr|(?:&&|\|\|) [\w.>*()\[\]-]+ [!=]= nullptr|[!=]= nullptr (?:&&|\|\||\?)")
+QUALIFIED = re.compile(r"(?<![\w:>])::([A-Z]\w+)\(")
+BARE = re.compile(r"(?<![\w:.>~&])([A-Z]\w+)\(")
+MEMBER = re.compile(r"^\s+(?:[\w:<>*&\[\], ]+[ *&])?([A-Z]\w+)\(.*", re.MULTILINE)
+COMMENTS_AND_TEXTS = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
+FIRST_INCLUDE = re.compile(r'^#include ([<"][^>"]+[>"])', re.MULTILINE)
+
+
+def files_of(root):
+    listed = subprocess.run(["git", "-C", str(root), "ls-files", "--cached", "--others", "--exclude-standard",
+                             "src", "hosts", "tests", "bench"], check=True, capture_output=True, text=True).stdout
+    return [name for name in listed.split("\n") if name.endswith((".h", ".cpp")) and (root / name).is_file()]
+
+
+def later(rule, name):
+    return any(name.startswith(room) for room in LATER[rule])
+
+
+def check_text(name, text, complain):
+    lines = text.split("\n")
+    if not text.endswith("\n") or text.endswith("\n\n"):
+        complain(name, len(lines), "ends with exactly one line end")
+    if len(lines) - 1 > LONGEST and not name.startswith(TABLES) and not later("length", name):
+        complain(name, len(lines), f"has {len(lines) - 1} lines; at most {LONGEST}")
+    for number, line in enumerate(lines, 1):
+        if re.match(r" *\t", line) or line != line.rstrip():
+            complain(name, number, "indented by a tab, or blanks at the end of the line")
+
+
+def is_in_class(lines, index):
+    """Whether an indented line belongs to a class rather than to a function."""
+    while index > 0:
+        index -= 1
+        line = lines[index]
+        if re.match(r"(class|struct|template|union)\b", line):
+            return True
+        if line.startswith("{"): # what it belongs to stands in the lines before
+            head = ""
+            while index > 0 and lines[index - 1].strip() and not lines[index - 1].startswith(("}", "#")):
+                index -= 1
+                head = lines[index] + head
+            return bool(re.match(r"(template <.*?>\s*)?(class|struct)\b", head))
+    return False
+
+
+def constants_in(code):
+    """Constants at the scope of a namespace or a class, with their lines; locals follow another rule."""
+    lines = code.split("\n")
+    for index, line in enumerate(lines):
+        found = CONSTANT.match(line)
+        if line.endswith("\\") or (index > 0 and lines[index - 1].endswith("\\")):
+            continue # a part of a macro
+        if found and (not found["scope"] or ("static" in found["words"] and is_in_class(lines, index))):
+            yield index + 1, found["name"]
+
+
+def check_constants(name, code, complain):
+    for number, constant in constants_in(code):
+        if not re.fullmatch(r"[A-Z][A-Za-z0-9]*|m_\w+|[A-Z]+_\w+", constant):
+            complain(name, number, f"the constant {constant} is not in upper camel case")
+
+
+def check_null_tests(name, code, complain):
+    for number, line in enumerate(code.split("\n"), 1):
+        if NULL_TEST.search(line):
+            complain(name, number, "a pointer is tested by its truth")
+
+
+def check_own_header(root, name, text, complain):
+    header = pathlib.PurePosixPath(name).with_suffix(".h")
+    if not name.startswith("src/") or not name.endswith(".cpp") or not (root / header).is_file():
+        return
+    first = FIRST_INCLUDE.search(text)
+    if not first or first[1] != f'"{header.relative_to("src")}"':
+        complain(name, 1, f"does not include {header.name} first")
+
+
+def blanked(text):
+    """The text with comments and quoted texts replaced by blanks, line for line."""
+    return COMMENTS_AND_TEXTS.sub(lambda match: re.sub(r"[^\n]", " ", match[0]), text)
+
+
+def platform_calls(codes):
+    """Functions that src/ calls with ::, but for those that a class of ours has under the same name."""
+    called, members = set(), set()
+    for name, code in codes.items():
+        if not name.startswith("src/"):
+            continue
+        called.update(QUALIFIED.findall(code))
+        if name.endswith(".h"):
+            members.update(MEMBER.findall(code))
+        members.update(re.findall(r"\b\w+::([A-Z]\w+)\(", code))
+    return called - members
+
+
+def check_platform_calls(name, code, calls, complain):
+    for number, line in enumerate(code.split("\n"), 1):
+        for function in BARE.findall(line):
+            if function in calls:
+                complain(name, number, f"{function} is the platform's: ::{function}")
+
+
+def main():
+    root = pathlib.Path(sys.argv[1]).resolve()
+    texts = {name: (root / name).read_text(encoding="utf-8") for name in files_of(root)}
+    codes = {name: blanked(text) for name, text in texts.items()}
+    calls = platform_calls(codes)
+    wanted = set(sys.argv[2:]) or set(texts)
+    complaints = []
+
+    def complain(name, number, what):
+        complaints.append(f"{name}:{number}: {what}")
+
+    for name in sorted(wanted & set(texts)):
+        text, code = texts[name], codes[name]
+        check_text(name, text, complain)
+        check_own_header(root, name, text, complain)
+        holds_tests = re.search(r"^TEST(_F|_P)?\(", text, re.MULTILINE)
+        if holds_tests and not name.endswith("Test.cpp") and not later("file of tests", name):
+            complain(name, 1, "holds tests: its name ends in Test.cpp")
+        if not later("constant", name):
+            check_constants(name, code, complain)
+        if name.startswith("src/"):
+            if not later("null test", name):
+                check_null_tests(name, code, complain)
+            if not later("platform call", name):
+                check_platform_calls(name, code, calls, complain)
+    for complaint in complaints:
+        print(complaint)
+    print(f"{len(wanted & set(texts))} files, {len(complaints)} departures from the style")
+    return 1 if complaints else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
