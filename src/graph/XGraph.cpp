@@ -64,8 +64,6 @@ void RegisterGraphClass()
 } // namespace
 
 CXGraph::CXGraph()
-    : m_pfnMarker{&DrawSquare,       &DrawCircle,     &DrawCross,         &DrawDiamond,
-                  &DrawTriangleLeft, &DrawTriangleUp, &DrawTriangleRight, &DrawTriangleDown}
 {
     m_CursorLabel.m_rcObject = CRect(100, 100, 200, 175);
     m_CursorLabel.m_bVisible = false;

@@ -43,7 +43,7 @@ class CXGraph : public CWnd
     DECLARE_SERIAL(CXGraph)
 
 public:
-    using PFNMARKER = decltype(&DrawSquare);
+    using PFNMARKER = MarkerPainter;
 
     // Registers the window class "XGraph"; throws CResourceException where that fails.
     CXGraph();
@@ -153,7 +153,7 @@ public:
     static void FreeAll();
     [[nodiscard]] static int GetLiveCount(); // graphs alive in this module
 
-    PFNMARKER m_pfnMarker[8]; // by marker number, set once
+    static constexpr const auto& m_pfnMarker = kMarkerPainters; // by marker number
 
     // Settings, which show in the next frame. The host and the chart page write them; a file holds
     // the first eight, the margins and the space.

@@ -3,9 +3,9 @@
 #include "objects/XGraphAxis.h"
 
 #include "draw/DCEx.h"
+#include "draw/Markers.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
-#include "graph/XGraph.h"
 #include "objects/AxisPainter.h"
 #include "objects/PlotHost.h"
 #include "objects/XGraphDataSerie.h"
@@ -183,8 +183,8 @@ void CXGraphAxis::DrawCurveKey(CDCEx* pDC, CPoint point, int nKey, int nSize, CO
 {
     nSize = std::clamp(nSize, -kLargestKey, kLargestKey);
     if (bSymbol) {
-        if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(m_pGraph->m_pfnMarker)))
-            m_pGraph->m_pfnMarker[nKey](point, nSize, crColor, false, pDC);
+        if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(kMarkerPainters)))
+            kMarkerPainters[nKey](point, nSize, crColor, false, pDC);
         return;
     }
     CRect rect(point.x, point.y, Wrap::Add(point.x, nSize), Wrap::Add(point.y, nSize));
