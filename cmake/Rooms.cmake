@@ -1,6 +1,6 @@
 # A room is one folder of src/. Its CMakeLists.txt calls
 #   vantoplex_room(NAME [ARITHMETIC file.cpp ...])
-# All .cpp files of the folder belong to the room; those named after ARITHMETIC
+# All .cpp files of the folder and of its tools/ belong to the room; those named after ARITHMETIC
 # include no platform header and are built natively as well.
 #
 # Windows: object library room-NAME of every file.
@@ -8,7 +8,8 @@
 function(vantoplex_room name)
   cmake_parse_arguments(room "" "" "ARITHMETIC" ${ARGN})
   if(WIN32)
-    file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
+         ${CMAKE_CURRENT_SOURCE_DIR}/tools/*.cpp)
   else()
     set(files ${room_ARITHMETIC})
   endif()

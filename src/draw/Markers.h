@@ -17,3 +17,9 @@ void DrawTriangleLeft(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpare
 void DrawTriangleUp(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpare, CDCEx* pDC);
 void DrawTriangleRight(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpare, CDCEx* pDC);
 void DrawTriangleDown(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpare, CDCEx* pDC);
+
+// By marker number.
+inline constexpr MarkerPainter kMarkerPainters[] = {
+    DrawSquare,       DrawCircle,     DrawCross,         DrawDiamond,
+    DrawTriangleLeft, DrawTriangleUp, DrawTriangleRight, DrawTriangleDown,
+};

@@ -88,8 +88,7 @@ bool CXGraph::Save(const CString& strFile, UINT nFlags)
 {
     if (nFlags == 0)
         return false;
-    m_pTracker = nullptr;
-    m_pCurrentObject = nullptr;
+    m_ObjectTracker.Forget();
     try {
         CFile file;
         if (!file.Open(strFile, CFile::modeCreate | CFile::modeWrite))

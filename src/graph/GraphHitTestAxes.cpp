@@ -1,6 +1,6 @@
 #include "graph/AxisClick.h"
 #include "graph/DragState.h"
-#include "graph/HitTest.h"
+#include "graph/GraphHitTest.h"
 #include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 

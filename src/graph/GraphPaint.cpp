@@ -1,10 +1,8 @@
 // The frame: one routine draws a whole picture of the graph and computes all its geometry.
 
 #include "draw/MemDC.h"
-#include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 #include "graph/FrameLayout.h"
-#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 #include <optional>
@@ -14,7 +12,6 @@ namespace
 {
 
 constexpr COLORREF kWhite = 0xFFFFFF;
-constexpr COLORREF kBandColor = 0xFF9696;
 
 // A canvas on somebody else's handle, left again on every way out.
 class AttachedCanvas
@@ -100,8 +97,8 @@ void CXGraph::OnPaint()
 
 void CXGraph::PaintFrame(CDCEx* pDC)
 {
-    m_ptLastCursor = CPoint(-1, -1); // the frame wipes the cursor that was drawn by XOR
-    CRgn region;                     // outlives its selection
+    CRgn region; // outlives its selection
+    m_CursorTool.Forget();
     const SavedState state(pDC);
 
     CRect rcClient;
@@ -177,48 +174,18 @@ void CXGraph::DrawCurves(CDCEx* pDC)
 
 void CXGraph::DrawOverlay(CDCEx* pDC)
 {
-    DrawMeasures(pDC);
+    m_MeasureTool.DrawMeasures(pDC);
     if (m_opOperation == opZoom && m_bLButtonDown)
-        DrawZoomRect(pDC);
-    if (m_opOperation == opMeasure && m_bLButtonDown) {
-        CRect rcLive(0, 0, 0, 0);
-        DrawMeasure(pDC, rcLive);
-    }
+        m_ZoomBand.DrawZoomRect(pDC);
+    if (m_opOperation == opMeasure && m_bLButtonDown)
+        m_MeasureTool.DrawLive(pDC);
     if (m_opOperation == opCursor)
-        DrawCursor(pDC);
+        m_CursorTool.DrawCursor(pDC);
     for (POSITION pos = m_Objects.GetHeadPosition(); pos != nullptr;) {
         auto* pObject = static_cast<CXGraphObject*>(m_Objects.GetNext(pos));
         if (IsFreeObject(*pObject))
             pObject->Draw(pDC);
     }
-    if (m_bPointDragged)
-        DrawPointValue(pDC);
-}
-
-void CXGraph::DrawPointValue(CDCEx* pDC)
-{
-    constexpr int kDistance = 10;
-    CQuickFont font(L"Arial", 13, FW_NORMAL);
-    const CFontSelector selectFont(&font, pDC, true);
-    pDC->SetBkMode(TRANSPARENT);
-    CString strValue;
-    strValue.Format(L"%.2f", m_fEditValue);
-    pDC->TextOut(WrapAdd(m_ptCurrent.x, kDistance), m_ptCurrent.y, strValue);
-}
-
-void CXGraph::DrawZoomRect(CDCEx* pDC)
-{
-    const CRect rcBand = FrameLayout::Band(m_ptLButtonDown, m_ptCurrent, m_rcInner);
-    if (!m_bDoubleBuffer && !m_rcZoom.IsRectEmpty())
-        pDC->DrawFocusRect(&m_rcZoom); // the second time erases
-    m_rcZoom = rcBand;
-    if (m_bDoubleBuffer) {
-        const CBrushSelector selectBrush(kBandColor, pDC);
-        const COLORREF crBack = pDC->SetBkColor(m_crInnerColor);
-        const int nMode = pDC->SetROP2(R2_NOTXORPEN);
-        pDC->Rectangle(&m_rcZoom);
-        pDC->SetBkColor(crBack);
-        pDC->SetROP2(nMode);
-    }
-    pDC->DrawFocusRect(&m_rcZoom);
+    if (m_PointDrag.m_bPointDragged)
+        m_PointDrag.DrawValue(pDC);
 }

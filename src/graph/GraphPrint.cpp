@@ -18,7 +18,7 @@ class CPrintTarget
 public:
     CPrintTarget(CXGraph& graph, CDCEx& canvas)
         : m_Graph(graph), m_ptCurrent(graph.m_ptCurrent), m_nCursorCurve(graph.m_nCursorCurve),
-          m_fCursorX(graph.m_fCursorX), m_fCursorY(graph.m_fCursorY)
+          m_fCursorX(graph.m_CursorTool.m_fCursorX), m_fCursorY(graph.m_CursorTool.m_fCursorY)
     {
         graph.m_pPrintDC = &canvas;
     }
@@ -27,8 +27,8 @@ public:
         m_Graph.m_pPrintDC = nullptr;
         m_Graph.m_ptCurrent = m_ptCurrent;
         m_Graph.m_nCursorCurve = m_nCursorCurve;
-        m_Graph.m_fCursorX = m_fCursorX;
-        m_Graph.m_fCursorY = m_fCursorY;
+        m_Graph.m_CursorTool.m_fCursorX = m_fCursorX;
+        m_Graph.m_CursorTool.m_fCursorY = m_fCursorY;
     }
     CPrintTarget(const CPrintTarget&) = delete;
     CPrintTarget& operator=(const CPrintTarget&) = delete;

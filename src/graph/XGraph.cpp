@@ -6,8 +6,6 @@
 #include "graph/CommandIds.h"
 #include "graph/GraphRegister.h"
 
-#include <memory>
-
 IMPLEMENT_SERIAL(CXGraph, CWnd, 1)
 
 BEGIN_MESSAGE_MAP(CXGraph, CWnd)
@@ -66,8 +64,6 @@ void RegisterGraphClass()
 } // namespace
 
 CXGraph::CXGraph()
-    : m_pfnMarker{&DrawSquare,       &DrawCircle,     &DrawCross,         &DrawDiamond,
-                  &DrawTriangleLeft, &DrawTriangleUp, &DrawTriangleRight, &DrawTriangleDown}
 {
     m_CursorLabel.m_rcObject = CRect(100, 100, 200, 175);
     m_CursorLabel.m_bVisible = false;
@@ -112,8 +108,7 @@ void CXGraph::ResetAll()
     m_XAxes.clear();
     m_YAxes.clear();
     m_Curves.clear();
-    m_pTracker = nullptr; // it and the pressed object point at what goes now
-    m_pCurrentObject = nullptr;
+    m_ObjectTracker.Forget();
     while (m_Objects.GetCount() > 1)
         delete m_Objects.RemoveTail();
 }
@@ -144,24 +139,6 @@ int CXGraph::GetCurveIndex(const CXGraphDataSerie* pCurve) const
             return static_cast<int>(i);
     }
     return -1;
-}
-
-CXGraphLabel* CXGraph::InsertLabel(const CRect& rcRect, const CString& strText)
-{
-    auto label = std::make_unique<CXGraphLabel>();
-    label->m_rcObject = rcRect;
-    label->m_cText = strText;
-    label->m_pGraph = this;
-    m_Objects.AddTail(label.get());
-    return label.release();
-}
-
-CXGraphLabel* CXGraph::InsertCenteredLabel(const CString& strText)
-{
-    constexpr int kHalfSide = 50;
-    CRect rcLabel(m_rcInner.CenterPoint(), CSize());
-    rcLabel.InflateRect(kHalfSide, kHalfSide);
-    return InsertLabel(rcLabel, strText);
 }
 
 void CXGraph::FreeAll()

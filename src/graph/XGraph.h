@@ -19,6 +19,11 @@
 #include "framework/windowing/Strings.h"
 #include "framework/windowing/Window.h"
 #include "graph/GraphRecords.h"
+#include "graph/tools/CursorTool.h"
+#include "graph/tools/MeasureTool.h"
+#include "graph/tools/ObjectTracker.h"
+#include "graph/tools/PointDrag.h"
+#include "graph/tools/ZoomBand.h"
 #include "objects/XGraphAxis.h"
 #include "objects/XGraphDataSerie.h"
 #include "objects/XGraphLabel.h"
@@ -38,7 +43,7 @@ class CXGraph : public CWnd
     DECLARE_SERIAL(CXGraph)
 
 public:
-    using PFNMARKER = decltype(&DrawSquare);
+    using PFNMARKER = MarkerPainter;
 
     // Registers the window class "XGraph"; throws CResourceException where that fails.
     CXGraph();
@@ -108,29 +113,16 @@ public:
     // Shows the property sheet on an axis, on a curve, or on the graph alone.
     void OpenSheet(CXGraphAxis* pAxis, CXGraphDataSerie* pCurve);
 
-    // Shows what m_rcZoom spans on all axes and keeps what each showed before. A band under 15
-    // pixels either way does nothing.
-    void ApplyZoomRect();
     void ZoomBack();                        // one step on every axis that has one
     void ResetZoom();                       // the histories stay
     [[nodiscard]] int GetZoomDepth() const; // of the first X axis
     void PanBy(CPoint point);               // from m_ptPan
 
-    // The crosshair at m_ptCurrent, drawn by XOR over the one at m_ptLastCursor; snaps first.
-    void DrawCursor(CDCEx* pDC);
-    void DrawCursorLegend(CDCEx* pDC);
     // The cursor's x on the curve's X axis, and y of the curve's point there.
     TDataPoint GetCursorAbsolute(int nCurve);
     // Puts the cursor on the curve's point at point.fXVal. With bForceVisible an axis that
     // doesn't show it is scrolled there; with XGC_ADJUSTSMOOTH it is centred in any case.
     void SetCursorAbsolute(int nCurve, TDataPoint point, bool bForceVisible);
-
-    // Moves the point's y onto the curve point that is nearest in y, and notes that point as an
-    // end of the live measure: the first where the point is m_ptLButtonDown.
-    void FindNearestPoint(CPoint& point);
-    // An empty rectangle stands for the live measure in opMeasure, and takes its place.
-    void DrawMeasure(CDCEx* pDC, CRect& rc);
-    void DrawMeasures(CDCEx* pDC);
 
     // Pins a note with the point's values to it; a point that isn't there gets none.
     void InsertDataNotation(int nCurve, int nIndex);
@@ -156,64 +148,72 @@ public:
     void PaintPage(CDCEx& canvas);
 
     void DrawLegend(CDCEx* pDC, CRect& rc);
-    void DrawZoomRect(CDCEx* pDC);
 
     // Destroys every graph that is left, with its window. For the end of the module.
     static void FreeAll();
     [[nodiscard]] static int GetLiveCount(); // graphs alive in this module
 
-    PFNMARKER m_pfnMarker[8];
-    COLORREF m_crBackColor = 0xFFFFFF;
-    COLORREF m_crGraphColor = 0xFFFFFF;
-    COLORREF m_crInnerColor = 0xF0F0F0;
-    bool m_bDoubleBuffer = true;
+    static constexpr const auto& m_pfnMarker = kMarkerPainters; // by marker number
+
+    // Settings, which show in the next frame. The host and the chart page write them; a file holds
+    // the first eight, the margins and the space.
+    COLORREF m_crBackColor = 0xFFFFFF;  // of the window, 0x00BBGGRR
+    COLORREF m_crGraphColor = 0xFFFFFF; // inside the margins, beside the legend
+    COLORREF m_crInnerColor = 0xF0F0F0; // of the plot
+    bool m_bDoubleBuffer = true;        // a frame is drawn in memory first
     bool m_bShowLegend = true;
-    bool m_bInteraction = true;
-    bool m_bTmpDC = false;
-    EAlignment m_nLegendAlignment = EAlignment::right;
-    bool m_bSnapCursor = true;
-    int m_nSnapRange = 10;
-    unsigned int m_nCursorFlags = XGC_HORIZ | XGC_VERT | XGC_LEGEND;
-    CDCEx* m_pPrintDC = nullptr;
-    CDCEx* m_pDrawDC = nullptr;
-    CRectTracker* m_pTracker = nullptr;
-    CRect m_rcInner{0, 0, 0, 0};
-    CRect m_rcMeasure{0, 0, 0, 0};
-    CRect m_rcPrint{0, 0, 0, 0};
-    CPoint m_ptPan{0, 0};
-    EOperation m_opOperation = opNone;
-    int m_nCursorCurve = 0;
-    int m_nMeasureCurve2 = 0;
-    int m_nLeftMargin = 5;
+    EAlignment m_nLegendAlignment = EAlignment::right; // any value; top and bottom have no box
+    bool m_bSnapCursor = true;                         // the cursor looks for a curve
+    int m_nSnapRange = 10;                             // pixels; half of it is half the box
+    bool m_bInteraction = true;                        // HitTest works at all
+    unsigned int m_nCursorFlags = XGC_HORIZ | XGC_VERT | XGC_LEGEND; // XGRAPH_XGC
+    int m_nForcedSnapCurve = -1; // a curve's index, untested; -1 for none
+    CString m_strPrintHeader;    // one line on a page; empty takes no room
+    CString m_strPrintFooter;
+    int m_nLeftMargin = 5; // pixels between the window and the graph rectangle, any value
     int m_nTopMargin = 5;
     int m_nRightMargin = 5;
     int m_nBottomMargin = 5;
-    int m_nAxisSpace = 5;
-    int m_nForcedSnapCurve = -1;
-    CRect m_rcZoom{0, 0, 0, 0};
-    CPoint m_ptLButtonDown{0, 0};
-    CPoint m_ptLastCursor{0, 0};
-    CPoint m_ptLButtonUp{0, 0};
-    CPoint m_ptCurrent{0, 0};
-    bool m_bLButtonDown = false;
-    bool m_bRButtonDown = false;
-    bool m_bOverObject = false;
-    double m_fEditValue = 0.0;
-    bool m_bPointDragged = false;
-    int m_nSelectedCurve = -1;
-    double m_fCursorX = 0.0;
-    double m_fCursorY = 0.0;
-    CString m_strPrintHeader;
-    CString m_strPrintFooter;
-    CXGraphLabel m_CursorLabel;
-    TMeasureSpan m_LiveMeasure;
-    CCheckedVector<TMeasureSpan> m_Measures;
-    CCheckedVector<TLegendEntry> m_LegendEntries;
+    int m_nAxisSpace = 5; // pixels added to each visible axis; only a file writes it
+
+    // What the graph holds. Elements of the vectors move when their vector changes.
     CCheckedVector<CXGraphDataSerie> m_Curves;
     CCheckedVector<CXGraphAxis> m_XAxes;
     CCheckedVector<CXGraphAxis> m_YAxes;
-    CObList m_Objects{10}; // of CXGraphObject, owned, but for the head: m_CursorLabel
-    CXGraphObject* m_pCurrentObject = nullptr;
+    CObList m_Objects{10};      // of CXGraphObject, owned, but for the head: m_CursorLabel
+    CXGraphLabel m_CursorLabel; // visible from the first frame in opCursor; the cursor writes its text
+    CCheckedVector<TMeasureSpan> m_Measures; // finished ones; they outlive ResetAll
+    // Rows of the last frame with a legend, in client pixels. HitTest reads them.
+    CCheckedVector<TLegendEntry> m_LegendEntries;
+
+    // Targets and results of a frame.
+    CDCEx* m_pPrintDC = nullptr; // for the time of a page; nothing reads it
+    CDCEx* m_pDrawDC = nullptr;  // where OnPaint draws instead of the window; nothing here sets it
+    // The plot, in client pixels or in screen units of the page. Written by the layout of each
+    // frame, zeros before the first, and inverted where the window has no room for it.
+    CRect m_rcInner{0, 0, 0, 0};
+    CRect m_rcPrint{0, 0, 0, 0}; // screen units; what header and footer leave of the last page
+
+    // The state of mouse and keys. Points are client pixels.
+    EOperation m_opOperation = opNone; // host code may change it during any message
+    // A curve's index, -1 for none: under the cursor, or of a measure's first end. Both write it.
+    int m_nCursorCurve = 0;
+    int m_nSelectedCurve = -1; // a curve's index by the last click, or a file's, untested
+    // The mouse of the last move, or the cursor: moves, the arrow keys and the host write it, and
+    // each drawing of the cursor writes its y. Presses and releases don't.
+    CPoint m_ptCurrent{0, 0};
+    CPoint m_ptLButtonDown{0, 0}; // of the last press; in opMeasure on the curve
+    CPoint m_ptLButtonUp{0, 0};   // of the last release; nothing reads it
+    CPoint m_ptPan{0, 0};         // last anchor of a pan, (0, 0) for none; a left release empties it
+    bool m_bLButtonDown = false;  // rewritten by every move, from its flags
+    bool m_bRButtonDown = false;
+    bool m_bOverObject = false; // something reacts under the mouse; of the last move
+
+    CZoomBand m_ZoomBand{*this};
+    CCursorTool m_CursorTool{*this};
+    CMeasureTool m_MeasureTool{*this};
+    CPointDrag m_PointDrag{*this};
+    CObjectTracker m_ObjectTracker{*this};
 
     // By the index that a curve or a measure holds; one outside the list ends the process.
     CXGraphDataSerie& CurveAt(int nCurve) { return *GetCurve(nCurve); }
@@ -253,26 +253,13 @@ private:
     void LayoutAxes(CDCEx* pDC, const CRect& rcGraph);
     void DrawCurves(CDCEx* pDC);
     void DrawOverlay(CDCEx* pDC);
-    void DrawPointValue(CDCEx* pDC);
 
-    void PressObjects(CPoint point);
-    void TrackObject(CXGraphObject* pObject, CPoint point);
-    void DeleteCurrentObject();
-    void MoveCursor();
     void MoveCursorBy(int x, int y);
     void DragTo(CPoint point);
-
-    void SnapCursor();
-    int ReadCursor(int nCurve); // the pixel y of the curve at the cursor's x
-    void DrawCursorFigure(CDCEx* pDC, CPoint point);
     void BringIntoView(CXGraphAxis& axis, double fValue) const;
-    void PinNotation();
-
-    [[nodiscard]] CPoint PointOfCurve(int nCurve, int nIndex);
-    [[nodiscard]] CRect LiveMeasureRect() const;
-    void DrawMeasureLines(CDCEx* pDC, const CRect& rc);
-    static void DrawMeasureArrows(CDCEx* pDC, const CRect& rc);
-    void DrawMeasureTexts(CDCEx* pDC, CRect rc);
+    // Moves the visible bounds by multiples of the key step, and back to the whole range.
+    static void ShiftRanges(CCheckedVector<CXGraphAxis>& axes, double lowSteps, double highSteps);
+    static void ResetRanges(CCheckedVector<CXGraphAxis>& axes);
 
     void AppendTrend(const CXGraphDataSerie& curve, std::unique_ptr<TDataPoint[]> points,
                      LPCWSTR pszKind);

@@ -3,10 +3,12 @@
 #include "objects/XGraphAxis.h"
 
 #include "draw/DCEx.h"
+#include "draw/Markers.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
-#include "graph/XGraph.h"
 #include "objects/AxisPainter.h"
+#include "objects/PlotHost.h"
+#include "objects/XGraphDataSerie.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -141,10 +143,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
     if (!m_bShowMarker || m_pGraph == nullptr)
         return 0;
     const CRect plot = PlotRect();
-    const auto& axes = IsVertical() ? m_pGraph->m_YAxes : m_pGraph->m_XAxes;
-    const auto place = std::find_if(axes.begin(), axes.end(),
-                                    [this](const CXGraphAxis& axis) { return &axis == this; });
-    const int nAxis = place == axes.end() ? -1 : static_cast<int>(place - axes.begin());
+    const int nAxis = PlotHost::AxisIndex(*m_pGraph, *this);
     // Keys in a row across the axis's direction: two in a column of an X axis, three in a row
     // of a Y axis. The first column of an X axis stands one key inside the plot.
     const int nPerLine = IsVertical() ? 3 : 2;
@@ -152,8 +151,9 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
     int nAlong = IsVertical() ? 0 : nSize;
     int nAcross = 0;
     int nKeys = 0;
-    for (std::size_t i = 0; i < m_pGraph->m_Curves.size(); ++i) {
-        const CXGraphDataSerie& curve = m_pGraph->m_Curves[i];
+    const int nCurves = PlotHost::CurveCount(*m_pGraph);
+    for (int i = 0; i < nCurves; ++i) {
+        const CXGraphDataSerie& curve = PlotHost::Curve(*m_pGraph, i);
         if (!curve.m_bVisible || nAxis < 0 || (IsVertical() ? curve.m_nYAxis : curve.m_nXAxis) != nAxis)
             continue;
         if (bDraw) {
@@ -166,7 +166,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
                                     ? Wrap::Add(Wrap::Subtract(m_nOriginX, nSize / 2), nAcross)
                                     : Wrap::Subtract(Wrap::Subtract(m_nOriginX, nSize / 2), nAcross),
                                 Wrap::Add(m_rcArea.top, nAlong));
-            const int nKey = curve.m_nMarkerType != 0 ? curve.m_nMarker : static_cast<int>(i);
+            const int nKey = curve.m_nMarkerType != 0 ? curve.m_nMarker : i;
             DrawCurveKey(pDC, corner, nKey, nSize, curve.m_crColor, curve.m_nMarkerType == 1);
         }
         nAcross = Wrap::Add(nAcross, nSize);
@@ -183,8 +183,8 @@ void CXGraphAxis::DrawCurveKey(CDCEx* pDC, CPoint point, int nKey, int nSize, CO
 {
     nSize = std::clamp(nSize, -kLargestKey, kLargestKey);
     if (bSymbol) {
-        if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(m_pGraph->m_pfnMarker)))
-            m_pGraph->m_pfnMarker[nKey](point, nSize, crColor, false, pDC);
+        if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(kMarkerPainters)))
+            kMarkerPainters[nKey](point, nSize, crColor, false, pDC);
         return;
     }
     CRect rect(point.x, point.y, Wrap::Add(point.x, nSize), Wrap::Add(point.y, nSize));

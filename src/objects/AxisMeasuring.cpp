@@ -6,9 +6,10 @@
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "draw/WindowCanvas.h"
-#include "graph/XGraph.h"
+#include "framework/windowing/Window.h"
 #include "objects/DateTimeSteps.h"
 #include "objects/LogDecades.h"
+#include "objects/PlotHost.h"
 #include "objects/TickSteps.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ int CXGraphAxis::RoomForTicks() const
 
 void CXGraphAxis::RecalcStep()
 {
-    CWindowCanvas canvas(m_pGraph != nullptr ? m_pGraph->m_hWnd : nullptr);
+    CWindowCanvas canvas(m_pGraph != nullptr ? PlotHost::Window(*m_pGraph).m_hWnd : nullptr);
     const int nRoom = RoomForTicks();
     const int nLength = nRoom == 0 ? 1 : nRoom;
     const int nSize = IsVertical() ? GetLabelHeight(canvas.Get()) : GetMaxLabelWidth(canvas.Get());

@@ -2,7 +2,7 @@
 
 #include "base/Trunc.h"
 #include "draw/Selectors.h"
-#include "graph/XGraph.h"
+#include "objects/PlotHost.h"
 #include "objects/TickLabels.h"
 
 namespace
@@ -51,8 +51,9 @@ void CAxisPainter::DrawBackground(bool bMarkers)
     if (bMarkers)
         m_axis.DrawAxisMarkers(m_pDC);
     m_axis.m_fKeySpace = m_axis.DrawCurveKeys(m_pDC, true);
-    m_pDC->SetBkColor(m_pDC->m_bMono || m_axis.m_pGraph == nullptr ? kWhite
-                                                                   : m_axis.m_pGraph->m_crGraphColor);
+    m_pDC->SetBkColor(m_pDC->m_bMono || m_axis.m_pGraph == nullptr
+                          ? kWhite
+                          : PlotHost::GraphColor(*m_axis.m_pGraph));
     m_pDC->SetBkMode(OPAQUE);
 }
 

@@ -8,10 +8,11 @@
 
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
-#include "graph/XGraph.h"
 #include "objects/AxisPainter.h"
 #include "objects/ColumnWalk.h"
+#include "objects/PlotHost.h"
 #include "objects/PolylineBatches.h"
+#include "objects/XGraphAxis.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -155,15 +156,15 @@ void CXGraphDataSerie::Draw(CDCEx* pDC)
 
 void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
 {
-    CXGraphAxis& xAxis = m_pGraph->m_XAxes[m_nXAxis];
-    CXGraphAxis& yAxis = m_pGraph->m_YAxes[m_nYAxis];
+    CXGraphAxis& xAxis = PlotHost::XAxis(*m_pGraph, m_nXAxis);
+    CXGraphAxis& yAxis = PlotHost::YAxis(*m_pGraph, m_nYAxis);
     xAxis.m_fRange = xAxis.m_fCurMax - xAxis.m_fCurMin;
     yAxis.m_fRange = yAxis.m_fCurMax - yAxis.m_fCurMin;
     const AxisMapping::CMapper x(xAxis.GetScale());
     const AxisMapping::CMapper y(yAxis.GetScale());
     const ColumnWalk::TCurve curve{Points(), x, y, IsAscending()};
 
-    const CRect plot = m_pGraph->m_rcInner;
+    const CRect plot = PlotHost::InnerRect(*m_pGraph);
     const TRect reach = ReachOf(plot, PenReach());
     const bool bJoin = m_nLineStyle == PS_SOLID;
     CPolylineBatches lines(reach,
@@ -201,11 +202,11 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
 // The partner's points from the last to the first, none of them skipped for its column.
 void CXGraphDataSerie::AppendPartner(std::vector<TPoint>& polygon, int nReach) const
 {
-    const CXGraphDataSerie& partner = m_pGraph->m_Curves[static_cast<short>(m_nFillCurve)];
-    const AxisMapping::CMapper x(m_pGraph->m_XAxes[partner.m_nXAxis].GetScale());
-    const AxisMapping::CMapper y(m_pGraph->m_YAxes[partner.m_nYAxis].GetScale());
+    const CXGraphDataSerie& partner = PlotHost::Curve(*m_pGraph, static_cast<short>(m_nFillCurve));
+    const AxisMapping::CMapper x(PlotHost::XAxis(*m_pGraph, partner.m_nXAxis).GetScale());
+    const AxisMapping::CMapper y(PlotHost::YAxis(*m_pGraph, partner.m_nYAxis).GetScale());
     const std::span<const TDataPoint> points = partner.Points();
-    CChain chain(polygon, ReachOf(m_pGraph->m_rcInner, nReach));
+    CChain chain(polygon, ReachOf(PlotHost::InnerRect(*m_pGraph), nReach));
     for (std::size_t i = points.size(); i-- > 0;)
         chain.Append({x.Pixel(points[i].fXVal), y.Pixel(points[i].fYVal)});
 }
@@ -229,21 +230,21 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
 {
     if (m_pGraph == nullptr || Points().empty())
         return;
-    CXGraphAxis& xAxis = m_pGraph->m_XAxes[m_nXAxis];
-    CXGraphAxis& yAxis = m_pGraph->m_YAxes[m_nYAxis];
+    CXGraphAxis& xAxis = PlotHost::XAxis(*m_pGraph, m_nXAxis);
+    CXGraphAxis& yAxis = PlotHost::YAxis(*m_pGraph, m_nYAxis);
     const AxisMapping::CMapper x(xAxis.GetScale());
     const AxisMapping::CMapper y(yAxis.GetScale());
-    const CRect plot = m_pGraph->m_rcInner;
+    const CRect plot = PlotHost::InnerRect(*m_pGraph);
 
     // In 64 bits: the smallest width over a size of -1 has no quotient in 32.
     const std::int64_t nRoom = m_nMarkerSize == 0 ? 0 : std::int64_t{plot.Width()} / m_nMarkerSize / 4;
     std::int64_t nStep = nRoom > 0 ? m_nCount / nRoom : 2;
     if (nStep < 1)
         nStep = 2;
-    if (m_pGraph->m_opOperation == opEditCurve)
+    if (PlotHost::Operation(*m_pGraph) == opEditCurve)
         nStep = 1;
 
-    const int nKey = m_nMarkerType != 0 ? m_nMarker : m_pGraph->GetCurveIndex(this);
+    const int nKey = m_nMarkerType != 0 ? m_nMarker : PlotHost::CurveIndex(*m_pGraph, *this);
     const COLORREF crKey = pDC->m_bMono ? kBlack : m_crColor;
     const std::int64_t nSize =
         m_nMarkerSize < 0 ? -static_cast<std::int64_t>(m_nMarkerSize) : m_nMarkerSize;

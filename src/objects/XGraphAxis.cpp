@@ -4,12 +4,14 @@
 #include "objects/XGraphAxis.h"
 
 #include "base/NumberFormat.h"
-#include "graph/XGraph.h"
+#include "framework/windowing/Window.h"
 #include "objects/DateFormat.h"
 #include "objects/IndexSearch.h"
 #include "objects/LogDecades.h"
 #include "objects/ObjectFont.h"
+#include "objects/PlotHost.h"
 #include "objects/TickSteps.h"
+#include "objects/XGraphDataSerie.h"
 
 #include <cfloat>
 #include <cmath>
@@ -37,15 +39,15 @@ void CopyFont(CFont& font, const CFont& source)
         font.DeleteObject();
 }
 
-void Repaint(const CXGraph* pGraph)
+void Repaint(CXGraph* pGraph)
 {
-    if (pGraph != nullptr && pGraph->m_hWnd != nullptr)
-        ::InvalidateRect(pGraph->m_hWnd, nullptr, TRUE);
+    if (pGraph != nullptr)
+        PlotHost::Repaint(*pGraph);
 }
 
-bool IsOnScreen(const CXGraph* pGraph)
+bool IsOnScreen(CXGraph* pGraph)
 {
-    return pGraph != nullptr && ::IsWindowVisible(pGraph->m_hWnd);
+    return pGraph != nullptr && ::IsWindowVisible(PlotHost::Window(*pGraph).m_hWnd);
 }
 
 // An element at the end is appended; one before it is replaced; no other index exists.
@@ -190,7 +192,7 @@ void CXGraphAxis::GetRange(double& fMin, double& fMax, double& fStep) const
 
 CRect CXGraphAxis::PlotRect() const
 {
-    return m_pGraph != nullptr ? m_pGraph->m_rcInner : CRect();
+    return m_pGraph != nullptr ? PlotHost::InnerRect(*m_pGraph) : CRect();
 }
 
 AxisMapping::TScale CXGraphAxis::GetScale(bool bLog) const
@@ -233,7 +235,7 @@ int CXGraphAxis::PixelOf(double fValue)
 
 void CXGraphAxis::FindIndexForX(int& nIndex, double fX, int nCurve)
 {
-    const CXGraphDataSerie& curve = m_pGraph->m_Curves[nCurve];
+    const CXGraphDataSerie& curve = PlotHost::Curve(*m_pGraph, nCurve);
     nIndex = curve.IsAscending() ? IndexSearch::FindIndexForXAscending(curve.Points(), fX)
                                  : IndexSearch::FindIndexForX(curve.Points(), fX);
 }

@@ -3,8 +3,10 @@
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
-#include "graph/XGraph.h"
 #include "objects/ObjectFont.h"
+#include "objects/PlotHost.h"
+#include "objects/XGraphAxis.h"
+#include "objects/XGraphDataSerie.h"
 
 #include <algorithm>
 
@@ -41,10 +43,10 @@ void CXGraphDataNotation::Draw(CDCEx* pDC)
     if (m_bSizing)
         m_Tracker.Draw(pDC);
     const CFontSelector selectFont(&m_Font, pDC, true);
-    CXGraphDataSerie& curve = *m_pGraph->GetCurve(m_nCurve);
+    CXGraphDataSerie& curve = PlotHost::Curve(*m_pGraph, m_nCurve);
     const TDataPoint value{m_fXVal, m_fYVal};
-    const LONG x = m_pGraph->GetXAxis(curve.m_nXAxis)->GetPointForValue(value).x;
-    const LONG y = m_pGraph->GetYAxis(curve.m_nYAxis)->GetPointForValue(value).y;
+    const LONG x = PlotHost::XAxis(*m_pGraph, curve.m_nXAxis).GetPointForValue(value).x;
+    const LONG y = PlotHost::YAxis(*m_pGraph, curve.m_nYAxis).GetPointForValue(value).y;
     const CPoint point(std::clamp(x, -FarthestPixel, FarthestPixel),
                        std::clamp(y, -FarthestPixel, FarthestPixel));
     PlaceBox(pDC, point);

@@ -3,8 +3,11 @@
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
-#include "graph/XGraph.h"
+#include "framework/windowing/Window.h"
 #include "objects/ObjectFont.h"
+#include "objects/PlotHost.h"
+#include "objects/XGraphAxis.h"
+#include "objects/XGraphDataSerie.h"
 
 #include <optional>
 
@@ -111,12 +114,12 @@ void CXGraphLabel::Draw(CDCEx* pDC)
 // From the curve's middle point to the middle of the box, which then hides its inner part.
 void CXGraphLabel::DrawTie(CDCEx* pDC)
 {
-    const CXGraphDataSerie* pCurve = m_pGraph->GetCurve(m_nCurve);
-    if (pCurve->m_nCount <= 0)
+    const CXGraphDataSerie& curve = PlotHost::Curve(*m_pGraph, m_nCurve);
+    if (curve.m_nCount <= 0)
         return;
-    const TDataPoint& middle = pCurve->m_pData[pCurve->m_nCount / 2];
-    pDC->MoveTo(m_pGraph->GetXAxis(pCurve->m_nXAxis)->GetPointForValue(middle).x,
-                m_pGraph->GetYAxis(pCurve->m_nYAxis)->GetPointForValue(middle).y);
+    const TDataPoint& middle = curve.m_pData[curve.m_nCount / 2];
+    pDC->MoveTo(PlotHost::XAxis(*m_pGraph, curve.m_nXAxis).GetPointForValue(middle).x,
+                PlotHost::YAxis(*m_pGraph, curve.m_nYAxis).GetPointForValue(middle).y);
     pDC->LineTo(m_rcObject.CenterPoint());
 }
 
@@ -131,11 +134,12 @@ void CXGraphLabel::BeginEdit()
     CRect rcEditor = m_rcObject;
     rcEditor.DeflateRect(1, 1);
     // The alignment's bits are the editor's own styles too.
-    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor, m_pGraph, kEditorId);
+    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor, &PlotHost::Window(*m_pGraph),
+                  kEditorId);
     m_Edit.SetFont(&m_Font);
     m_Edit.SetWindowText(m_cText);
     m_Edit.ShowWindow(SW_SHOW);
-    m_pGraph->Invalidate();
+    PlotHost::Repaint(*m_pGraph);
     // Whoever loses the focus hears of it at once, and may remove this label.
     const HWND hEdit = m_Edit.m_hWnd;
     ::SetFocus(hEdit);
@@ -158,14 +162,14 @@ void CXGraphLabel::InvokeProperties()
 {
     POINT cursor = {};
     ::GetCursorPos(&cursor);
-    CXGraph* pGraph = m_pGraph;
+    CXGraph& graph = *m_pGraph;
     const TObjectRef self(this);
     const HMENU hMenu = ::CreatePopupMenu();
     ::AppendMenuW(hMenu, MF_STRING, kPropertiesItem, L"Properties");
     const UINT nChosen = static_cast<UINT>(::TrackPopupMenu(
-        hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0, pGraph->m_hWnd, nullptr));
+        hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0, PlotHost::Window(graph).m_hWnd, nullptr));
     ::DestroyMenu(hMenu);
     // Messages ran while the menu was open, and may have removed this label.
-    if (nChosen == kPropertiesItem && pGraph->Owns(self))
+    if (nChosen == kPropertiesItem && PlotHost::Owns(graph, self))
         ShowLabelProperties(*this);
 }

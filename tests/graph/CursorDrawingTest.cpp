@@ -115,8 +115,8 @@ TEST_F(CursorDrawing, WithoutAWinnerTheValuesOfTheLastCurveStay)
     EnterCursor();
     Move(Middle(), Row(5));
     EXPECT_EQ(graph.m_nCursorCurve, -1);
-    EXPECT_EQ(graph.m_fCursorY, 8);
-    EXPECT_EQ(graph.m_fCursorX, graph.GetXAxis(0)->GetValueForPos(Middle()));
+    EXPECT_EQ(graph.m_CursorTool.m_fCursorY, 8);
+    EXPECT_EQ(graph.m_CursorTool.m_fCursorX, graph.GetXAxis(0)->GetValueForPos(Middle()));
 }
 
 TEST_F(CursorDrawing, WithoutSnappingThereIsNoCurveNoLineForItAndNoNote)
@@ -144,7 +144,7 @@ TEST_F(CursorDrawing, AForcedSnapIgnoresFlagAndDistance)
     Move(Middle(), Row(2));
     EXPECT_EQ(graph.m_nCursorCurve, 1);
     EXPECT_EQ(graph.m_ptCurrent.y, Row(8));
-    EXPECT_EQ(graph.m_fCursorY, 8);
+    EXPECT_EQ(graph.m_CursorTool.m_fCursorY, 8);
     graph.m_nForcedSnapCurve = -1;
     Move(Middle(), Row(2));
     EXPECT_EQ(graph.m_nCursorCurve, -1);

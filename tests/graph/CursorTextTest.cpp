@@ -112,8 +112,8 @@ TEST_F(CursorTextBox, HasALineForEveryAxisAndOneForTheCurve)
                              L" a\r\n X[02] : " + number(graph.GetXAxis(1)->GetValueForPos(at.x)) +
                              L" b\r\n Y[01] : " + number(graph.GetYAxis(0)->GetValueForPos(at.y)) +
                              L" c\r\n Y[02] : " + number(graph.GetYAxis(1)->GetValueForPos(at.y)) +
-                             L" d\r\n second[02] : " + number(graph.m_fCursorX) + L", " +
-                             number(graph.m_fCursorY) + L"\r\n";
+                             L" d\r\n second[02] : " + number(graph.m_CursorTool.m_fCursorX) + L", " +
+                             number(graph.m_CursorTool.m_fCursorY) + L"\r\n";
     EXPECT_EQ(graph.m_CursorLabel.m_cText, expected);
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject.Size(), CSize(149, 50)); // whatever the text's length
 }

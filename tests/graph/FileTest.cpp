@@ -259,14 +259,14 @@ TEST_F(GraphFile, FlagsOfZeroTouchNoFile)
 
 TEST_F(GraphFile, SavingForgetsTheActiveTrackerAndThePressedObject)
 {
-    graph.m_pCurrentObject = &graph.m_CursorLabel;
-    graph.m_pTracker = &graph.m_CursorLabel.m_Tracker;
+    graph.m_ObjectTracker.m_pCurrentObject = &graph.m_CursorLabel;
+    graph.m_ObjectTracker.m_pTracker = &graph.m_CursorLabel.m_Tracker;
     const CTempFile file;
     EXPECT_FALSE(graph.Save(file.Path(), 0));
-    EXPECT_NE(graph.m_pTracker, nullptr);
+    EXPECT_NE(graph.m_ObjectTracker.m_pTracker, nullptr);
     EXPECT_TRUE(graph.Save(file.Path(), 1));
-    EXPECT_EQ(graph.m_pTracker, nullptr);
-    EXPECT_EQ(graph.m_pCurrentObject, nullptr);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pTracker, nullptr);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pCurrentObject, nullptr);
 }
 
 TEST_F(GraphFile, AFileThatCantBeOpenedLeavesTheGraphAsItIs)

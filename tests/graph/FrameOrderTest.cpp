@@ -92,7 +92,7 @@ TEST_F(FrameOrder, MeasuresLieAboveCurvesAndBelowObjects)
 {
     graph.m_Curves[0].m_nLineSize = 5;
     graph.m_nCursorCurve = 1;
-    graph.m_nMeasureCurve2 = 0;
+    graph.m_MeasureTool.m_nMeasureCurve2 = 0;
     graph.m_Measures.push_back({1, 0, 0, 1});
     const CPoint end = At(5, 2);
     EXPECT_EQ(Shoot().At(end.x, end.y - 3), 0x0000FFu) << "the arrow at the end";
@@ -127,8 +127,8 @@ TEST_F(FrameOrder, TheCursorsBoxIsTheLowestObject)
 TEST_F(FrameOrder, TheValueOfADraggedPointLiesOnTop)
 {
     const CXGraphLabel* cover = Cover();
-    graph.m_bPointDragged = true;
-    graph.m_fEditValue = 88888.88;
+    graph.m_PointDrag.m_bPointDragged = true;
+    graph.m_PointDrag.m_fEditValue = 88888.88;
     graph.m_ptCurrent = graph.m_rcInner.CenterPoint();
     const Picture picture = Shoot();
     const CRect place(graph.m_ptCurrent.x + 10, graph.m_ptCurrent.y, graph.m_ptCurrent.x + 60,

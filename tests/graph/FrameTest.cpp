@@ -171,14 +171,14 @@ TEST_F(Frame, TheUnbufferedRubberBandLeavesNoTrace)
         CClientDC dcClient(&graph);
         CDCEx dc;
         dc.Attach(dcClient.GetSafeHdc());
-        graph.DrawZoomRect(&dc);
+        graph.m_ZoomBand.DrawZoomRect(&dc);
         EXPECT_GT(Picture(graph.m_hWnd).CountDifferences(before), 0);
-        EXPECT_EQ(graph.m_rcZoom, CRect(150, 100, 250, 180));
+        EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(150, 100, 250, 180));
         graph.m_ptCurrent = CPoint(200, 150);
-        graph.DrawZoomRect(&dc); // erases the former one
+        graph.m_ZoomBand.DrawZoomRect(&dc); // erases the former one
         dc.Detach();
     }
-    EXPECT_EQ(graph.m_rcZoom, CRect(150, 100, 200, 150));
+    EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(150, 100, 200, 150));
     EXPECT_EQ(Shoot().CountDifferences(before), 0);
 }
 
@@ -190,7 +190,7 @@ TEST_F(Frame, TheBufferedRubberBandTintsThePlot)
     graph.m_ptLButtonDown = CPoint(250, 180);
     graph.m_ptCurrent = CPoint(150, 900);
     const Picture picture = Shoot();
-    EXPECT_EQ(graph.m_rcZoom, CRect(150, 180, 250, graph.m_rcInner.bottom));
+    EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(150, 180, 250, graph.m_rcInner.bottom));
     // Combined by "not xor" with what lies beneath.
     const COLORREF tinted = ~(0xFF9696u ^ kInner) & 0xFFFFFFu;
     EXPECT_EQ(picture.At(200, 200), tinted);
@@ -201,8 +201,8 @@ TEST_F(Frame, TheBufferedRubberBandTintsThePlot)
 
 TEST_F(Frame, TheValueOfADraggedPointStandsBesideThePointer)
 {
-    graph.m_bPointDragged = true;
-    graph.m_fEditValue = 1.006;
+    graph.m_PointDrag.m_bPointDragged = true;
+    graph.m_PointDrag.m_fEditValue = 1.006;
     graph.m_ptCurrent = CPoint(120, 90);
     Recording recording(graph);
     const auto texts = recording.Texts();
@@ -213,9 +213,9 @@ TEST_F(Frame, TheValueOfADraggedPointStandsBesideThePointer)
 
 TEST_F(Frame, TheFrameForgetsTheCursorThatItWipes)
 {
-    graph.m_ptLastCursor = CPoint(9, 9);
+    graph.m_CursorTool.m_ptLastCursor = CPoint(9, 9);
     Paint();
-    EXPECT_EQ(graph.m_ptLastCursor, CPoint(-1, -1));
+    EXPECT_EQ(graph.m_CursorTool.m_ptLastCursor, CPoint(-1, -1));
 }
 
 TEST_F(Frame, AGivenTargetIsUsedAsItIs)

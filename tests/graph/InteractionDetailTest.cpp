@@ -89,16 +89,16 @@ TEST_F(InteractionDetail, APointIsGrabbedHalfAMarkerLeftOfTheMouse)
 
 TEST_F(InteractionDetail, ARightReleaseForgetsTheCursorInItsOperationAlone)
 {
-    graph.m_ptLastCursor = CPoint(40, 50);
+    graph.m_CursorTool.m_ptLastCursor = CPoint(40, 50);
     Clean();
     Mouse(WM_RBUTTONUP, CPoint(100, 100));
-    EXPECT_EQ(graph.m_ptLastCursor, CPoint(40, 50));
+    EXPECT_EQ(graph.m_CursorTool.m_ptLastCursor, CPoint(40, 50));
     EXPECT_FALSE(IsDirty());
     graph.Cursor();
-    graph.m_ptLastCursor = CPoint(40, 50);
+    graph.m_CursorTool.m_ptLastCursor = CPoint(40, 50);
     Clean();
     Mouse(WM_RBUTTONUP, CPoint(100, 100));
-    EXPECT_EQ(graph.m_ptLastCursor, CPoint(-1, -1));
+    EXPECT_EQ(graph.m_CursorTool.m_ptLastCursor, CPoint(-1, -1));
     EXPECT_TRUE(IsDirty());
     EXPECT_EQ(Heard().back(), static_cast<UINT>(XG_RBUTTONUP));
 }
@@ -111,7 +111,7 @@ TEST_F(InteractionDetail, APressTakesAHiddenObjectThatAClickDoesNotSelect)
     Mouse(WM_MOUSEMOVE, at);
     EXPECT_FALSE(graph.m_bOverObject);
     Mouse(WM_LBUTTONDOWN, at, MK_LBUTTON);
-    EXPECT_EQ(graph.m_pCurrentObject, label);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pCurrentObject, label);
     Mouse(WM_LBUTTONUP, at);
     EXPECT_FALSE(label->m_bSelected);
     EXPECT_FALSE(label->m_bSizing);

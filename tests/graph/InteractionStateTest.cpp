@@ -83,7 +83,7 @@ TEST_F(InteractionState, AGraphWithoutAWindowTellsNobody)
     graph.DestroyWindow();
     Heard();
     graph.ZoomBack();
-    graph.ApplyZoomRect();
+    graph.m_ZoomBand.ApplyZoomRect();
     graph.Cursor();
     graph.PanBy(CPoint(10, 10));
     MSG message;
@@ -95,13 +95,13 @@ TEST_F(InteractionState, EnteringTheCursorsStatePlacesItsBoxAndHidesIt)
 {
     graph.m_nForcedSnapCurve = 0;
     graph.m_CursorLabel.m_bVisible = true;
-    graph.m_ptLastCursor = CPoint(5, 5);
+    graph.m_CursorTool.m_ptLastCursor = CPoint(5, 5);
     Send(40011);
     const CRect inner = graph.m_rcInner;
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject,
               CRect(inner.left + 1, inner.top, inner.left + 150, inner.top + 50));
     EXPECT_FALSE(graph.m_CursorLabel.m_bVisible);
-    EXPECT_EQ(graph.m_ptLastCursor, CPoint(-1, -1));
+    EXPECT_EQ(graph.m_CursorTool.m_ptLastCursor, CPoint(-1, -1));
     EXPECT_EQ(graph.m_nCursorCurve, 0);
     graph.m_CursorLabel.m_rcObject = CRect(1, 2, 3, 4);
     graph.m_nCursorFlags = XGC_HORIZ;
@@ -125,12 +125,12 @@ TEST_F(InteractionState, TheCursorsBoxIsHiddenByNoOpZoomPanAndResetAlone)
 
 TEST_F(InteractionState, ZoomAndMeasureEmptyTheirRectangles)
 {
-    graph.m_rcZoom = graph.m_rcMeasure = CRect(1, 2, 30, 40);
+    graph.m_ZoomBand.m_rcZoom = graph.m_MeasureTool.m_rcMeasure = CRect(1, 2, 30, 40);
     Send(40002);
-    EXPECT_EQ(graph.m_rcZoom, CRect(0, 0, 0, 0));
-    EXPECT_EQ(graph.m_rcMeasure, CRect(1, 2, 30, 40));
+    EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(0, 0, 0, 0));
+    EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(1, 2, 30, 40));
     Send(40015);
-    EXPECT_EQ(graph.m_rcMeasure, CRect(0, 0, 0, 0));
+    EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(0, 0, 0, 0));
 }
 
 TEST_F(InteractionState, ABandThatIsTooSmallStaysAndOneThatZoomsIsEmptied)
@@ -141,9 +141,9 @@ TEST_F(InteractionState, ABandThatIsTooSmallStaysAndOneThatZoomsIsEmptied)
         Press(from);
         DragTo(from + size);
         Paint();
-        EXPECT_EQ(graph.m_rcZoom, CRect(from, size));
+        EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(from, size));
         Release(from + size);
-        EXPECT_EQ(graph.m_rcZoom, size.cx == 14 ? CRect(from, size) : CRect(0, 0, 0, 0));
+        EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, size.cx == 14 ? CRect(from, size) : CRect(0, 0, 0, 0));
     }
 }
 
@@ -175,8 +175,8 @@ TEST_F(InteractionState, AnAxisThatShowsNoSpanKeepsItsHistoryShort)
     flat.m_bAutoScale = false;
     Paint();
     flat.m_fCurMin = flat.m_fCurMax = 5;
-    graph.m_rcZoom = CRect(At(2, 8), At(6, 3));
-    graph.ApplyZoomRect();
+    graph.m_ZoomBand.m_rcZoom = CRect(At(2, 8), At(6, 3));
+    graph.m_ZoomBand.ApplyZoomRect();
     EXPECT_TRUE(flat.m_ZoomHistory.empty());
     EXPECT_EQ(graph.m_YAxes[0].m_ZoomHistory.size(), 1u);
     graph.ZoomBack();
@@ -189,8 +189,8 @@ TEST_F(InteractionState, AnAxisBeyondNumbersIsNotZoomed)
     CXGraphAxis& x = graph.m_XAxes[0];
     x.m_fCurMin = -1.7e308;
     x.m_fCurMax = 1.7e308;
-    graph.m_rcZoom = CRect(100, 50, 200, 150);
-    graph.ApplyZoomRect();
+    graph.m_ZoomBand.m_rcZoom = CRect(100, 50, 200, 150);
+    graph.m_ZoomBand.ApplyZoomRect();
     EXPECT_TRUE(std::isfinite(x.m_fCurMin) && std::isfinite(x.m_fCurMax));
 }
 
@@ -288,7 +288,7 @@ TEST_F(InteractionState, ANoteIsFramedAndKeepsItsPlace)
     const CPoint at = place.CenterPoint();
     Click(at);
     EXPECT_TRUE(note->m_bSizing);
-    EXPECT_EQ(graph.m_pTracker, &note->m_Tracker);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pTracker, &note->m_Tracker);
     ::PostMessageW(graph.m_hWnd, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x + 30, at.y + 20));
     ::PostMessageW(graph.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(at.x + 30, at.y + 20));
     Press(at);
@@ -301,11 +301,11 @@ TEST_F(InteractionState, TheObjectPressedLastIsTheLastOneUnderTheMouse)
     CXGraphLabel* below = graph.InsertLabel(CRect(80, 40, 180, 110), L"below");
     CXGraphLabel* above = graph.InsertLabel(CRect(100, 50, 160, 90), L"above");
     Press(CPoint(120, 60));
-    EXPECT_EQ(graph.m_pCurrentObject, above);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pCurrentObject, above);
     Press(CPoint(90, 45));
-    EXPECT_EQ(graph.m_pCurrentObject, below);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pCurrentObject, below);
     Press(CPoint(300, 200));
-    EXPECT_EQ(graph.m_pCurrentObject, nullptr);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pCurrentObject, nullptr);
     Release(CPoint(300, 200));
 }
 
@@ -313,9 +313,9 @@ TEST_F(InteractionState, ADoubleClickDropsTheFrameForTheEditor)
 {
     CXGraphLabel* label = graph.InsertLabel(CRect(80, 40, 180, 110), L"text");
     Click(CPoint(120, 60));
-    EXPECT_EQ(graph.m_pTracker, &label->m_Tracker);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pTracker, &label->m_Tracker);
     Mouse(WM_LBUTTONDBLCLK, CPoint(120, 60), MK_LBUTTON);
-    EXPECT_EQ(graph.m_pTracker, nullptr);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pTracker, nullptr);
     EXPECT_TRUE(label->m_bEditing);
     EXPECT_FALSE(label->m_bSizing);
     Click(CPoint(300, 200));

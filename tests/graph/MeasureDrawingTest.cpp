@@ -9,7 +9,7 @@ TEST_F(GraphMeasure, TheBackgroundStaysTransparentAndItsColourIsPutBack)
     dc.Attach(::CreateCompatibleDC(nullptr));
     dc.SetBkMode(OPAQUE);
     dc.SetBkColor(0x123456);
-    graph.DrawMeasures(&dc);
+    graph.m_MeasureTool.DrawMeasures(&dc);
     EXPECT_EQ(dc.GetBkMode(), TRANSPARENT);
     EXPECT_EQ(dc.GetBkColor(), 0x123456u);
 }
@@ -66,7 +66,7 @@ TEST_F(GraphMeasure, ASpanOfExactlyTheTextsSizeShowsNoText)
         CDCEx dc;
         dc.Attach(hDC);
         CRect rc(100, 100, 100 + nWidth, 100 + nHeight);
-        graph.DrawMeasure(&dc, rc);
+        graph.m_MeasureTool.DrawMeasure(&dc, rc);
         dc.Detach();
         return TextsOf(::CloseEnhMetaFile(hDC));
     };
@@ -83,7 +83,7 @@ TEST_F(GraphMeasure, HiddenCurvesAreNearToo)
     graph.SetData(points.data(), 2, 2, 0, 0, true);
     graph.GetYAxis(0)->SetRange(0, 10);
     CPoint point = graph.m_ptLButtonDown = CPoint(Column(5), Row(7.5));
-    graph.FindNearestPoint(point);
-    EXPECT_EQ(graph.m_LiveMeasure.nCurve1, 1);
+    graph.m_MeasureTool.FindNearestPoint(point);
+    EXPECT_EQ(graph.m_MeasureTool.m_LiveMeasure.nCurve1, 1);
     EXPECT_EQ(point.y, Row(8));
 }

@@ -39,7 +39,7 @@ protected:
     {
         graph.m_Measures.push_back({nCurve1, nIndex1, nCurve2, nIndex2});
         graph.m_nCursorCurve = nCurve1;
-        graph.m_nMeasureCurve2 = nCurve2;
+        graph.m_MeasureTool.m_nMeasureCurve2 = nCurve2;
     }
     int Row(double fValue) { return graph.GetYAxis(0)->GetPointForValue({0, fValue}).y; }
     int Column(double fValue) { return graph.GetXAxis(0)->GetPointForValue({fValue, 0}).x; }

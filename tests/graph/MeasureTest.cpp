@@ -20,18 +20,18 @@ TEST_F(GraphMeasure, TheNearestPointInYIsTakenWhateverItsDistance)
 {
     graph.m_ptLButtonDown = CPoint(Column(3) + 1, Row(9.9));
     CPoint point = graph.m_ptLButtonDown;
-    graph.FindNearestPoint(point);
+    graph.m_MeasureTool.FindNearestPoint(point);
     EXPECT_EQ(point, CPoint(Column(3) + 1, Row(8)));
     EXPECT_EQ(graph.m_nCursorCurve, 1);
-    EXPECT_EQ(graph.m_LiveMeasure.nCurve1, 1);
-    EXPECT_NEAR(graph.m_LiveMeasure.nIndex1, 31, 1);
+    EXPECT_EQ(graph.m_MeasureTool.m_LiveMeasure.nCurve1, 1);
+    EXPECT_NEAR(graph.m_MeasureTool.m_LiveMeasure.nIndex1, 31, 1);
     point = CPoint(Column(7) + 1, Row(0.1));
-    graph.FindNearestPoint(point);
+    graph.m_MeasureTool.FindNearestPoint(point);
     EXPECT_EQ(point, CPoint(Column(7) + 1, Row(2)));
     EXPECT_EQ(graph.m_nCursorCurve, 1);
-    EXPECT_EQ(graph.m_nMeasureCurve2, 0);
-    EXPECT_EQ(graph.m_LiveMeasure.nCurve2, 0);
-    EXPECT_NEAR(graph.m_LiveMeasure.nIndex2, 71, 1);
+    EXPECT_EQ(graph.m_MeasureTool.m_nMeasureCurve2, 0);
+    EXPECT_EQ(graph.m_MeasureTool.m_LiveMeasure.nCurve2, 0);
+    EXPECT_NEAR(graph.m_MeasureTool.m_LiveMeasure.nIndex2, 71, 1);
 }
 
 TEST_F(GraphMeasure, TheEarlierOfTwoCurvesAtOnePixelWins)
@@ -39,15 +39,15 @@ TEST_F(GraphMeasure, TheEarlierOfTwoCurvesAtOnePixelWins)
     AddLevel(8);
     graph.GetYAxis(0)->SetRange(0, 10);
     CPoint point = graph.m_ptLButtonDown = CPoint(Column(5), Row(9));
-    graph.FindNearestPoint(point);
-    EXPECT_EQ(graph.m_LiveMeasure.nCurve1, 1);
+    graph.m_MeasureTool.FindNearestPoint(point);
+    EXPECT_EQ(graph.m_MeasureTool.m_LiveMeasure.nCurve1, 1);
 }
 
 TEST_F(GraphMeasure, WithoutCurvesAPointStaysWhereItIs)
 {
     graph.ResetAll();
     CPoint point(50, 60);
-    graph.FindNearestPoint(point);
+    graph.m_MeasureTool.FindNearestPoint(point);
     EXPECT_EQ(point, CPoint(50, 60));
 }
 
@@ -63,7 +63,7 @@ TEST_F(GraphMeasure, ADragStoresASpanFromPointToPoint)
     const TMeasureSpan span = graph.m_Measures[0];
     EXPECT_EQ(span.nCurve1, 1);
     EXPECT_EQ(span.nCurve2, 0);
-    EXPECT_EQ(span.nIndex2, graph.m_LiveMeasure.nIndex2);
+    EXPECT_EQ(span.nIndex2, graph.m_MeasureTool.m_LiveMeasure.nIndex2);
     EXPECT_LT(span.nIndex1, span.nIndex2);
     EXPECT_FALSE(graph.m_bLButtonDown);
 }
@@ -76,7 +76,7 @@ TEST_F(GraphMeasure, APlainClickStoresASpanToo)
     ASSERT_EQ(graph.m_Measures.size(), 1u);
     EXPECT_EQ(graph.m_Measures[0].nIndex1, graph.m_Measures[0].nIndex2);
     // Right on the curve the release is the press again, and the second end that of the last span.
-    graph.m_LiveMeasure.nIndex2 = 77;
+    graph.m_MeasureTool.m_LiveMeasure.nIndex2 = 77;
     Press(Column(4) + 1, Row(8));
     Release(Column(4) + 1, Row(8));
     ASSERT_EQ(graph.m_Measures.size(), 2u);
@@ -118,7 +118,7 @@ TEST_F(GraphMeasure, StoredSpansAreLabelledByThePairOfTheLatestDrag)
     EXPECT_TRUE(Texts(L'y').empty()); // the span has no height
     graph.m_Measures[0] = {0, 20, 1, 70};
     EXPECT_EQ(Texts(L'y'), std::vector<std::wstring>{L"y0.000 unit"});
-    graph.m_nMeasureCurve2 = 1;
+    graph.m_MeasureTool.m_nMeasureCurve2 = 1;
     EXPECT_EQ(Texts(L'y'), std::vector<std::wstring>{L"y6.000 unit"});
 }
 
@@ -176,11 +176,11 @@ TEST_F(GraphMeasure, TheLiveSpanIsDrawnWhileTheButtonIsHeld)
     Drag(Column(6), Row(2));
     const Picture live = Shoot();
     EXPECT_GT(live.Count(kRed), 100);
-    EXPECT_EQ(graph.m_rcMeasure, CRect(Column(2) + 1, Row(8), Column(6), Row(2)));
+    EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(Column(2) + 1, Row(8), Column(6), Row(2)));
     EXPECT_EQ(Texts(L'y'), std::vector<std::wstring>{L"y6.000 unit"});
     Drag(graph.m_rcInner.right + 50, Row(2));
     Paint();
-    EXPECT_EQ(graph.m_rcMeasure.right, graph.m_rcInner.right);
+    EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure.right, graph.m_rcInner.right);
 }
 
 TEST_F(GraphMeasure, WithoutABufferTheLiveSpanIsDrawnAtOnce)

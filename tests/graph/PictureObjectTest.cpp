@@ -114,7 +114,7 @@ TEST_F(PictureObject, AClickSelectsItAndADragMovesIt)
     graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(120, 70));
     graph.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(120, 70));
     EXPECT_TRUE(picture->m_bSizing);
-    EXPECT_EQ(graph.m_pTracker, &picture->m_Tracker);
+    EXPECT_EQ(graph.m_ObjectTracker.m_pTracker, &picture->m_Tracker);
     EXPECT_EQ(picture->m_Tracker.m_rect, picture->m_rcObject);
 }
 

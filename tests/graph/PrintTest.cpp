@@ -273,10 +273,10 @@ TEST_F(GraphPrint, APageHasTheCursorWhereverTheWindowDrewItLast)
     Paint();
     Send(WM_MOUSEMOVE, 0, 200, 100);
     Page untouched;
-    graph.m_ptLastCursor = CPoint(-1, -1);
+    graph.m_CursorTool.m_ptLastCursor = CPoint(-1, -1);
     untouched.Show(graph);
     for (const CPoint& last : {CPoint(200, 100), CPoint(60, 60), graph.m_ptCurrent}) {
-        graph.m_ptLastCursor = last;
+        graph.m_CursorTool.m_ptLastCursor = last;
         Page page;
         page.Show(graph);
         EXPECT_EQ(page.CountDifferences(untouched), 0) << last.x << ", " << last.y;
@@ -296,14 +296,14 @@ TEST_F(GraphPrint, APageLeavesTheCursorAsItWas)
     graph.Cursor();
     graph.m_ptCurrent = CPoint(123, 77);
     graph.m_nCursorCurve = -1;
-    graph.m_fCursorX = 1.5;
-    graph.m_fCursorY = 2.5;
+    graph.m_CursorTool.m_fCursorX = 1.5;
+    graph.m_CursorTool.m_fCursorY = 2.5;
     Page page;
     page.Show(graph);
     EXPECT_EQ(graph.m_ptCurrent, CPoint(123, 77));
     EXPECT_EQ(graph.m_nCursorCurve, -1);
-    EXPECT_EQ(graph.m_fCursorX, 1.5);
-    EXPECT_EQ(graph.m_fCursorY, 2.5);
+    EXPECT_EQ(graph.m_CursorTool.m_fCursorX, 1.5);
+    EXPECT_EQ(graph.m_CursorTool.m_fCursorY, 2.5);
 }
 
 TEST_F(GraphPrint, APageShowsWhatTheOperationHolds)

@@ -1,6 +1,5 @@
 // The operation that the mouse and the keys work on, and the ways into each.
 
-#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 void CXGraph::NoOp()
@@ -13,7 +12,7 @@ void CXGraph::NoOp()
 void CXGraph::Zoom()
 {
     m_CursorLabel.m_bVisible = false;
-    m_rcZoom.SetRectEmpty();
+    m_ZoomBand.Clear();
     m_opOperation = opZoom;
     Invalidate();
 }
@@ -33,11 +32,7 @@ void CXGraph::Cursor()
 {
     Pan();
     m_opOperation = opCursor;
-    m_ptLastCursor = CPoint(-1, -1);
-    m_nCursorCurve = m_nForcedSnapCurve;
-    if ((m_nCursorFlags & XGC_LEGEND) != 0)
-        m_CursorLabel.m_rcObject.SetRect(WrapAdd(m_rcInner.left, 1), m_rcInner.top,
-                                         WrapAdd(m_rcInner.left, 150), WrapAdd(m_rcInner.top, 50));
+    m_CursorTool.Enter();
 }
 
 void CXGraph::Edit()
@@ -49,6 +44,6 @@ void CXGraph::Edit()
 void CXGraph::Measure()
 {
     m_opOperation = opMeasure;
-    m_rcMeasure.SetRectEmpty();
+    m_MeasureTool.Clear();
     Invalidate();
 }

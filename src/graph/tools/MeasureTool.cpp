@@ -1,4 +1,4 @@
-// Measures: the span between two curve points, with its differences in x and y.
+#include "graph/tools/MeasureTool.h"
 
 #include "draw/DCEx.h"
 #include "draw/QuickFont.h"
@@ -31,24 +31,24 @@ long long Distance(int from, int to)
 }
 } // namespace
 
-void CXGraph::FindNearestPoint(CPoint& point)
+void CMeasureTool::FindNearestPoint(CPoint& point)
 {
     long long best = FarAway;
     int nearest = point.y;
-    const int count = static_cast<int>(m_Curves.size());
+    const int count = static_cast<int>(m_Graph.m_Curves.size());
     for (int nCurve = 0; nCurve < count; ++nCurve) {
-        CXGraphDataSerie& curve = CurveAt(nCurve);
-        const double x = PointSearch::ValueAtColumn(*this, nCurve, point.x);
-        const int index = PointSearch::Index(*this, nCurve, x);
+        CXGraphDataSerie& curve = m_Graph.CurveAt(nCurve);
+        const double x = PointSearch::ValueAtColumn(m_Graph, nCurve, point.x);
+        const int index = PointSearch::Index(m_Graph, nCurve, x);
         if (index < 0)
             continue;
-        const int y = YAxisOf(curve).GetPointForValue(curve.m_pData[index]).y;
+        const int y = m_Graph.YAxisOf(curve).GetPointForValue(curve.m_pData[index]).y;
         if (Distance(point.y, y) >= best)
             continue;
         best = Distance(point.y, y);
         nearest = y;
-        if (point == m_ptLButtonDown) {
-            m_nCursorCurve = nCurve;
+        if (point == m_Graph.m_ptLButtonDown) {
+            m_Graph.m_nCursorCurve = nCurve;
             m_LiveMeasure.nCurve1 = nCurve;
             m_LiveMeasure.nIndex1 = index;
         } else {
@@ -60,11 +60,27 @@ void CXGraph::FindNearestPoint(CPoint& point)
     point.y = nearest;
 }
 
-void CXGraph::DrawMeasures(CDCEx* pDC)
+void CMeasureTool::Clear()
+{
+    m_rcMeasure.SetRectEmpty();
+}
+
+void CMeasureTool::Keep()
+{
+    m_Graph.m_Measures.push_back(m_LiveMeasure);
+}
+
+void CMeasureTool::DrawLive(CDCEx* pDC)
+{
+    CRect rcLive(0, 0, 0, 0);
+    DrawMeasure(pDC, rcLive);
+}
+
+void CMeasureTool::DrawMeasures(CDCEx* pDC)
 {
     // By value and index: a stored span names its ends by numbers that may be stale.
-    for (std::size_t k = 0; k < m_Measures.size(); ++k) {
-        const TMeasureSpan span = m_Measures[k];
+    for (std::size_t k = 0; k < m_Graph.m_Measures.size(); ++k) {
+        const TMeasureSpan span = m_Graph.m_Measures[k];
         const CPoint from = PointOfCurve(span.nCurve1, span.nIndex1);
         const CPoint to = PointOfCurve(span.nCurve2, span.nIndex2);
         CRect rc(from.x, from.y, to.x, to.y);
@@ -72,21 +88,22 @@ void CXGraph::DrawMeasures(CDCEx* pDC)
     }
 }
 
-CPoint CXGraph::PointOfCurve(int nCurve, int nIndex)
+CPoint CMeasureTool::PointOfCurve(int nCurve, int nIndex)
 {
-    CXGraphDataSerie& curve = CurveAt(nCurve);
+    CXGraphDataSerie& curve = m_Graph.CurveAt(nCurve);
     if (curve.m_nCount < 1)
-        return {m_rcInner.left, m_rcInner.bottom};
+        return {m_Graph.m_rcInner.left, m_Graph.m_rcInner.bottom};
     const TDataPoint& point = curve.m_pData[std::clamp(nIndex, 0, curve.m_nCount - 1)];
-    return {XAxisOf(curve).GetPointForValue(point).x, YAxisOf(curve).GetPointForValue(point).y};
+    return {m_Graph.XAxisOf(curve).GetPointForValue(point).x,
+            m_Graph.YAxisOf(curve).GetPointForValue(point).y};
 }
 
-void CXGraph::DrawMeasure(CDCEx* pDC, CRect& rc)
+void CMeasureTool::DrawMeasure(CDCEx* pDC, CRect& rc)
 {
     CQuickFont font(L"Arial", -11, FW_BOLD);
     const CFontSelector selectFont(&font, pDC, true);
-    const COLORREF background = pDC->SetBkColor(m_crInnerColor);
-    if (rc.IsRectEmpty() && m_opOperation == opMeasure)
+    const COLORREF background = pDC->SetBkColor(m_Graph.m_crInnerColor);
+    if (rc.IsRectEmpty() && m_Graph.m_opOperation == opMeasure)
         rc = m_rcMeasure = LiveMeasureRect();
 
     DrawMeasureLines(pDC, rc);
@@ -96,20 +113,22 @@ void CXGraph::DrawMeasure(CDCEx* pDC, CRect& rc)
     pDC->SetBkColor(background);
 }
 
-CRect CXGraph::LiveMeasureRect() const
+CRect CMeasureTool::LiveMeasureRect() const
 {
-    return CRect(std::max(m_ptLButtonDown.x, m_rcInner.left), std::max(m_ptLButtonDown.y, m_rcInner.top),
-                 std::min(m_ptCurrent.x, m_rcInner.right), std::min(m_ptCurrent.y, m_rcInner.bottom));
+    return CRect(std::max(m_Graph.m_ptLButtonDown.x, m_Graph.m_rcInner.left),
+                 std::max(m_Graph.m_ptLButtonDown.y, m_Graph.m_rcInner.top),
+                 std::min(m_Graph.m_ptCurrent.x, m_Graph.m_rcInner.right),
+                 std::min(m_Graph.m_ptCurrent.y, m_Graph.m_rcInner.bottom));
 }
 
-void CXGraph::DrawMeasureLines(CDCEx* pDC, const CRect& rc)
+void CMeasureTool::DrawMeasureLines(CDCEx* pDC, const CRect& rc)
 {
     {
         CPenSelector pen(GuideColor, 1, pDC, PS_DOT);
-        pDC->MoveTo(m_rcInner.left, rc.top);
-        pDC->LineTo(m_rcInner.right, rc.top);
-        pDC->MoveTo(rc.right, m_rcInner.top);
-        pDC->LineTo(rc.right, m_rcInner.bottom);
+        pDC->MoveTo(m_Graph.m_rcInner.left, rc.top);
+        pDC->LineTo(m_Graph.m_rcInner.right, rc.top);
+        pDC->MoveTo(rc.right, m_Graph.m_rcInner.top);
+        pDC->LineTo(rc.right, m_Graph.m_rcInner.bottom);
     }
     CPenSelector pen(ElbowColor, 1, pDC, PS_DOT);
     pDC->MoveTo(rc.left, rc.top);
@@ -117,7 +136,7 @@ void CXGraph::DrawMeasureLines(CDCEx* pDC, const CRect& rc)
     pDC->LineTo(rc.right, rc.bottom);
 }
 
-void CXGraph::DrawMeasureArrows(CDCEx* pDC, const CRect& rc)
+void CMeasureTool::DrawMeasureArrows(CDCEx* pDC, const CRect& rc)
 {
     const LONG left = Reachable(rc.left);
     const LONG top = Reachable(rc.top);
@@ -134,19 +153,19 @@ void CXGraph::DrawMeasureArrows(CDCEx* pDC, const CRect& rc)
 }
 
 // Placed by the span's own ends, but read off the curves of the latest drag.
-void CXGraph::DrawMeasureTexts(CDCEx* pDC, CRect rc)
+void CMeasureTool::DrawMeasureTexts(CDCEx* pDC, CRect rc)
 {
-    const CXGraphDataSerie& first = CurveAt(m_nCursorCurve);
-    const CXGraphDataSerie& second = CurveAt(m_nMeasureCurve2);
-    const double fromX = XAxisOf(first).GetValueForPos(rc.left);
-    const double toX = XAxisOf(second).GetValueForPos(rc.right);
-    const CString textX = XAxisOf(first).FormatValue(toX - fromX);
+    const CXGraphDataSerie& first = m_Graph.CurveAt(m_Graph.m_nCursorCurve);
+    const CXGraphDataSerie& second = m_Graph.CurveAt(m_nMeasureCurve2);
+    const double fromX = m_Graph.XAxisOf(first).GetValueForPos(rc.left);
+    const double toX = m_Graph.XAxisOf(second).GetValueForPos(rc.right);
+    const CString textX = m_Graph.XAxisOf(first).FormatValue(toX - fromX);
     if (Distance(rc.left, rc.right) > pDC->GetTextExtent(textX).cx)
         pDC->DrawText(textX, &rc, DT_CENTER | DT_SINGLELINE | DT_NOCLIP);
 
-    const double fromY = PointSearch::Y(*this, m_nCursorCurve, fromX);
-    const double toY = PointSearch::Y(*this, m_nMeasureCurve2, toX);
-    const CXGraphAxis& axis = YAxisOf(first);
+    const double fromY = PointSearch::Y(m_Graph, m_Graph.m_nCursorCurve, fromX);
+    const double toY = PointSearch::Y(m_Graph, m_nMeasureCurve2, toX);
+    const CXGraphAxis& axis = m_Graph.YAxisOf(first);
     const CString textY =
         AfxFormatNumber(axis.m_cDisplayFmt, std::fabs(toY - fromY)) + L" " + axis.m_cLabel;
     if (Distance(rc.top, rc.bottom) > pDC->GetTextExtent(textY).cy)

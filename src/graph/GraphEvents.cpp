@@ -1,8 +1,7 @@
-// What the mouse does, by the operation.
+// What the mouse and the keys do, by the operation.
 
 #include "draw/WindowCanvas.h"
 #include "framework/windowing/DeviceContexts.h"
-#include "graph/FrameLayout.h"
 #include "graph/XGraph.h"
 
 namespace
@@ -37,56 +36,12 @@ void CXGraph::OnLButtonDown(UINT, CPoint point)
     SetCapture();
     m_ptLButtonDown = point;
     if (m_opOperation == opMeasure) {
-        FindNearestPoint(point);
+        m_MeasureTool.FindNearestPoint(point);
         m_ptLButtonDown = point;
     }
     m_bLButtonDown = true;
-    m_pCurrentObject = nullptr;
-    PressObjects(point);
+    m_ObjectTracker.Press(point);
     Default();
-}
-
-void CXGraph::PressObjects(CPoint point)
-{
-    for (const TObjectRef& entry : ListObjects()) {
-        // While an earlier one was tracked, messages ran and may have removed this one.
-        if (!Owns(entry))
-            continue;
-        CXGraphObject* object = entry.pObject;
-        if (object->m_rcObject.PtInRect(point))
-            m_pCurrentObject = object;
-        if (object->m_bSizing && object->m_Tracker.HitTest(point) != CRectTracker::hitNothing)
-            TrackObject(object, point);
-    }
-}
-
-void CXGraph::TrackObject(CXGraphObject* object, CPoint point)
-{
-    const TObjectRef self(object);
-    ReleaseCapture();
-    // Messages run while it drags, and may remove the object: a copy of its tracker drags.
-    CRectTracker tracker = object->m_Tracker;
-    const bool moved = tracker.Track(this, point, FALSE, nullptr) != FALSE;
-    if (!moved || !Owns(self))
-        return;
-    object->m_Tracker = tracker;
-    if (object->m_bCanMove && object->m_bCanResize) {
-        object->m_rcObject = tracker.m_rect;
-        Invalidate(FALSE);
-    }
-}
-
-std::vector<TObjectRef> CXGraph::ListObjects() const
-{
-    std::vector<TObjectRef> objects;
-    for (POSITION place = m_Objects.GetHeadPosition(); place != nullptr;)
-        objects.emplace_back(static_cast<CXGraphObject*>(m_Objects.GetNext(place)));
-    return objects;
-}
-
-bool CXGraph::Owns(const TObjectRef& entry) const
-{
-    return m_Objects.Find(entry.pObject) != nullptr && entry.pObject->m_nIdentity == entry.nIdentity;
 }
 
 void CXGraph::OnLButtonUp(UINT, CPoint point)
@@ -99,15 +54,15 @@ void CXGraph::OnLButtonUp(UINT, CPoint point)
     m_bLButtonDown = false;
     switch (m_opOperation) {
     case opMeasure:
-        FindNearestPoint(point);
-        m_Measures.push_back(m_LiveMeasure);
+        m_MeasureTool.FindNearestPoint(point);
+        m_MeasureTool.Keep();
         break;
     case opCursor:
         HitTest(false, false);
-        PinNotation();
+        m_CursorTool.Pin();
         break;
     case opZoom:
-        ApplyZoomRect();
+        m_ZoomBand.ApplyZoomRect();
         break;
     case opNone:
     case opEditCurve:
@@ -123,7 +78,7 @@ void CXGraph::OnLButtonUp(UINT, CPoint point)
 void CXGraph::OnLButtonDblClk(UINT, CPoint)
 {
     if (m_opOperation == opNone) {
-        m_pTracker = nullptr;
+        m_ObjectTracker.DropFrame();
         HitTest(true, false);
     }
     Default();
@@ -140,12 +95,10 @@ void CXGraph::OnRButtonUp(UINT, CPoint point)
     HitTest(false, false);
     m_bRButtonDown = false;
     if (m_opOperation == opCursor) {
-        m_ptLastCursor = CPoint(-1, -1);
+        m_CursorTool.Forget();
         Invalidate();
     }
-    if (m_pCurrentObject != nullptr && m_pCurrentObject->m_rcObject.PtInRect(point))
-        m_pCurrentObject->InvokeProperties();
-    else
+    if (!m_ObjectTracker.ShowProperties(point))
         NotifyOfWindow(XG_RBUTTONUP);
     Default();
 }
@@ -154,24 +107,13 @@ void CXGraph::OnMouseMove(UINT nFlags, CPoint point)
 {
     m_bLButtonDown = (nFlags & MK_LBUTTON) != 0;
     if (m_opOperation == opMeasure && m_bLButtonDown)
-        FindNearestPoint(point);
+        m_MeasureTool.FindNearestPoint(point);
     m_ptCurrent = point;
     if (m_opOperation == opCursor)
-        MoveCursor();
+        m_CursorTool.Move();
     m_bOverObject = HitTest(false, m_opOperation != opEditCurve);
     DragTo(point);
     Default();
-}
-
-void CXGraph::MoveCursor()
-{
-    m_bTmpDC = true;
-    {
-        CWindowCanvas canvas(m_hWnd);
-        DrawCursor(canvas.Get());
-    }
-    m_bTmpDC = false;
-    NotifyOfWindow(XG_CURSORMOVED);
 }
 
 void CXGraph::DragTo(CPoint point)
@@ -187,24 +129,21 @@ void CXGraph::DragTo(CPoint point)
     if (!m_bLButtonDown || (m_opOperation != opZoom && m_opOperation != opMeasure) || m_hWnd == nullptr)
         return;
     if (m_bDoubleBuffer) {
-        // The frame may come after the release, which needs the band.
         if (m_opOperation == opZoom)
-            m_rcZoom = FrameLayout::Band(m_ptLButtonDown, m_ptCurrent, m_rcInner);
+            m_ZoomBand.Follow();
         Invalidate();
         return;
     }
     CWindowCanvas canvas(m_hWnd);
-    if (m_opOperation == opZoom) {
-        DrawZoomRect(canvas.Get());
-    } else {
-        CRect live(0, 0, 0, 0);
-        DrawMeasure(canvas.Get(), live);
-    }
+    if (m_opOperation == opZoom)
+        m_ZoomBand.DrawZoomRect(canvas.Get());
+    else
+        m_MeasureTool.DrawLive(canvas.Get());
 }
 
 BOOL CXGraph::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT)
 {
-    if (m_pTracker != nullptr && m_pTracker->SetCursor(pWnd, nHitTest))
+    if (m_ObjectTracker.SetPointer(pWnd, nHitTest))
         return TRUE;
     LPCWSTR shape = nullptr;
     if (m_opOperation == opPan)
@@ -221,4 +160,53 @@ BOOL CXGraph::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT)
         return static_cast<BOOL>(Default());
     ::SetCursor(cursor);
     return TRUE;
+}
+
+void CXGraph::MoveCursorBy(int x, int y)
+{
+    m_ptCurrent = m_ptCurrent + CSize(x, y);
+}
+
+void CXGraph::OnKeyUp(UINT nChar, UINT, UINT)
+{
+    const bool cursor = m_opOperation == opCursor;
+    switch (nChar) {
+    case VK_HOME:
+        ResetRanges(m_XAxes);
+        ResetRanges(m_YAxes);
+        break;
+    case VK_ADD:
+        ShiftRanges(m_XAxes, 1, -1);
+        ShiftRanges(m_YAxes, 1, -1);
+        break;
+    case VK_SUBTRACT:
+        ShiftRanges(m_XAxes, -1, 1);
+        ShiftRanges(m_YAxes, -1, 1);
+        break;
+    case VK_LEFT:
+        cursor ? MoveCursorBy(-1, 0) : ShiftRanges(m_XAxes, 1, 1);
+        break;
+    case VK_RIGHT:
+        cursor ? MoveCursorBy(1, 0) : ShiftRanges(m_XAxes, -1, -1);
+        break;
+    case VK_UP:
+        cursor ? MoveCursorBy(0, -1) : ShiftRanges(m_YAxes, -1, -1);
+        break;
+    case VK_DOWN:
+        cursor ? MoveCursorBy(0, 1) : ShiftRanges(m_YAxes, 1, 1);
+        break;
+    default:
+        Default();
+        return;
+    }
+    Invalidate();
+    Default();
+}
+
+BOOL CXGraph::PreTranslateMessage(MSG* pMsg)
+{
+    const bool key = pMsg->message == WM_KEYDOWN || pMsg->message == WM_KEYUP;
+    if (key && pMsg->wParam == VK_DELETE)
+        m_ObjectTracker.DeleteCurrent();
+    return CWnd::PreTranslateMessage(pMsg);
 }

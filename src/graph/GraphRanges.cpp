@@ -1,29 +1,11 @@
-// Zoom by a rubber band with a history on each axis, and pan. Only visible ranges change.
+// Steps back in the zoom, pan, the wheel and the keys. Only visible ranges change.
 
 #include "graph/XGraph.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace
 {
-constexpr int SmallestBand = 15; // pixels each way; below it a rubber band is dropped
-constexpr double WheelSteps = 10.0;
-
-// The span is assigned as it was drawn, without the rules for equal bounds; a span of nothing is
-// no zoom and leaves no history. Nor is one that has no bounds, on an axis whose range is beyond
-// numbers.
-void ZoomAxis(CXGraphAxis& axis, int nLow, int nHigh)
-{
-    const double low = axis.GetValueForPos(nLow);
-    const double high = axis.GetValueForPos(nHigh);
-    if (high - low == 0.0 || !std::isfinite(low) || !std::isfinite(high))
-        return;
-    axis.m_ZoomHistory.push_back({axis.m_fCurMin, axis.m_fCurMax});
-    axis.m_fCurMin = low;
-    axis.m_fCurMax = high;
-    axis.RecalcStep();
-}
+constexpr double WheelSteps = 10.0; // the wheel moves by this part of what is visible
+constexpr double KeySteps = 10.0;   // and a key by this part of the span that was mapped last
 
 void UndoZoom(CXGraphAxis& axis)
 {
@@ -43,20 +25,6 @@ void PanAxis(CXGraphAxis& axis, int nFrom, int nTo)
 }
 } // namespace
 
-void CXGraph::ApplyZoomRect()
-{
-    if (m_rcZoom.Width() < SmallestBand || m_rcZoom.Height() < SmallestBand)
-        return;
-    for (CXGraphAxis& axis : m_YAxes)
-        ZoomAxis(axis, std::min(m_rcZoom.bottom, m_rcInner.bottom),
-                 std::max(m_rcZoom.top, m_rcInner.top));
-    for (CXGraphAxis& axis : m_XAxes)
-        ZoomAxis(axis, std::max(m_rcZoom.left, m_rcInner.left),
-                 std::min(m_rcZoom.right, m_rcInner.right));
-    Notify(XG_ZOOMCHANGE, 0);
-    m_rcZoom.SetRectEmpty();
-}
-
 void CXGraph::ZoomBack()
 {
     for (CXGraphAxis& axis : m_YAxes)
@@ -64,17 +32,15 @@ void CXGraph::ZoomBack()
     for (CXGraphAxis& axis : m_XAxes)
         UndoZoom(axis);
     Notify(XG_ZOOMCHANGE, 0);
-    m_rcZoom.SetRectEmpty();
+    m_ZoomBand.Clear();
     Invalidate();
 }
 
 void CXGraph::ResetZoom()
 {
     m_CursorLabel.m_bVisible = false;
-    for (CXGraphAxis& axis : m_YAxes)
-        axis.ResetRange();
-    for (CXGraphAxis& axis : m_XAxes)
-        axis.ResetRange();
+    ResetRanges(m_YAxes);
+    ResetRanges(m_XAxes);
     Invalidate();
 }
 
@@ -103,4 +69,18 @@ BOOL CXGraph::OnMouseWheel(UINT nFlags, short zDelta, CPoint)
     }
     Invalidate();
     return TRUE;
+}
+
+void CXGraph::ShiftRanges(CCheckedVector<CXGraphAxis>& axes, double lowSteps, double highSteps)
+{
+    for (CXGraphAxis& axis : axes) {
+        const double step = axis.m_fRange / KeySteps;
+        axis.SetCurrentRange(axis.m_fCurMin + lowSteps * step, axis.m_fCurMax + highSteps * step, 0.0);
+    }
+}
+
+void CXGraph::ResetRanges(CCheckedVector<CXGraphAxis>& axes)
+{
+    for (CXGraphAxis& axis : axes)
+        axis.ResetRange();
 }

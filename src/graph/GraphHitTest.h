@@ -28,11 +28,8 @@ private:
     void DragAxisMarker(CXGraphAxis& axis, std::size_t nMarker, const TAxisClick& kind);
     void ClickAxis(std::size_t nAxis, const TAxisClick& kind);
     [[nodiscard]] bool TestObjects();
-    void ClickObjects();
     [[nodiscard]] bool TestCurves();
     void ClickCurve(std::size_t nCurve);
-    void GrabPoint(std::size_t nCurve);
-    void DragPoint();
     [[nodiscard]] bool TestLegend();
     void DoubleClickLegend(int nRow);
 
