@@ -10,6 +10,7 @@
 #include "AnalysisBench.h"
 #include "Chart2dBench.h"
 #include "CursorBench.h"
+#include "DialogBench.h"
 #include "Floors.h"
 #include "PieBench.h"
 #include "Scene.h"
@@ -138,5 +139,6 @@ int main(int argc, char** argv)
     BenchAnalysis(options.nRuns);
     BenchChart2d(options.nRuns);
     BenchPie(options.nRuns);
+    BenchDialogs(options.nRuns);
     return 0;
 }

@@ -1,11 +1,20 @@
-// Where the graph and its labels, which know no dialog, come in. The property sheet is not a
-// part of the module yet: what would open it has had its effect on the selection and its
-// notification by then, and nothing opens.
+// Where the graph and its labels, which know no dialog, come in.
 
+#include "dialogs/ChartPage.h"
 #include "dialogs/LabelDlg.h"
 #include "graph/XGraph.h"
 
-void ShowChartSheet(CXGraph&, CXGraphAxis*, CXGraphDataSerie*) {}
+void ShowChartSheet(CXGraph& graph, CXGraphAxis* pAxis, CXGraphDataSerie* pCurve)
+{
+    // The sheet is about an axis and a curve: a graph without data has none to show.
+    if (graph.m_Curves.empty() || graph.m_YAxes.empty())
+        return;
+    CChartPage sheet(&graph);
+    sheet.m_pGraph = &graph;
+    sheet.m_pAxis = pAxis;
+    sheet.m_pCurve = pCurve;
+    sheet.DoModal();
+}
 
 void ShowLabelProperties(CXGraphLabel& label)
 {

@@ -1,6 +1,7 @@
 // What clicks on axes, on curves and on nothing do, and what the parent hears of them.
 
 #include "InteractionHost.h"
+#include "support/DialogCloser.h"
 
 namespace
 {
@@ -111,6 +112,7 @@ TEST_F(InteractionClicks, TwoPixelsBesideACurveReachItAndFourDoNot)
 
 TEST_F(InteractionClicks, DoubleClicksHaveNumbersOfTheirOwn)
 {
+    const DialogCloser closer;
     const struct {
         POINT at;
         UINT click;
@@ -126,10 +128,12 @@ TEST_F(InteractionClicks, DoubleClicksHaveNumbersOfTheirOwn)
     // The last click has left no axis selected that would take the next one for a marker.
     DoubleClick(OnNothing());
     EXPECT_EQ(Heards(), std::vector{FromGraph(XG_GRAPHDBLCLICK)});
+    EXPECT_EQ(closer.m_nClosed, 4) << "the sheet came up each time";
 }
 
 TEST_F(InteractionClicks, ADoubleClickOutsideTheNormalStateDoesNothing)
 {
+    const DialogCloser closer;
     for (WPARAM entry :
          {Command::zoom, Command::pan, Command::cursor, Command::edit, Command::measure}) {
         Send(entry);
@@ -138,10 +142,12 @@ TEST_F(InteractionClicks, ADoubleClickOutsideTheNormalStateDoesNothing)
         Mouse(WM_LBUTTONDBLCLK, OnYAxis(), MK_LBUTTON);
         EXPECT_TRUE(Heards().empty()) << entry;
     }
+    EXPECT_EQ(closer.m_nClosed, 0);
 }
 
 TEST_F(InteractionClicks, WithoutInteractionNothingIsToldButTheRightButton)
 {
+    const DialogCloser closer;
     graph->SetInteraction(0);
     for (POINT at : {OnYAxis(), OnXAxis(), OnCurve(), OnNothing()})
         DoubleClick(at);

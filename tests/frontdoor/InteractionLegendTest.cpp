@@ -1,6 +1,7 @@
 // Rows of the legend under the mouse.
 
 #include "InteractionHost.h"
+#include "support/DialogCloser.h"
 
 namespace
 {
@@ -81,12 +82,14 @@ TEST_F(InteractionLegend, AMoveOverARowChangesOnlyTheRowsAboveIt)
 
 TEST_F(InteractionLegend, ADoubleClickOnARowIsNotTold)
 {
+    const DialogCloser closer;
     DoubleClick(Row(1));
     EXPECT_TRUE(Heards().empty());
 }
 
 TEST_F(InteractionLegend, ADoubleClickChoosesTheCurveAtTheRowsNumber)
 {
+    const DialogCloser closer;
     const POINT second = Row(1);
     Curve(0)->SetVisible(0);
     Curve(1)->SetLabel(Text(L"second"));
@@ -102,6 +105,7 @@ TEST_F(InteractionLegend, ADoubleClickChoosesTheCurveAtTheRowsNumber)
 
 TEST_F(InteractionLegend, WithoutInteractionRowsAreDeaf)
 {
+    const DialogCloser closer;
     graph->SetInteraction(0);
     Click(Row(1));
     DoubleClick(Row(1));
@@ -110,6 +114,7 @@ TEST_F(InteractionLegend, WithoutInteractionRowsAreDeaf)
 
 TEST_F(InteractionLegend, RowsOfAFrameBeforeACurveWentHarmNobody)
 {
+    const DialogCloser closer;
     const POINT rows[] = {Row(0), Row(1), Row(2)};
     graph->DeleteCurve(2);
     Clean(); // no frame in between

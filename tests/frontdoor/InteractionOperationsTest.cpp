@@ -1,6 +1,7 @@
 // The states that mouse and keys work in, the ways into each, and the block of commands.
 
 #include "InteractionHost.h"
+#include "support/DialogCloser.h"
 
 namespace
 {
@@ -110,6 +111,7 @@ TEST_F(InteractionOperations, TheLabelCommandPutsAnEmptyLabelInTheMiddle)
 
 TEST_F(InteractionOperations, ThePropertiesCommandActsAsADoubleClickInAnyState)
 {
+    const DialogCloser closer;
     for (WPARAM entry : kEntries) {
         Send(entry);
         graph->SetCursor(Middle(RectOf(YAxis().Get())).x, At(0, 5).y);
@@ -124,15 +126,18 @@ TEST_F(InteractionOperations, ThePropertiesCommandActsAsADoubleClickInAnyState)
     graph->SetCursor(At(5, 5).x, At(5, 5).y);
     Send(Command::properties);
     EXPECT_EQ(Heards(), std::vector{FromGraph(XG_CURVEDBLCLICK)});
+    EXPECT_EQ(closer.m_nClosed, 8);
 }
 
 TEST_F(InteractionOperations, ThePropertiesCommandIsDeafWithoutInteraction)
 {
+    const DialogCloser closer;
     graph->SetInteraction(0);
     graph->SetCursor(At(5, 5).x, At(5, 5).y);
     Send(Command::properties);
     EXPECT_TRUE(Heards().empty());
     EXPECT_FALSE(IsSelected(Curve(0).Get()));
+    EXPECT_EQ(closer.m_nClosed, 0);
 }
 
 TEST_F(InteractionOperations, TrendCommandsWorkOnTheCurveThatAClickSelected)
@@ -149,6 +154,7 @@ TEST_F(InteractionOperations, TrendCommandsWorkOnTheCurveThatAClickSelected)
 
 TEST_F(InteractionOperations, AnyStateMayStandBeforeTheFirstFrameAndWithoutData)
 {
+    const DialogCloser closer;
     graph->ResetAll();
     for (WPARAM entry : kEntries) {
         if (entry == Command::measure)
