@@ -47,6 +47,12 @@ electricity electricity.png --y net_generation --group source --size 1000x600
 need session-{1-band,2-zoomed-twice,3-back,4-panned,5-cursor,6-measures,7-label-edited,8-point-dragged,9-analysis}.png
 ls "$demo"/session-*.png
 
+# Its dialogs.
+(cd "$demo" && "$run" -t 120 "$viewer" "$data/co2-concentration.csv" --x Date --y CO2 \
+  --size 1000x640 --script "$data/../dialogs.txt" >/dev/null)
+need dialog-{1-chart,2-axis,3-curve,4-colours,5-trend,6-average,7-label,8-done}.png
+ls "$demo"/dialog-*.png
+
 # The business chart, still and at a chosen moment of its animations.
 business=(--group source --title "Iowa electricity" --size 1000x500)
 year=(--subtitle "thousand MWh a year")

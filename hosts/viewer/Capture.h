@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <vector>
 
 namespace Viewer
 {
@@ -20,6 +21,10 @@ public:
     // it if it is painted again. Throws Error(NoPicture).
     Capture(HWND window, Paint paint);
 
+    // Other windows with their frames, as they lie on the screen one over the other, the lowest first,
+    // and what they leave free of the window behind them. Throws Error(NoPicture).
+    Capture(HWND behind, const std::vector<HWND>& windows);
+
     // Rows from the top, three bytes a pixel (blue first), each row filled up to whole 4 bytes.
     [[nodiscard]] int Width() const noexcept { return m_width; }
     [[nodiscard]] int Height() const noexcept { return m_height; }
@@ -34,8 +39,10 @@ private:
         void operator()(HGDIOBJ object) const noexcept { DeleteObject(object); }
     };
 
+    void MakeBitmap();
     bool CopyInPieces(HWND window) const;
     bool CopyPiece(HWND window, const RECT& piece) const;
+    bool CopyFrame(HWND window, const RECT& area) const;
 
     int m_width = 0;
     int m_height = 0;

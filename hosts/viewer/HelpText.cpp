@@ -49,15 +49,26 @@ window ("120") or parts of it ("25%"); "on:1" as Y is the first curve's point at
   command NAME           label, zoom-back, reset-zoom, delete-measures, linear-trend,
                          cubic-trend, polynomial, simple-average, exponential-average,
                          linear-average, triangular-average, copy-bitmap, copy-metafile,
-                         bar, line, pie, pie3d, graph, or the number of a menu command
+                         bar, line, pie, pie3d, graph, properties, or the number of a
+                         menu command
   click X Y              also: double-click, right-click
   move X Y
   drag X Y X Y           hold X Y X Y the same without letting go, release X Y lets go
-  wheel NOTCHES          key NAME: home add subtract left right up down delete
-  type TEXT              into the label that is being edited
+  wheel NOTCHES          key NAME: home add subtract left right up down delete return
+                         escape space tab
+  type TEXT              into the label that is being edited, or where a dialog has its caret
   save FILE, load FILE   graph files
   picture FILE           a PNG file of the chart, window FILE one of the whole window
   print                  tells operation, zoom depth and curves
+
+While a dialog is open, the steps that follow work in it. CONTROL is a number, or ok, cancel
+or apply; docs/gallery.md has the numbers.
+
+  choose N               the Nth item of the popup menu that a right click opened
+  page NAME              chart, axis or curve
+  set CONTROL VALUE      a text, on or off, or the number of a row, counted from 1
+  press CONTROL          read CONTROL tells what it holds
+  dialog FILE            a PNG file of the dialog and of all that is open over it
 
 Exit codes: 0 done, 1 the file can't be read or plotted, 2 wrong command line or script,
 3 the chart server can't be started, 4 the picture can't be drawn or written.

@@ -1,6 +1,7 @@
 #include "viewer/ScriptRunner.h"
 
 #include "viewer/Capture.h"
+#include "viewer/DialogSteps.h"
 #include "viewer/GraphCommands.h"
 #include "viewer/MenuCommands.h"
 #include "viewer/Output.h"
@@ -19,7 +20,7 @@ namespace
 
 using Word = std::pair<std::u16string_view, unsigned>;
 
-constexpr std::array<Word, 24> commands = {{
+constexpr std::array<Word, 25> commands = {{
     {u"select", GraphCommand::Select},
     {u"zoom", GraphCommand::Zoom},
     {u"pan", GraphCommand::Pan},
@@ -30,6 +31,7 @@ constexpr std::array<Word, 24> commands = {{
     {u"zoom-back", GraphCommand::ZoomBack},
     {u"reset-zoom", GraphCommand::ResetZoom},
     {u"delete-measures", MenuCommand::DeleteMeasures},
+    {u"properties", GraphCommand::Properties},
     {u"linear-trend", GraphCommand::LinearTrend},
     {u"cubic-trend", GraphCommand::CubicTrend},
     {u"polynomial", MenuCommand::FirstDegree},
@@ -46,14 +48,18 @@ constexpr std::array<Word, 24> commands = {{
     {u"pie3d", MenuCommand::LastKind},
 }};
 
-constexpr std::array<Word, 8> keys = {{{u"home", VK_HOME},
-                                       {u"add", VK_ADD},
-                                       {u"subtract", VK_SUBTRACT},
-                                       {u"left", VK_LEFT},
-                                       {u"right", VK_RIGHT},
-                                       {u"up", VK_UP},
-                                       {u"down", VK_DOWN},
-                                       {u"delete", VK_DELETE}}};
+constexpr std::array<Word, 12> keys = {{{u"home", VK_HOME},
+                                        {u"add", VK_ADD},
+                                        {u"subtract", VK_SUBTRACT},
+                                        {u"left", VK_LEFT},
+                                        {u"right", VK_RIGHT},
+                                        {u"up", VK_UP},
+                                        {u"down", VK_DOWN},
+                                        {u"delete", VK_DELETE},
+                                        {u"return", VK_RETURN},
+                                        {u"escape", VK_ESCAPE},
+                                        {u"space", VK_SPACE},
+                                        {u"tab", VK_TAB}}};
 
 template <class Words> unsigned Look(const Words& words, std::u16string_view sought)
 {
@@ -75,16 +81,24 @@ template <class Words> unsigned Look(const Words& words, std::u16string_view sou
 
 void ScriptRunner::Run(std::span<const Step> steps)
 {
+    m_steps = steps;
     Settle();
-    for (const Step& step : steps) {
+    while (!m_steps.empty()) {
+        const Step& step = m_steps.front();
+        m_steps = m_steps.subspan(1);
+        m_isRunning = true;
         RunStep(step);
+        m_isRunning = false;
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
         Settle();
     }
 }
 
 void ScriptRunner::RunStep(const Step& step)
 {
-    if (RunMouse(step)) {
+    if (RunMouse(step) || RunDialog(step)) {
         return;
     }
     switch (step.verb) {
@@ -263,7 +277,10 @@ void ScriptRunner::Press(WPARAM key)
 {
     const HWND focus = GetFocus();
     const HWND chart = m_session.ChartWindow();
-    const HWND target = focus && IsChild(chart, focus) ? focus : chart;
+    const HWND capture = GetCapture(); // a popup of colours works by it
+    const HWND target = Dialogs::Open()                  ? (capture ? capture : focus)
+                        : focus && IsChild(chart, focus) ? focus
+                                                         : chart;
     PostMessageW(target, WM_KEYDOWN, key, 1);
     PostMessageW(target, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }

@@ -9,13 +9,14 @@
 #include <cmath>
 #include <initializer_list>
 #include <optional>
+#include <utility>
 
 namespace Viewer
 {
 namespace
 {
 
-enum class Wants { Nothing, Word, Text, OnePlace, TwoPlaces, Number };
+enum class Wants { Nothing, Word, Text, OnePlace, TwoPlaces, Number, Control, ControlAndText };
 
 struct VerbForm {
     std::u16string_view word;
@@ -23,7 +24,7 @@ struct VerbForm {
     Wants wants;
 };
 
-constexpr std::array<VerbForm, 17> forms = {{
+constexpr std::array<VerbForm, 23> forms = {{
     {u"mode", Verb::Mode, Wants::Word},
     {u"command", Verb::Command, Wants::Word},
     {u"click", Verb::Click, Wants::OnePlace},
@@ -41,11 +42,18 @@ constexpr std::array<VerbForm, 17> forms = {{
     {u"picture", Verb::Picture, Wants::Text},
     {u"window", Verb::Window, Wants::Text},
     {u"print", Verb::Print, Wants::Nothing},
+    {u"choose", Verb::Choose, Wants::Number},
+    {u"page", Verb::Page, Wants::Word},
+    {u"set", Verb::Set, Wants::ControlAndText},
+    {u"press", Verb::Press, Wants::Control},
+    {u"read", Verb::Read, Wants::Control},
+    {u"dialog", Verb::Dialog, Wants::Text},
 }};
 
 constexpr std::u16string_view modes[] = {u"select", u"zoom", u"pan", u"cursor", u"measure", u"edit"};
-constexpr std::u16string_view keys[] = {u"home",  u"add", u"subtract", u"left",
-                                        u"right", u"up",  u"down",     u"delete"};
+constexpr std::u16string_view keys[] = {u"home", u"add",    u"subtract", u"left",   u"right", u"up",
+                                        u"down", u"delete", u"return",   u"escape", u"space", u"tab"};
+constexpr std::u16string_view pages[] = {u"chart", u"axis", u"curve"};
 constexpr std::u16string_view commands[] = {u"label",          u"zoom-back",
                                             u"reset-zoom",     u"delete-measures",
                                             u"linear-trend",   u"cubic-trend",
@@ -54,7 +62,12 @@ constexpr std::u16string_view commands[] = {u"label",          u"zoom-back",
                                             u"copy-bitmap",    u"triangular-average",
                                             u"copy-metafile",  u"bar",
                                             u"line",           u"pie",
-                                            u"pie3d",          u"graph"};
+                                            u"pie3d",          u"graph",
+                                            u"properties"};
+
+// The buttons that all dialogs have.
+constexpr std::array<std::pair<std::u16string_view, int>, 3> buttons = {
+    {{u"ok", 1}, {u"cancel", 2}, {u"apply", 5002}}};
 
 class LineParser
 {
@@ -101,6 +114,14 @@ private:
         case Wants::Number:
             step.number = static_cast<int>(NextNumber(NextWord(), 100));
             break;
+        case Wants::Control:
+            step.number = NextControl();
+            break;
+        case Wants::ControlAndText:
+            step.number = NextControl();
+            step.text = TrimBlanks(m_rest); // may be empty: that is what an edit then holds
+            m_rest = {};
+            break;
         }
     }
 
@@ -116,13 +137,30 @@ private:
         const auto known = [&](const auto& words) {
             return std::find(std::begin(words), std::end(words), word) != std::end(words);
         };
-        const bool found = step.verb == Verb::Mode  ? known(modes)
-                           : step.verb == Verb::Key ? known(keys)
-                                                    : known(commands);
+        const bool found = step.verb == Verb::Mode   ? known(modes)
+                           : step.verb == Verb::Key  ? known(keys)
+                           : step.verb == Verb::Page ? known(pages)
+                                                     : known(commands);
         if (!found) {
             Refuse(u"unknown word " + Quote(word));
         }
         step.text = word;
+    }
+
+    int NextControl()
+    {
+        const std::u16string_view word = NextWord();
+        Need(!word.empty());
+        for (const auto& [name, number] : buttons) {
+            if (name == word) {
+                return number;
+            }
+        }
+        const double number = NextNumber(word, 65535);
+        if (number < 1) {
+            Refuse(u"no control: " + Quote(word));
+        }
+        return static_cast<int>(number);
     }
 
     Place NextPlace()

@@ -26,7 +26,13 @@ enum class Verb {
     Load,
     Picture,
     Window,
-    Print
+    Print,
+    Choose, // these are about dialogs
+    Page,
+    Set,
+    Press,
+    Read,
+    Dialog
 };
 
 // One coordinate of the chart's window.
@@ -46,7 +52,9 @@ struct Step {
     std::size_t line; // of the script, counted from 1
     std::vector<Place> places;
     std::u16string text; // a word, a file or what is typed
-    int number = 0;      // notches of the wheel, or the number of a command (text is empty then)
+    // Notches of the wheel, the number of a command (text is empty then), of a menu's item or of a
+    // dialog's control.
+    int number = 0;
 };
 
 // Empty lines and lines that start with "#" are left out. Throws Error(BadCommandLine) that names

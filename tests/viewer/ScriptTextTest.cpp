@@ -56,6 +56,42 @@ TEST(ScriptText, TextRunsToTheEndOfItsLine)
     EXPECT_EQ(u"C:\\my pictures\\a.png", ParseScript(u"picture C:\\my pictures\\a.png")[0].text);
 }
 
+TEST(ScriptText, ControlsAreNumbersOrTheButtonsThatAllDialogsHave)
+{
+    const std::vector<Step> steps =
+        ParseScript(u"press ok\npress cancel\npress apply\nread 6010\nset 6035 1,5 \nset 6010");
+
+    ASSERT_EQ(6u, steps.size());
+    const int numbers[] = {1, 2, 5002, 6010, 6035, 6010};
+    for (std::size_t at = 0; at < steps.size(); ++at) {
+        EXPECT_EQ(numbers[at], steps[at].number) << at;
+    }
+    EXPECT_EQ(Verb::Press, steps[0].verb);
+    EXPECT_EQ(Verb::Read, steps[3].verb);
+    EXPECT_EQ(Verb::Set, steps[4].verb);
+    EXPECT_EQ(u"1,5", steps[4].text);
+    EXPECT_EQ(u"", steps[5].text);
+}
+
+TEST(ScriptText, DialogStepsWithoutTheirWordsAreRefused)
+{
+    for (const std::u16string_view text :
+         {u"press", u"press fast", u"press 0", u"press -3", u"press 1.5", u"press 70000", u"set",
+          u"set label x", u"page", u"page two", u"choose", u"choose first", u"dialog", u"read",
+          u"press 1 2"}) {
+        EXPECT_NE(u"accepted", Refusal(text));
+    }
+}
+
+TEST(ScriptText, PagesHaveNames)
+{
+    for (const std::u16string_view page : {u"chart", u"axis", u"curve"}) {
+        const Step step = ParseScript(u"page " + std::u16string(page))[0];
+        EXPECT_EQ(Verb::Page, step.verb);
+        EXPECT_EQ(page, step.text);
+    }
+}
+
 TEST(ScriptText, CommandsAreNamesOrNumbers)
 {
     EXPECT_EQ(u"zoom-back", ParseScript(u"command zoom-back")[0].text);

@@ -1,0 +1,148 @@
+// A host that takes curve, graph or window away while the curve page or a dialog of it is open.
+
+#include "CurvePageHost.h"
+
+using namespace CurvePage;
+using namespace DialogHands;
+
+namespace
+{
+
+class CurveHost : public CurvePageTest
+{
+protected:
+    void TearDown() override
+    {
+        EXPECT_EQ(ModalScript::FindAny(), nullptr);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        if (host.m_hWnd != nullptr) {
+            EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+            EXPECT_TRUE(::IsWindowEnabled(Handle()));
+        }
+    }
+    // Works the page when its curve has gone.
+    static void WorkOn(HWND hPage)
+    {
+        Paste(hPage, label, L"gone");
+        Click(hPage, fill);
+        Click(hPage, apply);
+        EXPECT_FALSE(IsEnabled(hPage, apply));
+    }
+};
+
+} // namespace
+
+TEST_F(CurveHost, DeletesTheCurveUnderThePage)
+{
+    OpenAnd(
+        [this](HWND hPage) {
+            graph->DeleteCurve(2);
+            WorkOn(hPage);
+            Click(hPage, average); // no dialog: there is nothing to average
+            EXPECT_EQ(ModalScript::Find(kAverage), nullptr);
+            Ask(hPage, linearTrend, kTrend, [](HWND) {});
+            Ask(hPage, polynomialTrend, kTrend, [](HWND) {});
+        },
+        2);
+    EXPECT_EQ(CurveCount(), 2);
+    EXPECT_EQ(LabelOf(0), L"T1");
+    EXPECT_EQ(LabelOf(1), L"T2");
+}
+
+TEST_F(CurveHost, ResetsTheGraphUnderThePageAndOkStillEndsTheSheet)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        const HWND hPage = PageOf(hSheet);
+        graph->ResetAll();
+        WorkOn(hPage);
+        Click(hPage, ok);
+    });
+    Open();
+    EXPECT_EQ(CurveCount(), 0);
+}
+
+TEST_F(CurveHost, ResetsTheGraphWhileADialogOfThePageIsOpen)
+{
+    for (const int nButton : {linearTrend, cubicTrend, polynomialTrend, average}) {
+        OpenAnd([&](HWND hPage) {
+            Ask(hPage, nButton, nButton == average ? kAverage : kTrend, [&](HWND hDialog) {
+                if (nButton == average)
+                    Paste(hDialog, span, L"2");
+                graph->ResetAll();
+            });
+        });
+        EXPECT_EQ(CurveCount(), 0);
+        AddLine(0);
+        ShowAsTold();
+        Frame();
+    }
+}
+
+TEST_F(CurveHost, AddsCurvesWhileADialogOfThePageIsOpen)
+{
+    OpenAnd([this](HWND hPage) {
+        Ask(hPage, linearTrend, kTrend, [this](HWND) {
+            for (int nCurve = 3; nCurve < 40; ++nCurve)
+                Add(Line(), nCurve); // the curves move in memory
+        });
+    });
+    EXPECT_EQ(CurveCount(), 40) << "the page's curve lay at another place by then";
+}
+
+TEST_F(CurveHost, ResetsTheGraphWhileAMessageBoxIsOpen)
+{
+    OpenAnd([this](HWND hPage) {
+        script.When(kBox, [this](HWND hBox) {
+            graph->ResetAll();
+            ::PostMessageW(hBox, WM_COMMAND, IDOK, 0);
+        });
+        Paste(hPage, lineSize, L"77");
+        Paste(hPage, lineSize, L"2");
+        Click(hPage, apply);
+    });
+    EXPECT_EQ(CurveCount(), 0);
+}
+
+TEST_F(CurveHost, DestroysTheParentUnderThePage)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        host.Destroy();
+        EXPECT_FALSE(::IsWindow(hSheet));
+    });
+    Open();
+    EXPECT_EQ(CurveCount(), 3);
+}
+
+TEST_F(CurveHost, DestroysTheParentUnderATrendDialog)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        script.When(kTrend, [this](HWND hDialog) {
+            host.Destroy();
+            EXPECT_FALSE(::IsWindow(hDialog));
+        });
+        Click(PageOf(hSheet), cubicTrend);
+    });
+    Open();
+    EXPECT_EQ(CurveCount(), 3);
+}
+
+TEST_F(CurveHost, DestroysTheParentUnderAMessageBox)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        script.When(kBox, [this](HWND) { host.Destroy(); });
+        Paste(PageOf(hSheet), markerSize, L"x");
+    });
+    Open();
+    EXPECT_EQ(CurveCount(), 3);
+}
+
+TEST_F(CurveHost, DestroysTheParentWhileTheColoursAreOpen)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        Click(PageOf(hSheet), color);
+        EXPECT_NE(::GetCapture(), nullptr);
+        host.Destroy();
+    });
+    Open();
+    EXPECT_EQ(CurveCount(), 3);
+}

@@ -1,0 +1,136 @@
+#pragma once
+// Works dialogs out of their own modal loops, as a person would: each step waits until the
+// window that it is for takes input, and then runs on the thread of the loop. A step may open
+// another dialog; the steps that follow then run inside of it.
+//
+// A window that a step waits for and that never comes, and one that is left when all steps have
+// run, fails the test and is closed, so that no test hangs.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <utility>
+
+class ModalScript
+{
+public:
+    using Action = std::function<void(HWND)>;
+
+    ModalScript()
+    {
+        Current() = this;
+        m_nTimer = ::SetTimer(nullptr, 0, 10, &ModalScript::OnTimer);
+    }
+    ModalScript(const ModalScript&) = delete;
+    ModalScript& operator=(const ModalScript&) = delete;
+    ~ModalScript()
+    {
+        ::KillTimer(nullptr, m_nTimer);
+        Current() = nullptr;
+        EXPECT_TRUE(m_steps.empty()) << "no window came for the step " << NextName();
+    }
+
+    // For the dialog, message box or platform dialog of that caption that takes input.
+    void When(std::wstring caption, Action action)
+    {
+        m_steps.push_back({std::move(caption), std::move(action)});
+    }
+    // For the popup menu that is open.
+    void WhenMenu(Action action) { m_steps.push_back({kMenu, std::move(action)}); }
+
+    static constexpr const wchar_t* kMenu = L"a popup menu";
+
+    // The dialog of this thread that takes input; null if there is none.
+    [[nodiscard]] static HWND Find(const std::wstring& caption)
+    {
+        Search search{&caption, nullptr};
+        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalScript::Test,
+                            reinterpret_cast<LPARAM>(&search));
+        return search.hFound;
+    }
+    // Any window at all that a modal loop would belong to.
+    [[nodiscard]] static HWND FindAny()
+    {
+        Search search{nullptr, nullptr};
+        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalScript::Test,
+                            reinterpret_cast<LPARAM>(&search));
+        return search.hFound;
+    }
+
+private:
+    struct Step {
+        std::wstring caption;
+        Action action;
+    };
+    struct Search {
+        const std::wstring* pCaption;
+        HWND hFound;
+    };
+    static constexpr int kPatience = 1500; // ticks without a step that could run
+
+    static ModalScript*& Current()
+    {
+        static ModalScript* pCurrent = nullptr;
+        return pCurrent;
+    }
+
+    static BOOL CALLBACK Test(HWND hWnd, LPARAM lParam)
+    {
+        auto& search = *reinterpret_cast<Search*>(lParam);
+        wchar_t className[16] = {};
+        ::GetClassNameW(hWnd, className, 16);
+        const bool bMenu = std::wstring(className) == L"#32768";
+        if (!::IsWindowVisible(hWnd) || !::IsWindowEnabled(hWnd) ||
+            (!bMenu && std::wstring(className) != L"#32770"))
+            return TRUE;
+        wchar_t text[128] = {};
+        ::GetWindowTextW(hWnd, text, 128);
+        if (search.pCaption == nullptr || (bMenu ? std::wstring(kMenu) : text) == *search.pCaption) {
+            search.hFound = hWnd;
+            return FALSE;
+        }
+        return TRUE;
+    }
+
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD)
+    {
+        if (Current() != nullptr)
+            Current()->Tick();
+    }
+
+    void Tick()
+    {
+        const HWND hWnd = m_steps.empty() ? nullptr : Find(m_steps.front().caption);
+        if (hWnd != nullptr) {
+            m_nWaited = 0;
+            const Step step = std::move(m_steps.front());
+            m_steps.pop_front();
+            step.action(hWnd);
+            return;
+        }
+        if (FindAny() == nullptr || ++m_nWaited < (m_steps.empty() ? kPatience / 3 : kPatience))
+            return;
+        ADD_FAILURE() << "a window is left open, while waited for: " << NextName();
+        m_steps.clear();
+        m_nWaited = kPatience - 20;
+        ::PostMessageW(FindAny(), WM_CLOSE, 0, 0);
+    }
+
+    [[nodiscard]] std::string NextName() const
+    {
+        if (m_steps.empty())
+            return "nothing";
+        std::string name;
+        for (const wchar_t unit : m_steps.front().caption)
+            name += unit < 128 ? static_cast<char>(unit) : '?';
+        return name;
+    }
+
+    UINT_PTR m_nTimer = 0;
+    std::deque<Step> m_steps;
+    int m_nWaited = 0;
+};
