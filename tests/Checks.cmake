@@ -57,3 +57,14 @@ target_link_options(vantoplex-analysis-host PRIVATE -municode)
 add_test(NAME analysis-example-compiles
   COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-analysis-host)
 set_tests_properties(analysis-example-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
+
+# Reference, constants and other languages' files are made from the interface definition: nothing
+# may be undocumented or stale. Their C and C++ compile as the oldest standard that they are for.
+add_test(NAME kit-is-whole COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/kit/make.py check)
+set(kit_includes -I${PROJECT_SOURCE_DIR}/kit/include -I${PROJECT_SOURCE_DIR}/kit/languages -I${CMAKE_BINARY_DIR}/include)
+foreach(standard 17 20)
+  add_test(NAME kit-compiles-as-cpp${standard} COMMAND ${CMAKE_CXX_COMPILER} -std=c++${standard} -Wall -Wextra -Werror
+    ${kit_includes} -fsyntax-only -x c++ ${PROJECT_SOURCE_DIR}/kit/include/vantoplex.hpp -Wno-pragma-once-outside-header)
+endforeach()
+add_test(NAME kit-compiles-as-c COMMAND ${CMAKE_C_COMPILER} -std=c11 -Wall -Wextra -Werror -pedantic
+  ${kit_includes} -fsyntax-only -x c ${PROJECT_SOURCE_DIR}/kit/languages/vantoplex_c.h)
