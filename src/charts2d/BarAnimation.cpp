@@ -14,53 +14,20 @@ void CBarAnimation::SetAnimation(std::int32_t on, std::int32_t type) noexcept
     m_nAnimationPercent = 0;
     m_nHoldCount = 0;
     m_bAnimationHold = 0;
-    if (on != 1)
-        return;
-    switch (type) {
-    case allGrow:
-    case groupsGrow:
-        m_nGrowSegment = 0;
-        break;
-    case seriesGrow:
-        m_nGrowSeries = 0;
-        break;
-    case groupsFade:
-        m_nFadeSegment = 0;
-        break;
-    case seriesFade:
-        m_nFadeSeries = 0;
-        break;
-    default:
-        break;
-    }
+    const TBarAnimationRow* const row = FindBarAnimation(type);
+    if (on == 1 && row)
+        this->*row->pFinished = 0;
 }
 
 void CBarAnimation::Animate(std::int32_t segments, std::int32_t series) noexcept
 {
-    if (m_bAnimation != 1)
-        return;
-    switch (m_nAnimationType) {
-    case allGrow:
-        GrowAll();
-        break;
-    case groupsGrow:
-        GrowInTurn(m_nGrowSegment, segments);
-        break;
-    case seriesGrow:
-        GrowInTurn(m_nGrowSeries, series);
-        break;
-    case groupsFade:
-        FadeInTurn(m_nFadeSegment, segments);
-        break;
-    case seriesFade:
-        FadeInTurn(m_nFadeSeries, series);
-        break;
-    default:
-        break;
-    }
+    const TBarCounts counts{segments, series};
+    const TBarAnimationRow* const row = FindBarAnimation(m_nAnimationType);
+    if (m_bAnimation == 1 && row)
+        (this->*row->pfnTick)(this->*row->pFinished, counts.*row->pCount);
 }
 
-void CBarAnimation::GrowAll() noexcept
+void CBarAnimation::GrowAll(std::int32_t&, std::int32_t) noexcept
 {
     if (m_nAnimationPercent >= 100) {
         if (m_nHoldCount < holdTicks) {

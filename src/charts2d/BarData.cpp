@@ -1,29 +1,30 @@
 #include "charts2d/BarData.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace
 {
 
-template <class Node> void Append(Node*& head, Node*& last, Node* node) noexcept
+template <class Node> void Append(Node*& head, Node*& last, CIdIndex<Node>& index, Node* node) noexcept
 {
+    node->pPrevious = last;
     (last ? last->pNext : head) = node;
     last = node;
+    index.Append(node);
 }
 
 // Takes the first node with the id out of the list; null if there is none.
-template <class Node> Node* Unlink(Node*& head, Node*& last, std::int32_t nId) noexcept
+template <class Node>
+Node* Unlink(Node*& head, Node*& last, CIdIndex<Node>& index, std::int32_t nId) noexcept
 {
-    Node* previous = nullptr;
-    for (Node* node = head; node; previous = node, node = node->pNext) {
-        if (node->nId != nId)
-            continue;
-        (previous ? previous->pNext : head) = node->pNext;
-        if (last == node)
-            last = previous;
-        return node;
-    }
-    return nullptr;
+    Node* const node = index.First(nId);
+    if (!node)
+        return nullptr;
+    index.RemoveFirst(nId);
+    (node->pPrevious ? node->pPrevious->pNext : head) = node->pNext;
+    (node->pNext ? node->pNext->pPrevious : last) = node->pPrevious;
+    return node;
 }
 
 template <class Node> void FreeAll(Node*& head, Node*& last) noexcept
@@ -34,18 +35,6 @@ template <class Node> void FreeAll(Node*& head, Node*& last) noexcept
         head = next;
     }
     last = nullptr;
-}
-
-// Links the node behind the last value of a series. Series that share their last value share
-// its link too: the second of them finds the node there already.
-void AppendValue(SBarSeries& series, SBarValue* node) noexcept
-{
-    SBarValue*& link = series.pLastValue ? series.pLastValue->pNext : series.pValues;
-    if (link != node) {
-        link = node;
-        ++node->nLinks;
-    }
-    series.pLastValue = node;
 }
 
 } // namespace
@@ -62,10 +51,31 @@ SBarSeries::~SBarSeries()
 
 SBarValue* SBarSeries::FindValue(std::int32_t nSegment) const noexcept
 {
-    SBarValue* value = pValues;
-    while (value && value->nSegment != nSegment)
-        value = value->pNext;
-    return value;
+    const auto place = static_cast<std::size_t>(nSegment);
+    return nSegment >= 0 && place < m_FirstValues.size() ? m_FirstValues[place] : nullptr;
+}
+
+void SBarSeries::MakeRoom(std::int32_t nSegment)
+{
+    const std::size_t needed = static_cast<std::size_t>(nSegment) + 1;
+    if (m_FirstValues.capacity() < needed)
+        m_FirstValues.reserve(std::max(needed, 2 * m_FirstValues.capacity()));
+}
+
+void SBarSeries::AppendValue(SBarValue* value) noexcept
+{
+    SBarValue*& link = pLastValue ? pLastValue->pNext : pValues;
+    if (link != value) {
+        link = value;
+        ++value->nLinks;
+    }
+    pLastValue = value;
+
+    const auto place = static_cast<std::size_t>(value->nSegment);
+    if (m_FirstValues.size() <= place)
+        m_FirstValues.resize(place + 1);
+    if (!m_FirstValues[place])
+        m_FirstValues[place] = value;
 }
 
 CBarData::~CBarData()
@@ -79,12 +89,16 @@ void CBarData::AddSegment(std::u16string_view text)
     segment->nId = m_nSegments + 1;
     segment->strName = text;
 
+    m_SegmentIndex.MakeRoom(segment->nId);
+    for (SBarSeries* series = m_pSeries; series; series = series->pNext)
+        series->MakeRoom(segment->nId);
+
     if (m_nSeries > 0) {
         auto* value = new SBarValue{.nSegment = segment->nId, .nLinks = 0};
         for (SBarSeries* series = m_pSeries; series; series = series->pNext)
-            AppendValue(*series, value);
+            series->AppendValue(value);
     }
-    Append(m_pSegments, m_pLastSegment, segment.release());
+    Append(m_pSegments, m_pLastSegment, m_SegmentIndex, segment.release());
     ++m_nSegments;
 }
 
@@ -92,7 +106,8 @@ ERefusal CBarData::DeleteSegment(std::int32_t index)
 {
     if (index < 1 || index > m_nSegments)
         return ERefusal::indexOutOfBounds;
-    const std::unique_ptr<SBarSegment> segment(Unlink(m_pSegments, m_pLastSegment, index));
+    const std::unique_ptr<SBarSegment> segment(
+        Unlink(m_pSegments, m_pLastSegment, m_SegmentIndex, index));
     if (!segment)
         return ERefusal::indexOutOfBounds; // that id has left the list before
     --m_nSegments;
@@ -107,10 +122,12 @@ ERefusal CBarData::AddSeries(std::u16string_view text, std::uint32_t color)
     series->nId = m_nSeries + 1;
     series->crColor = color;
     series->strName = text;
+    series->MakeRoom(m_nSegments);
     for (std::int32_t segment = 1; segment <= m_nSegments; ++segment)
-        AppendValue(*series, new SBarValue{.nSegment = segment, .nLinks = 0});
+        series->AppendValue(new SBarValue{.nSegment = segment, .nLinks = 0});
 
-    Append(m_pSeries, m_pLastSeries, series.release());
+    m_SeriesIndex.MakeRoom(series->nId);
+    Append(m_pSeries, m_pLastSeries, m_SeriesIndex, series.release());
     ++m_nSeries;
     return ERefusal::none;
 }
@@ -119,7 +136,7 @@ ERefusal CBarData::DeleteSeries(std::int32_t index)
 {
     if (index < 1 || index > m_nSeries)
         return ERefusal::seriesIndexOutOfBounds;
-    const std::unique_ptr<SBarSeries> series(Unlink(m_pSeries, m_pLastSeries, index));
+    const std::unique_ptr<SBarSeries> series(Unlink(m_pSeries, m_pLastSeries, m_SeriesIndex, index));
     if (!series)
         return ERefusal::seriesIndexOutOfBounds;
     --m_nSeries;
@@ -133,9 +150,7 @@ ERefusal CBarData::SetValue(std::int32_t segment, std::int32_t series, std::int3
     if (series < 1 || series > m_nSeries)
         return ERefusal::seriesIndexOutOfBounds;
 
-    const SBarSeries* found = m_pSeries;
-    while (found && found->nId != series)
-        found = found->pNext;
+    const SBarSeries* found = m_SeriesIndex.First(series);
     if (!found)
         return ERefusal::seriesIndexOutOfBounds;
     SBarValue* node = found->FindValue(segment);
@@ -149,6 +164,8 @@ void CBarData::Clear() noexcept
 {
     FreeAll(m_pSeries, m_pLastSeries);
     FreeAll(m_pSegments, m_pLastSegment);
+    m_SeriesIndex.Clear();
+    m_SegmentIndex.Clear();
     m_nSeries = 0;
     m_nSegments = 0;
 }

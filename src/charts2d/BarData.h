@@ -5,18 +5,22 @@
 // Three kinds of node in singly linked lists, in order of insertion, owned by CBarData.
 // Ids count from 1 and are given as the count after an insertion; a deletion renumbers
 // nothing, so after one a position and an id need not agree, and an id may come twice.
-// Searches take the first node with the id.
+// Searches take the first node with the id; indexes beside the lists find it without a walk.
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "charts2d/IdIndex.h"
 #include "charts2d/Refusal.h"
 
 struct SBarSegment {
     std::int32_t nId = 0;
     std::u16string strName;
     SBarSegment* pNext = nullptr;
+    SBarSegment* pPrevious = nullptr;
+    SBarSegment* pNextOfId = nullptr;
 };
 
 struct SBarValue {
@@ -36,12 +40,24 @@ struct SBarSeries {
     // The first value for a segment id, or null.
     [[nodiscard]] SBarValue* FindValue(std::int32_t nSegment) const noexcept;
 
+    // Takes the memory for a value of that segment; AppendValue of it doesn't fail afterwards.
+    void MakeRoom(std::int32_t nSegment);
+
+    // Links the value behind the last one. Series that share their last value share its link
+    // too: the second of them finds the value there already.
+    void AppendValue(SBarValue* value) noexcept;
+
     std::int32_t nId = 0;
     std::uint32_t crColor = 0; // 0x00BBGGRR
     std::u16string strName;
     SBarValue* pValues = nullptr;
     SBarValue* pLastValue = nullptr;
     SBarSeries* pNext = nullptr;
+    SBarSeries* pPrevious = nullptr;
+    SBarSeries* pNextOfId = nullptr;
+
+private:
+    std::vector<SBarValue*> m_FirstValues; // by segment id
 };
 
 class CBarData
@@ -72,4 +88,6 @@ public:
 private:
     SBarSeries* m_pLastSeries = nullptr;
     SBarSegment* m_pLastSegment = nullptr;
+    CIdIndex<SBarSeries> m_SeriesIndex;
+    CIdIndex<SBarSegment> m_SegmentIndex;
 };

@@ -7,34 +7,25 @@ CFlatPieData::~CFlatPieData()
     Clear();
 }
 
-double CFlatPieData::Sum() const noexcept
+void CFlatPieData::SumAnew() noexcept
 {
-    double sum = 0;
+    m_dSum = 0;
     for (const SPieSegment* segment = m_pSegments; segment; segment = segment->pNext)
-        sum += segment->dPercent;
-    return sum;
-}
-
-SPieSegment** CFlatPieData::End() noexcept
-{
-    SPieSegment** link = &m_pSegments;
-    while (*link)
-        link = &(*link)->pNext;
-    return link;
+        m_dSum += segment->dPercent;
+    m_dTotalPercent = m_dSum;
 }
 
 void CFlatPieData::AddSegment(double percent, std::uint32_t color, std::u16string_view text)
 {
-    const double sum = Sum();
-    m_dTotalPercent = sum;
+    m_dTotalPercent = m_dSum;
     if (percent < 0)
         return;
 
     double share = percent;
     if (percent > 100)
         share = 100;
-    else if (sum + percent > 100)
-        share = 100 - sum;
+    else if (m_dSum + percent > 100)
+        share = 100 - m_dSum;
     if (!(share > 0))
         return;
 
@@ -43,8 +34,10 @@ void CFlatPieData::AddSegment(double percent, std::uint32_t color, std::u16strin
     segment->crColor = color;
     segment->strName = text;
     segment->nId = ++m_nSegments;
-    m_dTotalPercent += share;
-    *End() = segment.release();
+    m_dSum += share; // as adding up the whole list would
+    m_dTotalPercent = m_dSum;
+    (m_pLast ? m_pLast->pNext : m_pSegments) = segment.get();
+    m_pLast = segment.release();
 }
 
 ERefusal CFlatPieData::UpdateSegment(std::int32_t index, std::int32_t percent, std::uint32_t color,
@@ -60,7 +53,7 @@ ERefusal CFlatPieData::UpdateSegment(std::int32_t index, std::int32_t percent, s
     segment->strName = text;
     segment->dPercent = percent;
     segment->crColor = color;
-    m_dTotalPercent = Sum();
+    SumAnew();
     return ERefusal::none;
 }
 
@@ -76,9 +69,12 @@ ERefusal CFlatPieData::DeleteSegment(std::int32_t index)
     --m_nSegments;
 
     std::int32_t nId = 0;
-    for (SPieSegment* rest = m_pSegments; rest; rest = rest->pNext)
+    m_pLast = nullptr;
+    for (SPieSegment* rest = m_pSegments; rest; rest = rest->pNext) {
         rest->nId = ++nId;
-    m_dTotalPercent = Sum();
+        m_pLast = rest;
+    }
+    SumAnew();
     return ERefusal::none;
 }
 
@@ -88,5 +84,7 @@ void CFlatPieData::Clear() noexcept
         const std::unique_ptr<SPieSegment> first(m_pSegments);
         m_pSegments = first->pNext;
     }
+    m_pLast = nullptr;
     m_nSegments = 0;
+    m_dSum = 0;
 }

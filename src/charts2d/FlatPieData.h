@@ -42,6 +42,8 @@ public:
     SPieSegment* m_pSegments = nullptr;
 
 private:
-    [[nodiscard]] double Sum() const noexcept;
-    [[nodiscard]] SPieSegment** End() noexcept; // the link behind the last segment
+    void SumAnew() noexcept;
+
+    SPieSegment* m_pLast = nullptr;
+    double m_dSum = 0; // of the segments in the order of the list
 };

@@ -1,6 +1,7 @@
 #include "pie3d/GdiPlus.h"
 
 #include <cmath>
+#include <cstring>
 #include <span>
 #include <vector>
 
@@ -26,6 +27,36 @@ bool IsFinite(const TRectF& rc) noexcept
     return std::isfinite(rc.x) && std::isfinite(rc.y) && std::isfinite(rc.width) &&
            std::isfinite(rc.height);
 }
+
+// The pixels of a bitmap for as long as the object lives, if they could be had.
+class CPixels
+{
+public:
+    CPixels(const CBitmap& bitmap, UINT mode) noexcept : m_bitmap(bitmap)
+    {
+        m_are = Flat::GdipBitmapLockBits(bitmap.Get(), nullptr, mode, PixelFormat32bppARGB, &m_data) ==
+                Gdiplus::Ok;
+    }
+    CPixels(const CPixels&) = delete;
+    CPixels& operator=(const CPixels&) = delete;
+    ~CPixels()
+    {
+        if (m_are) {
+            Flat::GdipBitmapUnlockBits(m_bitmap.Get(), &m_data);
+        }
+    }
+
+    [[nodiscard]] bool Are() const noexcept { return m_are; }
+    [[nodiscard]] void* Row(UINT y) const noexcept
+    {
+        return static_cast<BYTE*>(m_data.Scan0) + static_cast<INT_PTR>(y) * m_data.Stride;
+    }
+
+private:
+    const CBitmap& m_bitmap;
+    Gdiplus::BitmapData m_data{};
+    bool m_are = false;
+};
 
 using CFontFamily = CHandle<Gdiplus::GpFontFamily, &Flat::GdipDeleteFontFamily>;
 
@@ -103,14 +134,22 @@ CBitmap NewBitmap(TSize size) noexcept
     return bitmap;
 }
 
-CBitmap CloneOf(const CBitmap& bitmap) noexcept
+CBitmap CopyOf(const CBitmap& bitmap) noexcept
 {
-    CBitmap clone;
-    Gdiplus::GpImage* image = nullptr;
-    if (Flat::GdipCloneImage(bitmap.Get(), &image) == Gdiplus::Ok) {
-        *clone.Put() = static_cast<Gdiplus::GpBitmap*>(image);
+    UINT width = 0;
+    UINT height = 0;
+    Flat::GdipGetImageWidth(bitmap.Get(), &width);
+    Flat::GdipGetImageHeight(bitmap.Get(), &height);
+    CBitmap copy = NewBitmap({static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)});
+    const CPixels from(bitmap, Gdiplus::ImageLockModeRead);
+    const CPixels to(copy, Gdiplus::ImageLockModeWrite);
+    if (!from.Are() || !to.Are()) {
+        return {};
     }
-    return clone;
+    for (UINT y = 0; y < height; ++y) {
+        std::memcpy(to.Row(y), from.Row(y), width * sizeof(Argb));
+    }
+    return copy;
 }
 
 void SetColor(const CSolidBrush& brush, Argb color) noexcept

@@ -75,8 +75,8 @@ using CCachedBitmap = CHandle<Gdiplus::GpCachedBitmap, &Flat::GdipDeleteCachedBi
 // Where the family or the font cannot be made, the generic sans serif family takes its place.
 [[nodiscard]] CFont NewFont(const wchar_t* face, std::int32_t points, std::int32_t style) noexcept;
 [[nodiscard]] CStringFormat NewStringFormat(INT flags) noexcept;
-[[nodiscard]] CBitmap NewBitmap(TSize size) noexcept; // transparent, 32 bits ARGB
-[[nodiscard]] CBitmap CloneOf(const CBitmap& bitmap) noexcept;
+[[nodiscard]] CBitmap NewBitmap(TSize size) noexcept;         // transparent, 32 bits ARGB
+[[nodiscard]] CBitmap CopyOf(const CBitmap& bitmap) noexcept; // of a bitmap of that kind
 
 void SetColor(const CSolidBrush& brush, Argb color) noexcept;
 void SetColor(const CPen& pen, Argb color) noexcept;

@@ -31,7 +31,6 @@ void CPieChartWnd::ProjectAngles()
 
 void CPieChartWnd::Draw3DSlices(const GdiPlus::CGraphics& graphics)
 {
-    ProjectAngles();
     DrawWalls(graphics);
 
     const TRect upper = Faces().rcUpper;

@@ -16,6 +16,7 @@ CPieChartWnd::~CPieChartWnd()
 {
     // Everything of GDI+ goes before GDI+ does; the window itself goes with the base class.
     m_mapElements.clear();
+    m_KeptBackground.Reset();
     m_KeptPicture.Reset();
     GdiPlus::Stop(m_gdiplusToken);
 }
@@ -45,7 +46,7 @@ int CPieChartWnd::OnCreate(CREATESTRUCTW* lpCreateStruct)
 void CPieChartWnd::OnSize(UINT nType, int cx, int cy)
 {
     CWnd::OnSize(nType, cx, cy);
-    m_KeptPicture.Reset();
+    Settle();
 
     const TRect client = ClientRect();
     m_nPieLimit = PieLabels::PieLimit(client.Width());
@@ -63,6 +64,7 @@ void CPieChartWnd::OnSize(UINT nType, int cx, int cy)
 
 void CPieChartWnd::OnPaint()
 {
+    Settle(); // before the update region is taken: it may show the scroll bar
     CPaintDC dc(this);
     switch (m_nChartStyle) {
     case 0:
@@ -87,7 +89,6 @@ void CPieChartWnd::OnLButtonDown(UINT nFlags, CPoint point)
 
 void CPieChartWnd::Repaint() noexcept
 {
-    m_KeptPicture.Reset();
     if (m_hWnd != nullptr) { // a null handle would stand for every window of the screen
         ::InvalidateRect(m_hWnd, nullptr, TRUE);
     }

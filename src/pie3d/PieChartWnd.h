@@ -15,13 +15,18 @@
 #include "framework/windowing/Strings.h"
 #include "framework/windowing/Window.h"
 #include "pie3d/GdiPlus.h"
+#include "pie3d/KeptPicture.h"
 #include "pie3d/PieElement.h"
 #include "pie3d/PieGeometry.h"
 #include "pie3d/PieLabels.h"
+#include "pie3d/PieLook.h"
 #include "pie3d/PieScroll.h"
 #include "pie3d/PieWalls.h"
+#include "pie3d/TextSizes.h"
 
 #include <cstdint>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 class CPieChartWnd : public CWnd
@@ -40,7 +45,7 @@ public:
                             PieColors::Argb crColor);
     int RemoveItem(const CString& strElement);
     int RemoveItemByIndex(std::int32_t iElementID);
-    void RemoveAllItem() noexcept; // the picture stays until something repaints
+    void RemoveAllItem(); // the picture stays until something repaints
     int UpdateItemLabel(SPieElement* pItem, const CString& strLabel);
     int UpdateItemValue(SPieElement* pItem, double dVal);
     int UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem);
@@ -59,6 +64,11 @@ public:
     [[nodiscard]] float GetElementGrLight(const SPieElement* pItem) const noexcept;
     [[nodiscard]] float GetElementGrDark(const SPieElement* pItem) const noexcept;
     [[nodiscard]] CString GetElementName(const SPieElement* pItem) const { return pItem->strName; }
+
+    // Brings shares, label list and scroll bar up to the insertions since the last time. Paints,
+    // sizes, clicks, scrolling and changes of what is there do it of themselves, so that a table
+    // of elements is laid out once and not with each.
+    void Settle();
 
     // Looks
     void SetBackgrndColor(PieColors::Argb crItem);
@@ -141,12 +151,17 @@ private:
     [[nodiscard]] CString LongestLabelWith(const SPieElement* pItem, const CString& strLabel) const;
     int Remove(TPieElements::iterator position);
     void PutInOrder(const std::vector<std::size_t>& positions);
-    [[nodiscard]] TPieElements::const_iterator Find(const CString& strElement) const noexcept;
 
     // Label list
     void RecalcLabelExtent() noexcept;
     void UpdateScrollBar();
     [[nodiscard]] PieScroll::TList ScrollList() const;
+
+    // Looks of what is drawn now
+    [[nodiscard]] TPieFont TitleFontLook() const;
+    [[nodiscard]] TPieFont LabelFontLook(std::int32_t nPoints) const;
+    [[nodiscard]] TBackgroundLook BackgroundLook() const;
+    [[nodiscard]] TPieLook PieLook() const;
 
     // Painting
     using TSlicePainter = void (CPieChartWnd::*)(const GdiPlus::CGraphics&);
@@ -159,8 +174,8 @@ private:
         GdiPlus::CBitmap Bitmap;
         bool bHasPercents = false;
     };
-    [[nodiscard]] TPicture KeptOrNewPicture(const TRect& rcClient, TSlicePainter pfnSlices);
-    [[nodiscard]] TPicture NewPicture(const TRect& rcClient, TSlicePainter pfnSlices);
+    [[nodiscard]] TPicture KeptOrNewPicture(TSlicePainter pfnSlices);
+    [[nodiscard]] GdiPlus::CBitmap KeptOrNewBackground();
     void DrawDoughnut(CDC& dc);
     void DrawFlat(CDC& dc);
     void Draw3D(CDC& dc);
@@ -181,12 +196,14 @@ private:
                         std::int32_t nFirstY) const;
     void DrawPercentSeparator(const GdiPlus::CGraphics& graphics, const PieLabels::TColumns& columns,
                               std::int32_t nFirstY, std::int32_t nRowY) const;
-    void DrawPercents(const GdiPlus::CGraphics& graphics) const;
-    [[nodiscard]] bool PercentsReachLabels(const GdiPlus::CGraphics& graphics) const;
-    [[nodiscard]] GdiPlus::CFont PercentFont() const;
+    void DrawPercents(const GdiPlus::CGraphics& graphics);
+    [[nodiscard]] bool PercentsReachLabels(const GdiPlus::CGraphics& graphics);
     int SaveImage(const GdiPlus::CBitmap& bitmap);
 
-    // With very many elements, the picture without its labels while nothing but the list
-    // scrolls; else empty, as also where there was no memory for it.
-    GdiPlus::CBitmap m_KeptPicture;
+    std::unordered_map<std::wstring_view, SPieElement*> m_Names; // the texts are the elements' own
+    bool m_bSettled = true;
+    CKeptPicture<TBackgroundLook> m_KeptBackground;
+    CKeptPicture<TPieLook> m_KeptPicture; // with its percents, if m_bKeptPercents
+    bool m_bKeptPercents = false;
+    CTextSizes m_PercentSizes;
 };

@@ -10,7 +10,7 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
                                       PieColors::Argb crColor)
 {
     const bool usable = dValue > 0 && PieShares::IsUsable(m_dTotal + dValue);
-    if (strElement.IsEmpty() || !usable || Find(strElement) != m_mapElements.end()) {
+    if (strElement.IsEmpty() || !usable || GetPieChartItem(strElement) != nullptr) {
         return nullptr;
     }
     auto element = std::make_unique<SPieElement>();
@@ -26,23 +26,42 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
     const bool longest = strLabel.GetLength() > m_strLongestLabel.GetLength();
     CString longestLabel = longest ? strLabel : m_strLongestLabel;
 
-    // The last step that memory can run out in: before it nothing has changed.
-    SPieElement* const added =
-        m_mapElements.emplace_hint(m_mapElements.end(), m_nElements, std::move(element))->second.get();
+    SPieElement* const added = element.get();
+    const auto named = m_Names.emplace(added->strName.View(), added).first;
+    try {
+        m_mapElements.emplace_hint(m_mapElements.end(), m_nElements, std::move(element));
+    } catch (...) { // no memory: nothing has changed
+        m_Names.erase(named);
+        throw;
+    }
     m_strLongestLabel = std::move(longestLabel);
     ++m_nElements;
     m_dTotal += dValue;
-    RecalcPercents();
-    RecalcLabelExtent();
-    UpdateScrollBar();
+    m_bSettled = false;
     Repaint();
     return added;
 }
 
+// Insertions only add to a total, so shares taken after the last of them are those that each would
+// have led to.
+void CPieChartWnd::Settle()
+{
+    if (!m_bSettled) {
+        m_bSettled = true;
+        RecalcPercents();
+        RecalcLabelExtent();
+        UpdateScrollBar();
+    }
+}
+
 int CPieChartWnd::RemoveItem(const CString& strElement)
 {
-    const auto found = Find(strElement);
-    return found != m_mapElements.end() ? Remove(m_mapElements.find(found->first)) : 0;
+    const SPieElement* const element = GetPieChartItem(strElement);
+    if (element == nullptr) {
+        return 0;
+    }
+    return Remove(std::find_if(m_mapElements.begin(), m_mapElements.end(),
+                               [&](const auto& entry) { return entry.second.get() == element; }));
 }
 
 int CPieChartWnd::RemoveItemByIndex(std::int32_t iElementID)
@@ -53,12 +72,14 @@ int CPieChartWnd::RemoveItemByIndex(std::int32_t iElementID)
 
 int CPieChartWnd::Remove(TPieElements::iterator position)
 {
+    Settle();
     const double total = m_dTotal - position->second->dValue;
     if (!PieShares::IsUsable(total)) {
         return 0;
     }
     CString longestLabel = LongestLabelWith(position->second.get(), {});
     m_dTotal = total;
+    m_Names.erase(position->second->strName.View());
     m_mapElements.erase(position);
     --m_nElements;
     RenumberElements();
@@ -71,12 +92,13 @@ int CPieChartWnd::Remove(TPieElements::iterator position)
     return 1;
 }
 
-void CPieChartWnd::RemoveAllItem() noexcept
+void CPieChartWnd::RemoveAllItem()
 {
+    Settle();
     m_dTotal = 0;
     m_nElements = 0;
+    m_Names.clear();
     m_mapElements.clear();
-    m_KeptPicture.Reset();
 }
 
 int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
@@ -96,6 +118,7 @@ int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
     if (pItem == nullptr || dVal == 0) {
         return 0;
     }
+    Settle();
     const double total = m_dTotal - pItem->dValue + dVal;
     if (!PieShares::IsUsable(total)) {
         return 0;
@@ -241,23 +264,16 @@ void CPieChartWnd::RecalcPercents() noexcept
     }
 }
 
-TPieElements::const_iterator CPieChartWnd::Find(const CString& strElement) const noexcept
-{
-    return std::find_if(m_mapElements.begin(), m_mapElements.end(), [&](const auto& entry) {
-        return entry.second->strName.Compare(strElement) == 0;
-    });
-}
-
 SPieElement* CPieChartWnd::GetPieChartItem(const CString& strElement) const noexcept
 {
-    const auto found = Find(strElement);
-    return found != m_mapElements.end() ? found->second.get() : nullptr;
+    const auto found = m_Names.find(strElement.GetString()); // as Compare, up to a null unit
+    return found != m_Names.end() ? found->second : nullptr;
 }
 
 std::int32_t CPieChartWnd::GetElementID(const CString& strElement) const noexcept
 {
-    const auto found = Find(strElement);
-    return found != m_mapElements.end() ? found->second->nOrder : -1;
+    const SPieElement* const element = GetPieChartItem(strElement);
+    return element != nullptr ? element->nOrder : -1;
 }
 
 SPieElement* CPieChartWnd::GetSelectedElement() const noexcept

@@ -2,6 +2,7 @@
 
 void CPieChartWnd::HitTest(POINT point)
 {
+    Settle();
     if (m_nChartStyle == 2) {
         SelectOnFaces(point);
     } else {

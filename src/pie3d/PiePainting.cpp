@@ -3,6 +3,7 @@
 #include "framework/windowing/DeviceContexts.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -43,8 +44,10 @@ GdiPlus::CPath RoundedFrame(const TRect& rc) noexcept
 
 void CPieChartWnd::DrawFrame(CDC& dc, TSlicePainter pfnSlices)
 {
-    const TRect client = ClientRect();
-    const TPicture picture = KeptOrNewPicture(client, pfnSlices);
+    if (m_nChartStyle == 2) {
+        ProjectAngles(); // clicks go by them, kept picture or not
+    }
+    const TPicture picture = KeptOrNewPicture(pfnSlices);
     {
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
@@ -58,39 +61,94 @@ void CPieChartWnd::DrawFrame(CDC& dc, TSlicePainter pfnSlices)
         screen.SmoothHighQuality();
     }
     SaveImage(picture.Bitmap);
+    const TRect client = ClientRect();
     screen.DrawWhole(picture.Bitmap, {client.left, client.top});
 }
 
-CPieChartWnd::TPicture CPieChartWnd::KeptOrNewPicture(const TRect& rcClient, TSlicePainter pfnSlices)
-{
-    if (m_KeptPicture) {
-        GdiPlus::CBitmap copy = GdiPlus::CloneOf(m_KeptPicture);
-        if (copy) {
-            return {std::move(copy), true};
-        }
-    }
-    return NewPicture(rcClient, pfnSlices);
-}
-
 // The background and the slices. With very many of these, and the percents clear of the
-// list, the percents follow at once and the result is kept for the next steps of scrolling.
-CPieChartWnd::TPicture CPieChartWnd::NewPicture(const TRect& rcClient, TSlicePainter pfnSlices)
+// list, the percents follow at once and are kept with them for the next steps of scrolling.
+CPieChartWnd::TPicture CPieChartWnd::KeptOrNewPicture(TSlicePainter pfnSlices)
 {
-    TPicture picture{GdiPlus::NewBitmap({rcClient.Width(), rcClient.Height()})};
+    TPieLook look = PieLook();
+    TPicture picture{m_KeptPicture.CopyFor(look), m_bKeptPercents};
+    if (picture.Bitmap) {
+        return picture;
+    }
+    picture = {KeptOrNewBackground(), false};
     {
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
-        DrawBackground(graphics);
         (this->*pfnSlices)(graphics);
         picture.bHasPercents = m_mapElements.size() >= nVeryMany && !PercentsReachLabels(graphics);
         if (picture.bHasPercents && m_bShowPercent) {
             DrawPercents(graphics);
         }
     }
-    if (picture.bHasPercents) {
-        m_KeptPicture = GdiPlus::CloneOf(picture.Bitmap);
-    }
+    m_KeptPicture.Keep(std::move(look), picture.Bitmap);
+    m_bKeptPercents = picture.bHasPercents;
     return picture;
+}
+
+// Frame and title, which no change of the elements touches.
+GdiPlus::CBitmap CPieChartWnd::KeptOrNewBackground()
+{
+    TBackgroundLook look = BackgroundLook();
+    GdiPlus::CBitmap picture = m_KeptBackground.CopyFor(look);
+    if (picture) {
+        return picture;
+    }
+    picture = GdiPlus::NewBitmap(look.size);
+    {
+        const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture);
+        graphics.SmoothHighQuality();
+        DrawBackground(graphics);
+    }
+    m_KeptBackground.Keep(std::move(look), picture);
+    return picture;
+}
+
+TPieFont CPieChartWnd::TitleFontLook() const
+{
+    const std::int32_t points = std::min(FrameOf(ClientRect()).Height() / 10, 20);
+    return {std::wstring(m_strTitleFontName.View()), points, m_nTitleFontStyle};
+}
+
+TPieFont CPieChartWnd::LabelFontLook(std::int32_t nPoints) const
+{
+    return {std::wstring(m_strLabelFontName.View()), nPoints, m_nLabelFontStyle};
+}
+
+TBackgroundLook CPieChartWnd::BackgroundLook() const
+{
+    const TRect client = ClientRect();
+    return {{client.Width(), client.Height()},
+            m_crParentWindow,
+            m_crBackgroundLight,
+            m_crBackgroundDark,
+            m_crLabel,
+            std::wstring(m_strTitle.View()),
+            TitleFontLook()};
+}
+
+TPieLook CPieChartWnd::PieLook() const
+{
+    TPieLook look{.background = BackgroundLook(),
+                  .nChartStyle = m_nChartStyle,
+                  .nPieLimit = m_nPieLimit,
+                  .fStartAngle = m_fStartAngle,
+                  .fInclineAngle = m_fInclineAngle,
+                  .fDepthRatio = m_fDepthRatio,
+                  .crSelected = m_crSelected,
+                  .crLabel = m_crLabel,
+                  .bShowPercent = m_bShowPercent != FALSE,
+                  .percentFont = LabelFontLook(PieLabels::PercentFontSize(GetPieRect())),
+                  .slices = {}};
+    look.slices.reserve(m_mapElements.size());
+    for (const auto& [key, element] : m_mapElements) {
+        look.slices.push_back({element->fSweep, element->fPercent, element->crLight, element->crDark,
+                               element->crColor, element->bSelected != FALSE});
+    }
+    return look;
 }
 
 GdiPlus::CLineBrush CPieChartWnd::DiagonalBrush() const
@@ -114,8 +172,7 @@ void CPieChartWnd::DrawBackground(const GdiPlus::CGraphics& graphics) const
 
 void CPieChartWnd::DrawTitle(const GdiPlus::CGraphics& graphics, const TRect& rcFrame) const
 {
-    const std::int32_t points = std::min(rcFrame.Height() / 10, 20);
-    const GdiPlus::CFont font = GdiPlus::NewFont(m_strTitleFontName, points, m_nTitleFontStyle);
+    const GdiPlus::CFont font = NewFont(TitleFontLook());
     const GdiPlus::CSolidBrush brush = GdiPlus::NewSolidBrush(m_crLabel);
     const GdiPlus::CStringFormat format = GdiPlus::NewStringFormat(0);
     const PieGeometry::TRectF size = graphics.Measure(m_strTitle.View(), font);

@@ -75,6 +75,7 @@ PieScroll::TList CPieChartWnd::ScrollList() const
 
 std::int32_t CPieChartWnd::SyncFirstLabel(std::int32_t nPos, BOOL bTrack)
 {
+    Settle();
     const PieScroll::TList list = ScrollList();
     const PieScroll::TSynced synced = PieScroll::SyncFirstLabel(list, nPos, bTrack != FALSE);
     m_nFirstLabel = synced.nFirst;
@@ -86,6 +87,7 @@ std::int32_t CPieChartWnd::SyncFirstLabel(std::int32_t nPos, BOOL bTrack)
 
 void CPieChartWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
+    Settle();
     const PieScroll::TList list = ScrollList();
     const PieScroll::EStep step = StepOf(nSBCode);
     std::optional<std::int32_t> trackPos;
@@ -98,7 +100,6 @@ void CPieChartWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (scrolled.bToLimit) {
         m_wndScrollBar.SetScrollPos(list.nLimit);
     }
-    // Only the list has changed, so a kept picture stays good.
     Invalidate(TRUE);
     m_wndScrollBar.SetScrollPos(scrolled.nPos, TRUE);
     CWnd::OnVScroll(nSBCode, nPos, pScrollBar);

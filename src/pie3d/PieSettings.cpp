@@ -62,7 +62,6 @@ void CPieChartWnd::SetLabelBoxColor(PieColors::Argb crItem)
 void CPieChartWnd::SetParentWindowColor(COLORREF crParent) noexcept
 {
     m_crParentWindow = crParent;
-    m_KeptPicture.Reset();
 }
 
 void CPieChartWnd::SetLabelFontName(const CString& strName)

@@ -6,15 +6,17 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace
 {
 
 constexpr INT nLineLimit = 8192; // StringFormatFlagsLineLimit
 
-CString PercentText(const SPieElement& element, bool bTwoDigits = false)
+std::wstring PercentText(const SPieElement& element, bool bTwoDigits = false)
 {
-    return CString(std::u16string_view(PieShares::PercentText(element.fPercent, bTwoDigits)));
+    const std::u16string text = PieShares::PercentText(element.fPercent, bTwoDigits);
+    return {text.begin(), text.end()};
 }
 
 float AsFloat(std::int32_t value) noexcept
@@ -22,16 +24,11 @@ float AsFloat(std::int32_t value) noexcept
     return static_cast<float>(value);
 }
 
-// Whether the width holds the first glyph; none at all is no limit. Without that room nothing is
-// shown, but the platform may lose a memory context in the attempt.
-bool HoldsAGlyph(const GdiPlus::CGraphics& graphics, std::wstring_view text, const GdiPlus::CFont& font,
-                 float width)
+// Whether a column has room for a text; no width at all is no limit. Without room for the margins
+// nothing is shown, but the platform may lose a memory context in the attempt.
+bool HasRoom(float width, float margins) noexcept
 {
-    if (width <= 0) {
-        return true;
-    }
-    const auto needs = [&](std::wstring_view part) { return graphics.Measure(part, font).width; };
-    return width >= needs(L" ") && width >= needs(text.substr(0, 1));
+    return width <= 0 || width >= margins;
 }
 
 } // namespace
@@ -43,12 +40,12 @@ void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
     const GdiPlus::CSolidBrush mark = GdiPlus::NewSolidBrush(0xFF000000);
     const GdiPlus::CPen edge = GdiPlus::NewPen(0xFF000000, 2.0f);
     const GdiPlus::CSolidBrush ink = GdiPlus::NewSolidBrush(m_crLabel);
-    const GdiPlus::CFont font =
-        GdiPlus::NewFont(m_strLabelFontName, PieLabels::LabelFontSize(pie), m_nLabelFontStyle);
+    const GdiPlus::CFont font = NewFont(LabelFontLook(PieLabels::LabelFontSize(pie)));
 
     const std::int32_t firstY = PieLabels::FirstRow(pie, m_nElements, m_nRowHeight, m_nRowGap);
     const float textX = AsFloat(6 * pie.right / 5 + m_nMarkWidth);
     const float longest = graphics.Measure(m_strLongestLabel.View(), font, {textX, 0, 0, 0}).width;
+    const float margins = graphics.Measure(L" ", font).width;
     const PieGeometry::TRectF percentSize = graphics.Measure(L"100.00%", font);
     const PieLabels::TColumns columns = PieLabels::ColumnsFor(
         pie, m_nMarkWidth, ClientRect().right - m_nScrollBarInset, longest, percentSize.width);
@@ -66,17 +63,17 @@ void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
         GdiPlus::SetColor(edge, PieColors::LightenColor(element.crColor, 200.0f));
         graphics.FillRectangle(mark.Get(), rcMark);
         graphics.DrawRectangle(edge, rcMark);
-        if (HoldsAGlyph(graphics, element.strLabel.View(), font, columns.fTextWidth)) {
+        if (HasRoom(columns.fTextWidth, margins)) {
             graphics.DrawString(element.strLabel.View(), font,
                                 {textX, AsFloat(y), columns.fTextWidth, AsFloat(m_nRowHeight)},
                                 ink.Get(), &format);
         }
         if (m_bLabelPercent && columns.fPercentWidth > 0) {
             DrawPercentSeparator(graphics, columns, firstY, y);
-            const CString percent = PercentText(element, true);
-            if (HoldsAGlyph(graphics, percent.View(), font, columns.fPercentWidth)) {
+            const std::wstring percent = PercentText(element, true);
+            if (HasRoom(columns.fPercentWidth, margins)) {
                 graphics.DrawString(
-                    percent.View(), font,
+                    percent, font,
                     {columns.fPercentX + 1, AsFloat(y), columns.fPercentWidth, percentSize.height},
                     ink.Get(), &format);
             }
@@ -105,45 +102,40 @@ void CPieChartWnd::DrawPercentSeparator(const GdiPlus::CGraphics& graphics,
     }
 }
 
-GdiPlus::CFont CPieChartWnd::PercentFont() const
-{
-    return GdiPlus::NewFont(m_strLabelFontName, PieLabels::PercentFontSize(GetPieRect()),
-                            m_nLabelFontStyle);
-}
-
-void CPieChartWnd::DrawPercents(const GdiPlus::CGraphics& graphics) const
+void CPieChartWnd::DrawPercents(const GdiPlus::CGraphics& graphics)
 {
     const TRect pie = GetPieRect();
     const PieGeometry::TFaces faces = Faces();
-    const GdiPlus::CFont font = PercentFont();
+    const TPieFont fontLook = LabelFontLook(PieLabels::PercentFontSize(pie));
+    const GdiPlus::CFont font = NewFont(fontLook);
     const GdiPlus::CSolidBrush ink = GdiPlus::NewSolidBrush(m_crLabel);
     float start = m_fStartAngle;
     for (const auto& [key, element] : m_mapElements) {
         const PieGeometry::TPointF centre =
             PieLabels::PercentCentre(pie, faces, m_nChartStyle == 2, start, element->fSweep);
-        const CString text = PercentText(*element);
-        const PieGeometry::TRectF size = graphics.Measure(text.View(), font);
-        graphics.DrawString(text.View(), font,
-                            {centre.x - size.width * 0.5f, centre.y - size.height * 0.5f, 0, 0},
-                            ink.Get());
+        const std::wstring text = PercentText(*element);
+        const PieGeometry::TRectF size = m_PercentSizes.Of(text, graphics, font, fontLook);
+        graphics.DrawString(
+            text, font, {centre.x - size.width * 0.5f, centre.y - size.height * 0.5f, 0, 0}, ink.Get());
         start += element->fSweep;
     }
 }
 
 // Whether a percent may stand on the label list, so that it matters which is drawn first.
-bool CPieChartWnd::PercentsReachLabels(const GdiPlus::CGraphics& graphics) const
+bool CPieChartWnd::PercentsReachLabels(const GdiPlus::CGraphics& graphics)
 {
-    CString longest;
+    std::wstring longest;
     for (const auto& [key, element] : m_mapElements) {
-        const CString text = PercentText(*element);
-        if (text.GetLength() > longest.GetLength()) {
-            longest = text;
+        std::wstring text = PercentText(*element);
+        if (text.size() > longest.size()) {
+            longest = std::move(text);
         }
     }
     const TRect pie = GetPieRect();
     const std::int32_t farthest = PieGeometry::CentreOf(pie).x + 2 * pie.Width() / 5;
     const std::int32_t list = pie.right + pie.right / 10;
     constexpr float margin = 4.0f; // the mark's edge, and digits of unequal width
-    return AsFloat(farthest) + graphics.Measure(longest.View(), PercentFont()).width * 0.5f + margin >
-           AsFloat(list);
+    const TPieFont fontLook = LabelFontLook(PieLabels::PercentFontSize(pie));
+    const float width = m_PercentSizes.Of(longest, graphics, NewFont(fontLook), fontLook).width;
+    return AsFloat(farthest) + width * 0.5f + margin > AsFloat(list);
 }

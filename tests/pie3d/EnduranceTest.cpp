@@ -102,7 +102,7 @@ TEST_F(PieCycle, LeavesNoMemoryBehind)
     EXPECT_LT(HeapBlocks() - before, cycles);
 }
 
-TEST_F(PieCycle, LeavesNoMemoryBehindWhenThePictureIsKept)
+TEST_F(PieCycle, LeavesNoMemoryBehindWhenThePercentsAreKept)
 {
     constexpr int cycles = 5;
     Run(260);

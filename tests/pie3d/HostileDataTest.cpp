@@ -105,6 +105,7 @@ TEST_F(PieHostile, TenThousandElementsAreDrawnScrolledAndRemoved)
     for (int i = 0; i < 10000; ++i) {
         ASSERT_NE(pie.InsertItem(Name(i), Name(i), 1 + i % 7, kRed), nullptr);
     }
+    pie.Settle();
     EXPECT_EQ(pie.m_nElements, 10000);
     EXPECT_EQ(pie.m_nLabelsHeight, 429982); // 10000 * 43 - 18
     Plain();
@@ -122,7 +123,7 @@ TEST_F(PieHostile, TenThousandElementsAreDrawnScrolledAndRemoved)
 
 TEST_F(PieHostile, AStepOfScrollingShowsWhatAFullPaintShows)
 {
-    for (int i = 0; i < 300; ++i) { // enough for the picture to be kept
+    for (int i = 0; i < 300; ++i) { // enough for the percents to be kept
         Fill({1.0 + i % 5});
     }
     pie.SetInclineAngle(50);

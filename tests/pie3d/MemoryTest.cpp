@@ -5,13 +5,14 @@
 #include "support/ImportSlot.h"
 
 extern "C" {
-extern decltype(&Gdiplus::DllExports::GdipCloneImage) __imp_GdipCloneImage;
+extern decltype(&Gdiplus::DllExports::GdipBitmapLockBits) __imp_GdipBitmapLockBits;
 }
 
 namespace
 {
 
-Gdiplus::GpStatus WINGDIPAPI NoRoomForAClone(Gdiplus::GpImage*, Gdiplus::GpImage**)
+Gdiplus::GpStatus WINGDIPAPI NoRoom(Gdiplus::GpBitmap*, GDIPCONST Gdiplus::GpRect*, UINT,
+                                    Gdiplus::PixelFormat, Gdiplus::BitmapData*)
 {
     return Gdiplus::OutOfMemory;
 }
@@ -30,6 +31,7 @@ protected:
         EXPECT_EQ(pie.m_nElements, 2);
         EXPECT_EQ(pie.m_dTotal, 4);
         EXPECT_EQ(Order(), L"e0 e1");
+        EXPECT_EQ(pie.GetPieChartItem(L"new"), nullptr);
         EXPECT_EQ(Element(0).fPercent, 0.25f);
         EXPECT_EQ(Element(0).strLabel, L"label");
         EXPECT_EQ(pie.m_strLongestLabel, L"label");
@@ -43,7 +45,9 @@ TEST_F(PieMemory, AnInsertionThatRunsOutChangesNothing)
                                                 [&] { ExpectUntouched(); });
     EXPECT_GE(failures, 4); // the element, its label, the longest one, the map's node
     EXPECT_EQ(pie.m_nElements, 3);
+    EXPECT_EQ(pie.GetElementID(name), 2);
     EXPECT_EQ(pie.m_strLongestLabel, longText);
+    pie.Settle();
     EXPECT_EQ(Element(0).fPercent, 0.125f);
 }
 
@@ -81,15 +85,15 @@ TEST_F(PieMemory, ASortThatRunsOutChangesNothing)
 
 TEST_F(PieMemory, APictureThatCannotBeKeptShowsWhatAFullPaintShows)
 {
-    for (int i = 0; i < 300; ++i) { // enough for the picture to be kept
+    for (int i = 0; i < 300; ++i) { // enough for the percents to be kept
         Fill({1.0 + i % 5});
     }
     const Picture expected = Shoot();
     {
-        const ImportSlot slot(__imp_GdipCloneImage, &NoRoomForAClone);
+        const ImportSlot slot(__imp_GdipBitmapLockBits, &NoRoom);
         pie.Invalidate(); // a picture is there, and no room for a copy of it
         EXPECT_EQ(Shoot().CountDifferences(expected), 0);
-        pie.SetPieChartTitle(pie.m_strTitle); // none is there, and none can be kept
+        pie.Invalidate(); // none is there, and none can be kept
         EXPECT_EQ(Shoot().CountDifferences(expected), 0);
     }
     pie.Invalidate();

@@ -13,9 +13,10 @@ class PiePens : public PieWindow
 protected:
     using TLines = std::vector<std::string>;
 
-    // The calls of that kind in one whole paint.
+    // The calls of that kind in one whole paint: behind another colour nothing that was kept fits.
     TLines Painted(const std::string& kind)
     {
+        pie.m_crParentWindow ^= 1;
         pie.Invalidate();
         const DrawingCalls calls;
         pie.UpdateWindow();

@@ -33,6 +33,7 @@ protected:
             const int number = pie.m_nElements;
             pie.InsertItem(Name(number), L"label", value, colors[number % 3]);
         }
+        pie.Settle();
     }
     static CString Name(int number)
     {

@@ -135,10 +135,10 @@ TEST(BarAnimation, UnknownTypeNeverMoves)
     TRun run(23, 3, 3);
     run.Tick(300);
     EXPECT_EQ(run.animation.m_nAnimationPercent, 0);
-    EXPECT_FALSE(CBarAnimation::IsKnown(23));
-    EXPECT_FALSE(CBarAnimation::IsKnown(24));
-    EXPECT_TRUE(CBarAnimation::IsKnown(22));
-    EXPECT_TRUE(CBarAnimation::IsKnown(26));
+    EXPECT_FALSE(FindBarAnimation(23));
+    EXPECT_FALSE(FindBarAnimation(24));
+    EXPECT_TRUE(FindBarAnimation(22));
+    EXPECT_TRUE(FindBarAnimation(26));
 }
 
 TEST(BarAnimation, RunsOnAnEmptyChart)

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <memory>
+#include <random>
 #include <vector>
 
 namespace
@@ -215,4 +218,128 @@ TEST(ValueTable, MaximumIsThatOfTheFirstSegmentAloneAndNeverBelowZero)
     EXPECT_EQ(CValueTable(data).Maximum(), 20);
     ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
     EXPECT_EQ(CValueTable(data).Maximum(), 900);
+}
+
+namespace
+{
+
+// The same data kept the plain way: everything is found by a walk from the front.
+class PlainData
+{
+public:
+    void AddSegment()
+    {
+        const auto value = std::make_shared<std::pair<int, int>>(++m_segmentCount, 0);
+        for (auto& series : m_series)
+            series.values.push_back(value);
+        m_segments.push_back(m_segmentCount);
+    }
+    bool DeleteSegment(int index)
+    {
+        const auto found = std::find(m_segments.begin(), m_segments.end(), index);
+        if (index > m_segmentCount || found == m_segments.end())
+            return false;
+        m_segments.erase(found);
+        --m_segmentCount;
+        return true;
+    }
+    bool AddSeries()
+    {
+        if (m_segmentCount < 1)
+            return false;
+        m_series.push_back({++m_seriesCount, {}});
+        for (int segment = 1; segment <= m_segmentCount; ++segment)
+            m_series.back().values.push_back(std::make_shared<std::pair<int, int>>(segment, 0));
+        return true;
+    }
+    bool DeleteSeries(int index)
+    {
+        const auto found = FindSeries(index);
+        if (index > m_seriesCount || found == m_series.end())
+            return false;
+        m_series.erase(found);
+        --m_seriesCount;
+        return true;
+    }
+    bool SetValue(int segment, int series, int value)
+    {
+        const auto found = FindSeries(series);
+        if (segment > m_segmentCount || series > m_seriesCount || found == m_series.end())
+            return false;
+        const auto node = std::find_if(found->values.begin(), found->values.end(),
+                                       [&](const auto& entry) { return entry->first == segment; });
+        if (node == found->values.end())
+            return false;
+        (*node)->second = value;
+        return true;
+    }
+
+    struct TSeries {
+        int id;
+        std::vector<std::shared_ptr<std::pair<int, int>>> values;
+    };
+    std::vector<int> m_segments;
+    std::vector<TSeries> m_series;
+
+private:
+    std::vector<TSeries>::iterator FindSeries(int id)
+    {
+        return std::find_if(m_series.begin(), m_series.end(),
+                            [&](const TSeries& series) { return series.id == id; });
+    }
+    int m_segmentCount = 0;
+    int m_seriesCount = 0;
+};
+
+void ExpectEqual(const CBarData& data, const PlainData& plain)
+{
+    ASSERT_EQ(SegmentIds(data), plain.m_segments);
+    const SBarSeries* series = data.m_pSeries;
+    for (std::size_t place = 0; place < plain.m_series.size(); ++place, series = series->pNext) {
+        ASSERT_NE(series, nullptr);
+        ASSERT_EQ(series->nId, plain.m_series[place].id);
+        TPairs values;
+        for (const auto& value : plain.m_series[place].values)
+            values.push_back(*value);
+        ASSERT_EQ(Values(data, static_cast<int>(place)), values);
+    }
+    ASSERT_EQ(series, nullptr);
+}
+
+} // namespace
+
+TEST(BarData, IndexesFindWhatAWalkFinds)
+{
+    std::mt19937 random(2024);
+    const auto below = [&](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    for (int round = 0; round < 40; ++round) {
+        CBarData data;
+        PlainData plain;
+        for (int step = 0; step < 60; ++step) {
+            const int index = 1 + below(8);
+            const int other = 1 + below(8);
+            switch (below(6)) {
+            case 0:
+                data.AddSegment(u"segment");
+                plain.AddSegment();
+                break;
+            case 1:
+                ASSERT_EQ(data.AddSeries(u"series", 0) == ERefusal::none, plain.AddSeries());
+                break;
+            case 2:
+                ASSERT_EQ(data.DeleteSegment(index) == ERefusal::none, plain.DeleteSegment(index));
+                break;
+            case 3:
+                ASSERT_EQ(data.DeleteSeries(index) == ERefusal::none, plain.DeleteSeries(index));
+                break;
+            default:
+                ASSERT_EQ(data.SetValue(index, other, step) == ERefusal::none,
+                          plain.SetValue(index, other, step));
+                break;
+            }
+            ASSERT_NO_FATAL_FAILURE(ExpectEqual(data, plain)) << round << ' ' << step;
+        }
+    }
 }

@@ -8,6 +8,8 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
+#include <tuple>
 #include <vector>
 
 namespace
@@ -392,4 +394,28 @@ TEST(FlatPiePicture, EmptyPieAndUnknownAnimationShowNothing)
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
     animation.SetAnimation(7, 10, right); // not 1: still
     EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
+}
+
+TEST(FlatPieData, TotalIsTheSumOfTheListToTheLastBit)
+{
+    std::mt19937 random(11);
+    CFlatPieData data;
+    for (int step = 0; step < 2000; ++step) {
+        const unsigned kind = random() % 10;
+        const auto index = static_cast<std::int32_t>(1 + random() % 20);
+        if (kind == 0)
+            std::ignore = data.DeleteSegment(index);
+        else if (kind == 1)
+            std::ignore = data.UpdateSegment(index, static_cast<std::int32_t>(random() % 9), 0, u"");
+        else if (kind == 2 && step % 50 == 0)
+            data.Clear();
+        else
+            data.AddSegment(static_cast<double>(random() % 1000) / 700, 0, u"slice");
+        double sum = 0;
+        for (const double percent : Percents(data))
+            sum += percent;
+        if (data.m_nSegments > 0) { // a total outlives a clear
+            ASSERT_EQ(data.m_dTotalPercent, sum) << step;
+        }
+    }
 }

@@ -1,0 +1,33 @@
+#include "charts2d/BarAnimationTable.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "charts2d/BarAnimation.h"
+#include "charts2d/BarComposer.h"
+
+namespace
+{
+
+constexpr TBarAnimationRow rows[] = {
+    {CBarAnimation::allGrow, &CBarAnimation::m_nGrowSegment, &TBarCounts::nSegments,
+     &CBarAnimation::GrowAll, &CBarComposer::GrowingBars},
+    {CBarAnimation::groupsGrow, &CBarAnimation::m_nGrowSegment, &TBarCounts::nSegments,
+     &CBarAnimation::GrowInTurn, &CBarComposer::GrowingGroups},
+    {CBarAnimation::seriesGrow, &CBarAnimation::m_nGrowSeries, &TBarCounts::nSeries,
+     &CBarAnimation::GrowInTurn, &CBarComposer::GrowingSeries},
+    {CBarAnimation::groupsFade, &CBarAnimation::m_nFadeSegment, &TBarCounts::nSegments,
+     &CBarAnimation::FadeInTurn, &CBarComposer::FadingGroups},
+    {CBarAnimation::seriesFade, &CBarAnimation::m_nFadeSeries, &TBarCounts::nSeries,
+     &CBarAnimation::FadeInTurn, &CBarComposer::FadingSeries},
+};
+
+} // namespace
+
+const TBarAnimationRow* FindBarAnimation(std::int32_t type) noexcept
+{
+    const auto* const found =
+        std::find_if(std::begin(rows), std::end(rows),
+                     [type](const TBarAnimationRow& row) { return row.nType == type; });
+    return found != std::end(rows) ? found : nullptr;
+}
