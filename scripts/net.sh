@@ -4,20 +4,24 @@
 #
 #   scripts/net.sh OLD.dll [NEW.dll]       NEW is the DLL of this tree, built first, by default
 #   scripts/net.sh --base COMMIT [NEW.dll] OLD is built from that commit, in a worktree under build/
-#   scripts/net.sh --masked [NEW.dll]      compares with the recorded run of the tests
-#   scripts/net.sh --record [NEW.dll]      writes that run anew, after a change that is meant
+#   scripts/net.sh --frames N ...          compares the frames of N random graphs too; --seed S
+#                                          before it takes others (default 1)
+#   scripts/net.sh --masked [NEW.dll]      compares with the recorded runs of the tests
+#   scripts/net.sh --record [NEW.dll]      writes these runs anew, after a change that is meant
 #
-# The outputs stay in build/net (old-values.txt, new-values.txt, old-saved.txt, new-saved.txt).
+# The outputs stay in build/net: old-values.txt and new-values.txt, old-saved.txt and so on. Of a
+# frame that differs, vantoplex-net.exe DLL --frames 1 --first GRAPH --pictures FOLDER writes the
+# pictures (head of tests/net/main.cpp).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 export VANTOPLEX_BUILD="${VANTOPLEX_BUILD:-$PWD/build}"
 source scripts/wine-env.sh
 folder=$VANTOPLEX_BUILD/net
 program=$VANTOPLEX_BUILD/windows-x64/bin/vantoplex-net.exe
-recorded=tests/net/recorded.txt
+scripted=(--masked) bare=(--frames 100 --seed 2 --bare)
 mkdir -p "$folder"
 
-usage() { sed -n '2,12p' "$0" >&2; exit 2; }
+usage() { sed -n '2,15p' "$0" >&2; exit 2; }
 
 build_base() {
   local commit tree
@@ -35,32 +39,50 @@ build_base() {
 drive() {
   local dll=$1 name=$2
   shift 2
-  scripts/run-wine.sh -t 300 "$program" "$(wine_path "$dll")" --out "$(wine_path "$folder/$name")" "$@"
+  scripts/run-wine.sh -t 3600 "$program" "$(wine_path "$dll")" --out "$(wine_path "$folder/$name")" "$@"
 }
 
-mode=compare old=
-case "${1:-}" in
-  --base) [ $# -ge 2 ] || usage; build_base "$2"; old=$base; shift 2 ;;
-  --masked | --record) mode=${1#--}; shift ;;
-  "" | -*) usage ;;
-  *) old=$1; shift ;;
-esac
+# compare OLD NEW NAME OPTIONS...
+compare() {
+  local old=$1 new=$2 name=$3
+  shift 3
+  echo "== $name"
+  drive "$old" "old-$name.txt" "$@" >/dev/null
+  drive "$new" "new-$name.txt" "$@" --against "$(wine_path "$folder/old-$name.txt")" || code=1
+}
+
+# keep FILE: takes a recorded run into the tree.
+keep() { tr -d '\r' <"$folder/$1" >"tests/net/$1"; }
+
+mode=compare old='' frames=0 seed=1 code=0
+while [ $# -gt 0 ]; do
+  case $1 in
+    --base) [ $# -ge 2 ] || usage; build_base "$2"; old=$base; shift 2 ;;
+    --frames) frames=${2:?}; shift 2 ;;
+    --seed) seed=${2:?}; shift 2 ;;
+    --masked | --record) mode=${1#--}; shift ;;
+    -*) usage ;;
+    *) break ;;
+  esac
+done
+if [ $mode = compare ] && [ -z "$old" ]; then old=${1:-}; shift || usage; fi
 new=${1:-}
 scripts/build.sh windows-x64 vantoplex-net >&2
 [ -n "$new" ] || { scripts/build.sh windows-x64 Vantoplex >&2; new=$VANTOPLEX_BUILD/windows-x64/bin/Vantoplex.dll; }
 
 case $mode in
-  record) drive "$new" recorded.txt --masked && tr -d '\r' <"$folder/recorded.txt" >"$recorded" ;;
-  masked) drive "$new" new.txt --masked --against "$(wine_path "$recorded")" ;;
+  record)
+    drive "$new" recorded-script.txt "${scripted[@]}" && keep recorded-script.txt
+    drive "$new" recorded-frames.txt "${bare[@]}" && keep recorded-frames.txt
+    ;;
+  masked)
+    drive "$new" script.txt "${scripted[@]}" --against "$(wine_path tests/net/recorded-script.txt)" || code=1
+    drive "$new" frames.txt "${bare[@]}" --against "$(wine_path tests/net/recorded-frames.txt)" || code=1
+    ;;
   compare)
-    code=0
-    for pass in values saved; do
-      options=()
-      [ $pass = saved ] && options=(--saved)
-      drive "$old" old-$pass.txt "${options[@]}" >/dev/null
-      echo "== $pass"
-      drive "$new" new-$pass.txt "${options[@]}" --against "$(wine_path "$folder/old-$pass.txt")" || code=1
-    done
-    exit $code
+    compare "$old" "$new" values
+    compare "$old" "$new" saved --saved
+    [ "$frames" -eq 0 ] || compare "$old" "$new" frames --frames "$frames" --seed "$seed"
     ;;
 esac
+exit $code

@@ -59,8 +59,11 @@ std::vector<MSG> HostWindow::TakePosted() const
 
 void HostWindow::Settle()
 {
+    constexpr DWORD quiet = 60, most = 1000; // milliseconds
+    const DWORD nStart = ::GetTickCount();
     MSG message;
-    while (::MsgWaitForMultipleObjects(0, nullptr, FALSE, 60, QS_ALLINPUT) == WAIT_OBJECT_0) {
+    while (::GetTickCount() - nStart < most &&
+           ::MsgWaitForMultipleObjects(0, nullptr, FALSE, quiet, QS_ALLINPUT) == WAIT_OBJECT_0) {
         while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             ::TranslateMessage(&message);
             ::DispatchMessageW(&message);

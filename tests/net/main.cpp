@@ -2,17 +2,22 @@
 // after every step, so that two builds can be compared line by line (scripts/net.sh).
 //
 //   vantoplex-net DLL [--saved] [--masked] [--out FILE] [--against FILE]
+//   vantoplex-net DLL --frames N [--seed S] [--first K] [--bare] [--pictures FOLDER] [...]
 //
 //   --saved          prints what graphs write to files instead of what they show
 //   --masked         leaves out what the platform's fonts decide
 //   --out FILE       prints into the file
 //   --against FILE   compares the lines with those of the file, prints the first that differ and
 //                    ends with code 1 if there are any
+//   --frames N       instead of the script, N random graphs of a few frames each, as checksums of
+//                    all pixels and values; --bare shows nothing that fonts decide, and --first K
+//                    with --pictures FOLDER shows the frames of graph K
 
 #include "Comparison.h"
+#include "Frames.h"
 #include "Scripts.h"
 
-#include <cstring>
+#include <cstdlib>
 #include <string>
 
 namespace
@@ -23,6 +28,7 @@ struct TOptions {
     std::wstring against;
     bool bSaved = false;
     bool bMasked = false;
+    Frames::TPlan frames;
 };
 
 bool Read(int nArguments, wchar_t** arguments, TOptions& options)
@@ -34,6 +40,16 @@ bool Read(int nArguments, wchar_t** arguments, TOptions& options)
             options.bSaved = true;
         else if (word == L"--masked")
             options.bMasked = true;
+        else if (word == L"--bare")
+            options.frames.bBare = true;
+        else if (word == L"--frames" && bMore)
+            options.frames.nGraphs = ::_wtoi(arguments[++i]);
+        else if (word == L"--first" && bMore)
+            options.frames.nFirst = ::_wtoi(arguments[++i]);
+        else if (word == L"--seed" && bMore)
+            options.frames.seed = ::wcstoull(arguments[++i], nullptr, 10);
+        else if (word == L"--pictures" && bMore)
+            options.frames.pictures = arguments[++i];
         else if (word == L"--out" && bMore)
             options.out = arguments[++i];
         else if (word == L"--against" && bMore)
@@ -48,6 +64,8 @@ bool Read(int nArguments, wchar_t** arguments, TOptions& options)
 
 void Drive(const Server& server, Report& report, const TOptions& options)
 {
+    if (options.frames.nGraphs > 0)
+        return Frames::Run(server, report, options.frames);
     Watch watch(server, report, options.bSaved ? Pass::saved : Pass::values);
     Scripts::Gestures(watch);
     Scripts::Calls(watch);
@@ -83,7 +101,7 @@ int wmain(int nArguments, wchar_t** arguments)
 {
     TOptions options;
     if (!Read(nArguments, arguments, options)) {
-        std::fputs("vantoplex-net DLL [--saved] [--masked] [--out FILE] [--against FILE]\n", stderr);
+        std::fputs("vantoplex-net DLL [options]: see the head of its source\n", stderr);
         return 2;
     }
     // The screen's pointer reports its place to the window under it, and must not be in ours.
