@@ -7,7 +7,7 @@
 #include "charts2d/BarAnimationTable.h"
 
 struct CBarAnimation {
-    // As the host gives them.
+    // As the host passes them.
     enum EType : std::int32_t {
         allGrow = 20,
         groupsGrow = 21,

@@ -1,5 +1,5 @@
 #pragma once
-// One row for each animation of the bar chart, with all that tells it from the others. A new
+// One row for each animation of the bar chart, with all that sets it apart. A new
 // animation is a row here, and a tick of CBarAnimation or a picture of CBarComposer if it needs
 // one that isn't there yet.
 
@@ -15,7 +15,7 @@ struct TBarCounts {
 };
 
 struct TBarAnimationRow {
-    std::int32_t nType; // as the host gives it
+    std::int32_t nType; // as the host passes it
     std::int32_t CBarAnimation::*pFinished;
     std::int32_t TBarCounts::*pCount; // which of them pFinished counts
     void (CBarAnimation::*pfnTick)(std::int32_t& finished, std::int32_t count) noexcept;

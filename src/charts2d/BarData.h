@@ -3,7 +3,7 @@
 // series (one colour each) and the integer values of each series.
 //
 // Three kinds of node in singly linked lists, in order of insertion, owned by CBarData.
-// Ids count from 1 and are given as the count after an insertion; a deletion renumbers
+// Ids count from 1 and are the count after an insertion; a deletion renumbers
 // nothing, so after one a position and an id need not agree, and an id may come twice.
 // Searches take the first node with the id; indexes beside the lists find it without a walk.
 

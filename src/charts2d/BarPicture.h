@@ -37,7 +37,7 @@ namespace BarPicture
 {
 
 // With no segment, no series, an unknown animation, or animation values other than 0 and 1
-// the axes stand alone: no labels, no steps.
+// the axes are alone: no labels, no steps.
 [[nodiscard]] TBarPicture Compose(const CValueTable& table, const CBarAnimation& animation,
                                   TPoint position, TSize size);
 

@@ -33,10 +33,10 @@ public:
     // Takes the window's coordinates.
     [[nodiscard]] HDC Canvas() const noexcept { return m_First.m_hMemDC; }
 
-    // Tells of a shape that was drawn on the canvas: its rectangle, edges in any order.
+    // Reports a shape that was drawn on the canvas: its rectangle, edges in any order.
     void Touch(const TRect& shape);
 
-    // Blends every shape that was told of so far, those of earlier blends again.
+    // Blends every shape that was reported so far, those of earlier blends again.
     void Blend(double percent);
 
     // Shows the result on the target.

@@ -60,7 +60,7 @@ public:
     void SetGraphSubtitleShadow(BOOL shadow) noexcept { m_bSubtitleShadow = shadow; }
     [[nodiscard]] BOOL GetGraphTitleShadow() const noexcept { return m_bTitleShadow; }
     void SetGraphTitleShadow(BOOL shadow) noexcept { m_bTitleShadow = shadow; }
-    // Gives the mode that is stored, 0 or 1, not the 20 or 21 that the setter takes.
+    // Returns the mode that is stored, 0 or 1, not the 20 or 21 that the setter takes.
     [[nodiscard]] int GetGradientFillType() const noexcept { return m_nGradientMode; }
     void SetGradientFillType(int nType);
     void SetGraphGradientColors(COLORREF col1, COLORREF col2);
@@ -137,7 +137,7 @@ private:
     BOOL m_bAnimation = FALSE;
     std::unique_ptr<CFont> m_pSubtitleFont;
     CString m_strSubtitle;
-    // Each bitmap stands before the context that holds it, so that the context goes first.
+    // Each bitmap is declared before the context that holds it, so the context is freed first.
     std::unique_ptr<CBitmap> m_pGradientBitmap;
     std::unique_ptr<CDC> m_pGradientDC;
     std::unique_ptr<CBitmap> m_pBitmap; // the frame

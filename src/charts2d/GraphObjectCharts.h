@@ -1,5 +1,5 @@
 #pragma once
-// The one place that tells the kinds of chart apart for calls that all of them take.
+// The one place that distinguishes the kinds of chart for calls that all of them take.
 
 #include "charts2d/GraphObject.h"
 

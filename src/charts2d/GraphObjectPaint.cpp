@@ -1,4 +1,4 @@
-// The road of a frame: background, chart, texts and legend on the frame bitmap, then one copy
+// How a frame is painted: background, chart, texts and legend on the frame bitmap, then one copy
 // to the window.
 
 #include "charts2d/ChartPainter.h"

@@ -1,5 +1,5 @@
 #pragma once
-// A refused data operation is told to the person at the screen, in a message box; the caller
+// A refused data operation is reported to the person at the screen, in a message box; the caller
 // learns nothing of it.
 
 #include "charts2d/Refusal.h"

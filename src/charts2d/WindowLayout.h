@@ -1,5 +1,5 @@
 #pragma once
-// Where things stand in the window of a business chart: fixed shares of the window's width cx
+// Where things are in the window of a business chart: fixed shares of the window's width cx
 // and height cy, all through Trunc.
 
 #include <cstdint>

@@ -32,9 +32,9 @@ bool IsFinite(const TRectF& rc) noexcept
 class CPixels
 {
 public:
-    CPixels(const CBitmap& bitmap, UINT mode) noexcept : m_bitmap(bitmap)
+    CPixels(const CBitmap& bitmap, UINT mode) noexcept : m_pBitmap(bitmap.Get())
     {
-        m_are = Flat::GdipBitmapLockBits(bitmap.Get(), nullptr, mode, PixelFormat32bppARGB, &m_data) ==
+        m_are = Flat::GdipBitmapLockBits(m_pBitmap, nullptr, mode, PixelFormat32bppARGB, &m_data) ==
                 Gdiplus::Ok;
     }
     CPixels(const CPixels&) = delete;
@@ -42,7 +42,7 @@ public:
     ~CPixels()
     {
         if (m_are) {
-            Flat::GdipBitmapUnlockBits(m_bitmap.Get(), &m_data);
+            Flat::GdipBitmapUnlockBits(m_pBitmap, &m_data);
         }
     }
 
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    const CBitmap& m_bitmap;
+    Gdiplus::GpBitmap* m_pBitmap; // itself, since its owner may pass it on meanwhile
     Gdiplus::BitmapData m_data{};
     bool m_are = false;
 };

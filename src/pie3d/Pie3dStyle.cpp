@@ -1,5 +1,5 @@
 // The three-dimensional style. Depth comes from the order alone: all walls, then all upper
-// faces. Walls stand on the front half of the rim only, where no slice hides another.
+// faces. Walls are on the front half of the rim only, where no slice hides another.
 
 #include "pie3d/PieChartWnd.h"
 

@@ -2,12 +2,12 @@
 // The 3D pie: a child window with a title, a pie in one of three styles and a scrolling list
 // of labels, drawn with GDI+.
 //
-// The elements stand in a map by position, 0 to m_nElements - 1. A share is an element's
+// The elements are in a map by position, 0 to m_nElements - 1. A share is an element's
 // part of the total, a sweep the share of 360 degrees; both are those of the last change of
 // a value, and drawing adds the sweeps up in the order of the map. Colours are ARGB except
 // m_crParentWindow. GDI+ is started with the window and shut down with the object.
 //
-// An operation that is refused changes nothing and tells so by its result: null, 0 or -1.
+// An operation that is refused changes nothing and returns null, 0 or -1.
 // Values and amounts must be finite. An item is the address of an element and is good until
 // the element is removed.
 
@@ -203,7 +203,9 @@ private:
     std::unordered_map<std::wstring_view, SPieElement*> m_Names; // the texts are the elements' own
     bool m_bSettled = true;
     CKeptPicture<TBackgroundLook> m_KeptBackground;
-    CKeptPicture<TPieLook> m_KeptPicture; // with its percents, if m_bKeptPercents
+    // With its percents, if m_bKeptPercents. Dropped when elements change places: drawing them also
+    // makes the paths of their walls, which are the elements' own and not part of a look.
+    CKeptPicture<TPieLook> m_KeptPicture;
     bool m_bKeptPercents = false;
     CTextSizes m_PercentSizes;
 };

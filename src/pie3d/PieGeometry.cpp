@@ -55,7 +55,7 @@ struct TEllipse {
         return Unwound(angle, parameter) * 180.0 / std::numbers::pi;
     }
 
-    // Whether the arc has hardly a length, or differs from its chord by what floats cannot tell.
+    // Whether the arc has hardly a length, or differs from its chord by less than floats can show.
     [[nodiscard]] bool IsSliver(double from, double to) const noexcept
     {
         const double chord = std::hypot(halfWidth * (std::cos(to) - std::cos(from)),
@@ -67,7 +67,7 @@ struct TEllipse {
                chord < shortest;
     }
 
-    // A step of the parameter that the angles, which are floats, can tell.
+    // A step of the parameter that the angles, which are floats, can show.
     [[nodiscard]] double SmallStep() const noexcept
     {
         return 1e-5 * std::max(halfWidth / halfHeight, halfHeight / halfWidth);

@@ -32,7 +32,7 @@ struct TFaces {
     TRect rcUpper;
     TRect rcLower;
     std::int32_t nSqueeze = 0; // taken from the circle's top and bottom each
-    std::int32_t nDepth = 0;   // the upper face stands this much above the middle, the lower below
+    std::int32_t nDepth = 0;   // the upper face is this much above the middle, the lower below
 };
 
 // One element's place on the ellipse.
@@ -65,7 +65,7 @@ struct TProjection {
 // The point of the circle or ellipse inscribed in rc, with integer half axes.
 [[nodiscard]] TPointF RimPoint(const TRect& rc, float fAngle) noexcept;
 
-// Fills in every element's projection and gives the projected start angle. The running
+// Fills in every element's projection and returns the projected start angle. The running
 // angle on the ellipse is not brought back under 360.
 float ProjectAngles(const TRect& rcPie, const TFaces& faces, float fStartAngle,
                     std::span<const float> sweeps, std::span<TProjection> projections) noexcept;

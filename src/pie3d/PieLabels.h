@@ -53,7 +53,7 @@ struct TColumns {
 [[nodiscard]] std::int32_t LabelFontSize(const TRect& rcPie) noexcept;   // h / 25, at most 11
 [[nodiscard]] std::int32_t PercentFontSize(const TRect& rcPie) noexcept; // h / 25, from 7 to 11
 
-// Where the percent of an element stands that sweeps fSweep from fStart on the true circle.
+// The place of the percent of an element that sweeps fSweep from fStart on the true circle.
 // Style 2 lifts it onto the upper face, the others take the pie's own centre.
 [[nodiscard]] PieGeometry::TPointF PercentCentre(const TRect& rcPie, const PieGeometry::TFaces& faces,
                                                  bool bTilted, float fStart, float fSweep) noexcept;

@@ -1,6 +1,6 @@
 #pragma once
 // Orders of the elements. Each function answers with positions into its argument, in the
-// order in which the elements are to stand.
+// order that the elements are to have.
 
 #include <cstddef>
 #include <cstdint>

@@ -13,7 +13,7 @@ namespace PieShares
 // dValue / dTotal as a float.
 [[nodiscard]] float ShareOf(double dValue, double dTotal) noexcept;
 
-// A share of 0.25 as "25.00%"; with bTwoDigits a zero stands before a percent below 10.
+// A share of 0.25 as "25.00%"; with bTwoDigits a zero precedes a percent below 10.
 [[nodiscard]] std::u16string PercentText(float fShare, bool bTwoDigits = false);
 
 // GDI+ font style flags: 1 bold (any weight at all), 2 italic, 4 underlined, 8 struck out.

@@ -121,7 +121,7 @@ void CPieChartWnd::DrawPercents(const GdiPlus::CGraphics& graphics)
     }
 }
 
-// Whether a percent may stand on the label list, so that it matters which is drawn first.
+// Whether a percent may overlap the label list, so that it matters which is drawn first.
 bool CPieChartWnd::PercentsReachLabels(const GdiPlus::CGraphics& graphics)
 {
     std::wstring longest;

@@ -34,7 +34,7 @@ private:
 };
 
 // The pieces of an element that starts at fStart on the ellipse (taken under 360 once) and
-// sweeps fSweep. None if the element stands at the back.
+// sweeps fSweep. None if the element is at the back.
 [[nodiscard]] CWallPieces PiecesOf(float fStart, float fSweep) noexcept;
 
 // The drawing library does not survive arcs thinner than this; such a piece has no pixel.

@@ -143,6 +143,27 @@ TEST_F(PieKept, ClicksAfterAnUnchangedPaintGoByTheProjectedAngles)
     EXPECT_EQ(DrawSweeps(), projected);
 }
 
+TEST_F(PieKept, WallsOfEqualElementsThatChangePlacesAreClickedInTheirNewOnes)
+{
+    pie.InsertItem(L"a", L"", 1, kRed); // the front half, with all of the wall
+    pie.InsertItem(L"b", L"", 1, kRed);
+    pie.SetInclineAngle(60);
+    Shoot();
+    EXPECT_EQ(ClickedName(431, 390), L"a");
+    Click(1, 1);
+    Shoot();
+    pie.sortPiechartElements(1);
+    Shoot();
+    EXPECT_EQ(ClickedName(431, 390), L"b");
+    Click(1, 1);
+    Shoot();
+    pie.RemoveItem(L"b");
+    pie.InsertItem(L"c", L"", 1, kRed);
+    pie.sortPiechartElements(0);
+    Shoot();
+    EXPECT_EQ(ClickedName(431, 390), L"c");
+}
+
 TEST_F(PieKept, InsertionsAreLaidOutOnceByWhateverComesNext)
 {
     const auto insert = [&](int count) {

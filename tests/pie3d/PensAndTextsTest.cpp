@@ -121,6 +121,27 @@ TEST_F(PiePens, OfASliceTooThinForAnOutlineDrawItsRadii)
     }
 }
 
+TEST_F(PiePens, DrawNoSliceAgainThatThePaintBeforeHasDrawn)
+{
+    Fill({1, 3});
+    const auto repainted = [&](const std::string& kind) {
+        pie.Invalidate();
+        const DrawingCalls calls;
+        pie.UpdateWindow();
+        return calls.Of(kind).size();
+    };
+    for (const int style : {0, 2}) {
+        pie.SetPieChartStyle(style);
+        EXPECT_EQ(repainted("pie"), 2u);
+        EXPECT_EQ(repainted("pie"), 0u);
+        EXPECT_EQ(repainted("text"), 4u); // labels and percents, not the title
+        pie.UpdateItemValue(&Element(0), 2 + style);
+        EXPECT_EQ(repainted("text 'Title'"), 0u);
+        pie.SetPieChartTitle(Name(style));
+        EXPECT_EQ(repainted("text 'e"), 1u);
+    }
+}
+
 using PieTexts = PiePens;
 
 TEST_F(PieTexts, TheTitleIsATenthOfTheHeightUpToTwentyPoints)

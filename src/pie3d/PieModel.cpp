@@ -1,3 +1,5 @@
+// The elements: insertion, removal, changes and orders.
+
 #include "pie3d/PieChartWnd.h"
 
 #include "pie3d/PieOrder.h"
@@ -81,6 +83,7 @@ int CPieChartWnd::Remove(TPieElements::iterator position)
     m_dTotal = total;
     m_Names.erase(position->second->strName.View());
     m_mapElements.erase(position);
+    m_KeptPicture.Reset();
     --m_nElements;
     RenumberElements();
     m_strLongestLabel = std::move(longestLabel);
@@ -99,6 +102,7 @@ void CPieChartWnd::RemoveAllItem()
     m_nElements = 0;
     m_Names.clear();
     m_mapElements.clear();
+    m_KeptPicture.Reset();
 }
 
 int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
@@ -221,6 +225,7 @@ void CPieChartWnd::PutInOrder(const std::vector<std::size_t>& positions)
     for (auto& [key, element] : m_mapElements) {
         element = std::move(elements[*next++]);
     }
+    m_KeptPicture.Reset();
     Repaint();
 }
 

@@ -1,3 +1,5 @@
+// The label list's scroll bar and its messages.
+
 #include "pie3d/PieChartWnd.h"
 
 #include <optional>
