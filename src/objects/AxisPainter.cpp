@@ -51,9 +51,8 @@ void CAxisPainter::DrawBackground(bool bMarkers)
     if (bMarkers)
         m_axis.DrawAxisMarkers(m_pDC);
     m_axis.m_fKeySpace = m_axis.DrawCurveKeys(m_pDC, true);
-    m_pDC->SetBkColor(m_pDC->m_bMono || m_axis.m_pGraph == nullptr
-                          ? kWhite
-                          : PlotHost::GraphColor(*m_axis.m_pGraph));
+    m_pDC->SetBkColor(
+        m_pDC->m_bMono || m_axis.m_pGraph == nullptr ? kWhite : PlotHost::GraphColor(*m_axis.m_pGraph));
     m_pDC->SetBkMode(OPAQUE);
 }
 

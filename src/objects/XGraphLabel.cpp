@@ -134,8 +134,8 @@ void CXGraphLabel::BeginEdit()
     CRect rcEditor = m_rcObject;
     rcEditor.DeflateRect(1, 1);
     // The alignment's bits are the editor's own styles too.
-    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor, &PlotHost::Window(*m_pGraph),
-                  kEditorId);
+    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor,
+                  &PlotHost::Window(*m_pGraph), kEditorId);
     m_Edit.SetFont(&m_Font);
     m_Edit.SetWindowText(m_cText);
     m_Edit.ShowWindow(SW_SHOW);
@@ -166,8 +166,9 @@ void CXGraphLabel::InvokeProperties()
     const TObjectRef self(this);
     const HMENU hMenu = ::CreatePopupMenu();
     ::AppendMenuW(hMenu, MF_STRING, kPropertiesItem, L"Properties");
-    const UINT nChosen = static_cast<UINT>(::TrackPopupMenu(
-        hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0, PlotHost::Window(graph).m_hWnd, nullptr));
+    const UINT nChosen =
+        static_cast<UINT>(::TrackPopupMenu(hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0,
+                                           PlotHost::Window(graph).m_hWnd, nullptr));
     ::DestroyMenu(hMenu);
     // Messages ran while the menu was open, and may have removed this label.
     if (nChosen == kPropertiesItem && PlotHost::Owns(graph, self))

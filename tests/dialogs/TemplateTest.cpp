@@ -67,7 +67,7 @@ struct Dialog {
 
 Dialog Load(int id)
 {
-    const LoadedServer server;
+    const Server server;
     const HRSRC found = FindResourceW(server.module, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(5));
     Dialog dialog{};
     if (found == nullptr) {
@@ -368,7 +368,7 @@ TEST(Templates, TheDialogOfAMovingAverage)
 
 TEST(Templates, TheRowsOfTheAveragesAreInTheirInitialisationResource)
 {
-    const LoadedServer server;
+    const Server server;
     const HRSRC found = FindResourceW(server.module, MAKEINTRESOURCEW(128), MAKEINTRESOURCEW(240));
     ASSERT_NE(found, nullptr);
     const char* p = static_cast<const char*>(LockResource(LoadResource(server.module, found)));
@@ -387,7 +387,7 @@ TEST(Templates, TheRowsOfTheAveragesAreInTheirInitialisationResource)
 
 TEST(Templates, TheTextOfAFitThatFails)
 {
-    const LoadedServer server;
+    const Server server;
     WCHAR text[200] = {};
     LoadStringW(server.module, 101, text, 200);
     EXPECT_STREQ(text, L"Could not create polynomial trend for the selected curve.");

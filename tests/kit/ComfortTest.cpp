@@ -22,8 +22,8 @@ class ComfortTest : public testing::Test
 {
 protected:
     ComfortTest()
-        : m_parent(CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 500, 400,
-                                   nullptr, nullptr, nullptr, nullptr)),
+        : m_parent(CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 500,
+                                   400, nullptr, nullptr, nullptr, nullptr)),
           m_library(FolderOfTests() + L"Vantoplex.dll")
     {
     }
@@ -212,7 +212,8 @@ TEST_F(ComfortTest, AnotherLibraryIsRefused)
 TEST_F(ComfortTest, AParentThatIsNoWindowIsRefused)
 {
     vantoplex::Status status;
-    const auto graph = vantoplex::Graph::Make(reinterpret_cast<HWND>(0x7FF1), status, nullptr, 1, &m_library);
+    const auto graph =
+        vantoplex::Graph::Make(reinterpret_cast<HWND>(0x7FF1), status, nullptr, 1, &m_library);
     EXPECT_FALSE(status);
     EXPECT_FALSE(graph);
 }

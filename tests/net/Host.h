@@ -1,8 +1,8 @@
 #pragma once
 // A plain host: it loads a DLL by its path, knows the generated header and COM, and has a window.
 
-#include <ole2.h>
 #include <windows.h>
+#include <ole2.h>
 
 #include "vantoplex.h"
 
