@@ -7,13 +7,6 @@
 
 namespace
 {
-struct TPointChange {
-    int nCurve;
-    int nIndex;
-    double fOldY;
-    double fNewY;
-};
-
 // XG_POINTCHANGED carries the address of its record, which lies below 2 GB.
 const TPointChange& RecordAt(WPARAM wParam)
 {
