@@ -95,8 +95,8 @@ TEST_F(ComfortTest, AnAxisMadeWithARangeKeepsItUnderDataThatLeaveIt)
     ASSERT_TRUE(graph.WidenX(0, -5, 5));
     ASSERT_TRUE(graph.WidenY(0, 0, 10));
     EXPECT_EQ(graph.CurveCount(), 0);
-    const std::vector<TDataPoint> far = {{-100, -100}, {100, 100}};
-    ASSERT_EQ(graph.PlotKeepingRanges(far), 0);
+    const std::vector<TDataPoint> distant = {{-100, -100}, {100, 100}};
+    ASSERT_EQ(graph.PlotKeepingRanges(distant), 0);
     graph.XAxis(0)->SetAutoScale(0);
     graph.YAxis(0)->SetAutoScale(0);
     Paint(graph);
