@@ -6,7 +6,7 @@
 #   scripts/net.sh --base COMMIT [NEW.dll] OLD is built from that commit, in a worktree under build/
 #   scripts/net.sh --frames N ...          compares the frames of N random graphs too; --seed S
 #                                          before it takes others (default 1)
-#   scripts/net.sh --masked [NEW.dll]      compares with the recorded runs of the tests
+#   scripts/net.sh --masked [NEW.dll]      compares with the runs that --record kept
 #   scripts/net.sh --record [NEW.dll]      writes these runs anew, after a change that is meant
 #
 # The outputs stay in build/net: old-values.txt and new-values.txt, old-saved.txt and so on. Of a

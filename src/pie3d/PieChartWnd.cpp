@@ -64,7 +64,7 @@ void CPieChartWnd::OnSize(UINT nType, int cx, int cy)
 
 void CPieChartWnd::OnPaint()
 {
-    Settle(); // before the update region is taken: it may show the scroll bar
+    Settle();
     CPaintDC dc(this);
     switch (m_nChartStyle) {
     case 0:

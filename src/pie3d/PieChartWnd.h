@@ -65,9 +65,9 @@ public:
     [[nodiscard]] float GetElementGrDark(const SPieElement* pItem) const noexcept;
     [[nodiscard]] CString GetElementName(const SPieElement* pItem) const { return pItem->strName; }
 
-    // Brings shares, label list and scroll bar up to the insertions since the last time. Paints,
-    // sizes, clicks, scrolling and changes of what is there do it of themselves, so that a table
-    // of elements is laid out once and not with each.
+    // Brings the shares up to the insertions since the last time. Paints, sizes, clicks, scrolling
+    // and changes of what is there do it of themselves, so that the shares of a table of elements
+    // are computed once and not with each.
     void Settle();
 
     // Looks

@@ -40,6 +40,8 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
     ++m_nElements;
     m_dTotal += dValue;
     m_bSettled = false;
+    RecalcLabelExtent();
+    UpdateScrollBar();
     Repaint();
     return added;
 }
@@ -51,8 +53,6 @@ void CPieChartWnd::Settle()
     if (!m_bSettled) {
         m_bSettled = true;
         RecalcPercents();
-        RecalcLabelExtent();
-        UpdateScrollBar();
     }
 }
 

@@ -164,7 +164,7 @@ TEST_F(PieKept, WallsOfEqualElementsThatChangePlacesAreClickedInTheirNewOnes)
     EXPECT_EQ(ClickedName(431, 390), L"c");
 }
 
-TEST_F(PieKept, InsertionsAreLaidOutOnceByWhateverComesNext)
+TEST_F(PieKept, SharesOfInsertionsAreComputedByWhateverComesNextAndTheBarAtOnce)
 {
     const auto insert = [&](int count) {
         for (int i = 0; i < count; ++i) {
@@ -172,10 +172,11 @@ TEST_F(PieKept, InsertionsAreLaidOutOnceByWhateverComesNext)
         }
     };
     const auto barShows = [&] { return (pie.m_wndScrollBar.GetStyle() & WS_VISIBLE) != 0; };
-    insert(12);
+    insert(10);
     EXPECT_FALSE(barShows());
-    pie.UpdateWindow();
+    insert(2);
     EXPECT_TRUE(barShows());
+    pie.UpdateWindow();
     EXPECT_EQ(pie.m_wndScrollBar.GetScrollLimit(), 29);
     EXPECT_EQ(Element(0).fPercent, 1 / 12.0f);
 
