@@ -7,6 +7,8 @@
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
+#include "support/FailingMemory.h"
+#include "support/GdiCount.h"
 #include "windowing/TempFile.h"
 
 #include <climits>
@@ -104,6 +106,27 @@ TBitmap Picture32(std::int32_t nWidth, std::int32_t nHeight, std::int32_t nWidth
     return bitmap;
 }
 } // namespace
+
+TEST_F(HostileFile, AnObjectIsFreedThatMemoryIsTooShortToTakeIn)
+{
+    const std::string file = Flags(4) + CBytes().Add(0).Add(2).m_bytes + NewClass("CXGraphLabel") +
+                             Bytes(TLabel()) + KnownClass(1) + Bytes(TLabel());
+    EXPECT_EQ(Load(file), CArchiveException::none);
+    graph.ResetAll();
+    const int fonts = GdiCount::OfType(OBJ_FONT);
+    int failures = 0;
+    for (int number = 0; number < 60; ++number) {
+        try {
+            const FailingMemory failing(number);
+            Load(file);
+        } catch (const std::bad_alloc&) {
+            ++failures;
+        }
+        graph.ResetAll();
+        ASSERT_EQ(GdiCount::OfType(OBJ_FONT), fonts) << "allocation " << number;
+    }
+    EXPECT_GT(failures, 2);
+}
 
 TEST_F(HostileFile, CutAtAnyByteItEndsThere)
 {
