@@ -5,6 +5,14 @@
 #
 # Windows: object library room-NAME of every file.
 # Native:  object library room-NAME of the ARITHMETIC files alone.
+if(WIN32)
+  # Holds nothing: its precompiled headers are those of every room.
+  file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/rooms-shared.cpp CONTENT "// Precompiles headers, and is empty itself.\n")
+  add_library(rooms-shared OBJECT ${CMAKE_BINARY_DIR}/rooms-shared.cpp)
+  target_link_libraries(rooms-shared PUBLIC vantoplex-flags)
+  target_precompile_headers(rooms-shared PRIVATE ${PROJECT_SOURCE_DIR}/src/Precompiled.h)
+endif()
+
 function(vantoplex_room name)
   cmake_parse_arguments(room "" "" "ARITHMETIC" ${ARGN})
   if(WIN32)
@@ -19,6 +27,9 @@ function(vantoplex_room name)
   endif()
   add_library(room-${name} OBJECT ${files})
   target_link_libraries(room-${name} PUBLIC vantoplex-flags)
+  if(WIN32)
+    target_precompile_headers(room-${name} REUSE_FROM rooms-shared)
+  endif()
   if(WIN32 AND TARGET vantoplex-typelib)
     target_link_libraries(room-${name} PUBLIC vantoplex-typelib)
   endif()
