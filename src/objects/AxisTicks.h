@@ -29,10 +29,10 @@ struct TTick {
     bool bLabel = true;
 };
 
-class CAxisPainter
+class CAxisTicks
 {
 public:
-    CAxisPainter(CXGraphAxis& axis, CDCEx* pDC);
+    CAxisTicks(CXGraphAxis& axis, CDCEx* pDC);
 
     // Sets the axis's margins; the results below stand on them.
     void MeasureMargins();

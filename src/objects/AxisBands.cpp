@@ -2,11 +2,12 @@
 
 #include "objects/XGraphAxis.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 #include "graph/XGraph.h"
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -16,8 +17,6 @@
 namespace
 {
 
-constexpr COLORREF kBlack = 0x000000;
-constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr UINT kSolidFill = 6;
 constexpr int kLargestKey = 32767; // more than any plot; the platform's cost grows with the size
 
