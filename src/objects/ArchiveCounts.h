@@ -1,5 +1,5 @@
 #pragma once
-// The counts in graph files: written in 8 bytes and read in 4, the format as it stands.
+// The counts in graph files: written in 8 bytes and read in 4, which is part of the format.
 
 #include "framework/windowing/Archive.h"
 

@@ -1,4 +1,4 @@
-// What stands on or along an axis: colour ranges, axis markers, curve keys, the arrowhead.
+// What lies on or along an axis: colour ranges, axis markers, curve keys, the arrowhead.
 
 #include "objects/XGraphAxis.h"
 
@@ -145,7 +145,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
                                     [this](const CXGraphAxis& axis) { return &axis == this; });
     const int nAxis = place == axes.end() ? -1 : static_cast<int>(place - axes.begin());
     // Keys in a row across the axis's direction: two in a column of an X axis, three in a row
-    // of a Y axis. The first column of an X axis stands one key inside the plot.
+    // of a Y axis. The first column of an X axis is one key inside the plot.
     const int nPerLine = IsVertical() ? 3 : 2;
     const int nSize = m_nMarkerSize;
     int nAlong = IsVertical() ? 0 : nSize;

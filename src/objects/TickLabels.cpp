@@ -108,7 +108,7 @@ void CTickLabels::Pile(double fValue, const Place& place)
     label.strShape = ShapeOf(label.cText);
     label.size = Measure(label.cText, label.strShape);
     label.rect = place(label.size);
-    // The line under a letter may stand below the rectangle.
+    // The line under a letter may lie below the rectangle.
     if (!m_visible.Meets(label.rect, label.size.cy))
         return;
     while (!m_pile.empty() && Covers(label, m_pile.back()))

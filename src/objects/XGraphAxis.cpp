@@ -1,4 +1,4 @@
-// Fields, ranges, mapping, markers and colour ranges of an axis. Its painting stands in
+// Fields, ranges, mapping, markers and colour ranges of an axis. Its painting is in
 // AxisDrawing.cpp and AxisBands.cpp, its file form in AxisFile.cpp.
 
 #include "objects/XGraphAxis.h"
