@@ -63,7 +63,7 @@ public:
     }
 
 private:
-    // A unit that no set contains stands for the end.
+    // The end is a unit that no set contains.
     [[nodiscard]] char16_t Peek() const { return m_pos < m_text.size() ? m_text[m_pos] : u'\xFFFF'; }
 
     void ReadFlags()
@@ -338,7 +338,7 @@ std::u16string FormatText(std::u16string_view format, std::span<const TArgument>
             continue;
         }
         const std::optional<TItem> item = CItemParser(format).Parse();
-        // What is no item stands as it is, but a later percent sign in it may begin one.
+        // What is no item stays as it is, but a later percent sign in it may begin one.
         const std::size_t length = item ? item->length : 1;
         const std::optional<std::u16string> text = item ? Filled(*item, source) : std::nullopt;
         if (text)
@@ -358,7 +358,7 @@ std::u16string FormatNumber(std::u16string_view format, double value)
 
 std::u16string Shortened(std::u16string_view format, std::size_t longest)
 {
-    // Literal text stands for itself, with its percent signs doubled; the item that takes the
+    // Literal text is kept, with its percent signs doubled; the item that takes the
     // value gets its shortest form.
     std::u16string result;
     std::size_t literals = 0;

@@ -4,7 +4,7 @@
 //
 // An item is `%`, flags of "-+ #0", a width, `.` and a precision, an optional `l`, `h` or
 // `L`, and a conversion letter. Width and precision are cut at 64. `%%` is a percent sign.
-// An item that finds no argument of its kind, and every malformed one, stands as literal
+// An item that finds no argument of its kind, and every malformed one, stays as literal
 // text. The results don't depend on the locale. Exponents have two digits at least;
 // infinities and values that are no numbers are "inf" and "nan".
 
@@ -38,7 +38,7 @@ struct TArgument {
 };
 
 // The text of `format` with the value in its first floating item (aAeEfFgG). All other items
-// stand as literal text. The result is at most 512 units longer than the format.
+// stay as literal text. The result is at most 512 units longer than the format.
 [[nodiscard]] std::u16string FormatNumber(std::u16string_view format, double value);
 
 // A format whose texts begin with the same `longest` units as those of the given one, whatever

@@ -1,7 +1,7 @@
 #pragma once
 // A bitmap that can be stored. In a file, little-endian and without padding: bmType 4 bytes,
 // bmWidth 4, bmHeight 4, bmWidthBytes 4, bmPlanes 2, bmBitsPixel 2, then
-// bmWidthBytes * bmHeight bytes of bits as the platform's GetBitmapBits gives them.
+// bmWidthBytes * bmHeight bytes of bits as the platform's GetBitmapBits returns them.
 // No bitmap at all is a header of zeros and no bits.
 
 #include "framework/windowing/GdiObjects.h"

@@ -17,7 +17,7 @@ struct THeader {
     friend bool operator==(const THeader&, const THeader&) = default;
 };
 
-// What stands for no bitmap at all: zeros.
+// The header of no bitmap at all: zeros.
 [[nodiscard]] bool IsNone(const THeader& header) noexcept;
 
 // Type 0; width and height above 0; one of the platform's depths; a row that holds its

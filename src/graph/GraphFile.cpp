@@ -5,6 +5,7 @@
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
 #include "graph/XGraph.h"
+#include "objects/ArchiveCounts.h"
 
 #include <memory>
 #include <unordered_set>
@@ -18,17 +19,6 @@ constexpr UINT SmallestCurve = 64;
 constexpr UINT SmallestAxis = 256;
 constexpr UINT SmallestObject = 2; // its tag
 
-// Zero for what is zero or less.
-int ReadCount(CArchive& ar, UINT nSmallest)
-{
-    LONG count = 0;
-    ar >> count;
-    if (count <= 0)
-        return 0;
-    ar.EnsureRemaining(static_cast<ULONGLONG>(count), nSmallest);
-    return count;
-}
-
 template <class Element> void WriteElements(CArchive& ar, CCheckedVector<Element>& elements)
 {
     ar << static_cast<ULONGLONG>(elements.size());
@@ -39,7 +29,7 @@ template <class Element> void WriteElements(CArchive& ar, CCheckedVector<Element
 template <class Element>
 void ReadElements(CArchive& ar, CCheckedVector<Element>& elements, UINT nSmallest, CXGraph* pGraph)
 {
-    for (int left = ReadCount(ar, nSmallest); left > 0; --left) {
+    for (int left = ArchiveCounts::ReadCount(ar, nSmallest); left > 0; --left) {
         Element element;
         element.Serialize(ar);
         element.m_pGraph = pGraph;
@@ -182,13 +172,13 @@ void CXGraph::Store(CArchive& ar, UINT nFlags)
 
 void CXGraph::ReadObjects(CArchive& ar)
 {
-    for (int left = ReadCount(ar, sizeof(TMeasureSpan)); left > 0; --left) {
+    for (int left = ArchiveCounts::ReadCount(ar, sizeof(TMeasureSpan)); left > 0; --left) {
         TMeasureSpan span;
         ar.ReadExactly(&span, sizeof span);
         m_Measures.push_back(span);
     }
     std::unordered_set<const CXGraphObject*> taken;
-    for (int left = ReadCount(ar, SmallestObject); left > 0; --left) {
+    for (int left = ArchiveCounts::ReadCount(ar, SmallestObject); left > 0; --left) {
         auto* object = static_cast<CXGraphObject*>(ar.ReadObject(RUNTIME_CLASS(CXGraphObject)));
         // A second reference to one object would make the list own it twice.
         if (taken.contains(object))

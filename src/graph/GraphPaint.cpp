@@ -1,8 +1,10 @@
 // The frame: one routine draws a whole picture of the graph and computes all its geometry.
 
+#include "base/Colors.h"
 #include "draw/MemDC.h"
 #include "draw/Selectors.h"
 #include "graph/FrameLayout.h"
+#include "graph/LegendBox.h"
 #include "graph/XGraph.h"
 
 #include <optional>
@@ -11,7 +13,6 @@
 namespace
 {
 
-constexpr COLORREF kWhite = 0xFFFFFF;
 
 // A canvas on somebody else's handle, left again on every way out.
 class AttachedCanvas
@@ -42,6 +43,38 @@ private:
 COLORREF Shade(const CDCEx* pDC, COLORREF color)
 {
     return pDC->m_bMono ? kWhite : color;
+}
+
+// What InitScale finds for a buffer of the screen of more than 256 colours, without asking: the
+// answers cost as much as a hundred lines. Of any other buffer they are asked as ever.
+void TakeScreen(CDCEx& dc, const CBitmap& buffer)
+{
+    BITMAP look = {};
+    if (::GetObject(buffer.GetSafeHandle(), sizeof look, &look) == 0 || look.bmBitsPixel <= 8)
+        return;
+    dc.m_fScaleX = dc.m_fScaleY = 1.0f;
+    dc.m_bMono = false;
+    dc.m_bScaleReady = true;
+}
+
+// Fills a rectangle, but for the part that the caller fills right after where that lies wholly
+// inside: big fills are what a frame costs most.
+void FillAround(CDCEx* pDC, const CRect& outer, const CRect& inner, COLORREF color)
+{
+    const bool bInside = inner.left >= outer.left && inner.top >= outer.top &&
+                         inner.right <= outer.right && inner.bottom <= outer.bottom;
+    if (inner.IsRectEmpty() || !bInside) {
+        pDC->FillSolidRect(&outer, color);
+        return;
+    }
+    const CRect parts[] = {{outer.left, outer.top, outer.right, inner.top},
+                           {outer.left, inner.bottom, outer.right, outer.bottom},
+                           {outer.left, inner.top, inner.left, inner.bottom},
+                           {inner.right, inner.top, outer.right, inner.bottom}};
+    for (const CRect& part : parts) {
+        if (!part.IsRectEmpty())
+            pDC->FillSolidRect(&part, color);
+    }
 }
 
 // A clip region counts in device units, which a partial buffer shifts against the client
@@ -90,8 +123,10 @@ void CXGraph::OnPaint()
     }
     std::optional<CMemDC> buffer;
     if (m_bDoubleBuffer)
-        buffer.emplace(&dcPaint);
+        buffer.emplace(&dcPaint, 0, false); // the frame covers all of it
     AttachedCanvas canvas(buffer ? buffer->GetSafeHdc() : dcPaint.GetSafeHdc());
+    if (buffer)
+        TakeScreen(canvas.m_dc, buffer->m_Bitmap);
     PaintFrame(&canvas.m_dc);
 }
 
@@ -106,16 +141,25 @@ void CXGraph::PaintFrame(CDCEx* pDC)
         rcClient = m_rcPrint;
     else
         GetClientRect(&rcClient);
-    pDC->FillSolidRect(&rcClient, Shade(pDC, m_crBackColor));
 
+    // Three grounds within one another, with the legend on the outer one. All places are computed
+    // before the first fill, since each fill leaves out what the next one covers; each colour is
+    // that of the canvas at its own turn, which the first selection of a font can make mono.
+    const COLORREF crBack = Shade(pDC, m_crBackColor);
     CRect rcGraph =
         FrameLayout::GraphRect(rcClient, {m_nLeftMargin, m_nTopMargin, m_nRightMargin, m_nBottomMargin});
+    std::optional<CLegendBox> legend;
     if (m_bShowLegend)
-        DrawLegend(pDC, rcGraph);
-    pDC->FillSolidRect(&rcGraph, Shade(pDC, m_crGraphColor));
-
+        legend.emplace(*this, pDC, rcGraph);
+    const COLORREF crGraph = Shade(pDC, m_crGraphColor);
     LayoutAxes(pDC, rcGraph);
+    const bool bOwnCanvas = m_pDrawDC == nullptr; // others, a page for one, get whole rectangles
+    FillAround(pDC, rcClient, bOwnCanvas ? rcGraph : CRect(), crBack);
+    if (legend)
+        legend->Draw();
+    FillAround(pDC, rcGraph, bOwnCanvas ? m_rcInner : CRect(), crGraph);
     pDC->FillSolidRect(&m_rcInner, Shade(pDC, m_crInnerColor));
+
     for (CXGraphAxis& axis : m_YAxes) {
         axis.m_nOriginY = m_rcInner.bottom;
         axis.Draw(pDC);

@@ -3,7 +3,7 @@
 #include "objects/XGraphAxis.h"
 
 #include "base/Trunc.h"
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 #include "objects/LogDecades.h"
 #include "objects/TickWalk.h"
 
@@ -73,7 +73,7 @@ void CXGraphAxis::Draw(CDCEx* pDC)
         return;
     }
     m_fRange = m_fCurMax - m_fCurMin;
-    CAxisPainter painter(*this, canvas.Get());
+    CAxisTicks painter(*this, canvas.Get());
     painter.MeasureMargins();
     const double fPlaceStep = PlaceStep(*this, painter.FarEnd());
     m_nLength = LinearLength(*this, fPlaceStep);
@@ -86,7 +86,7 @@ void CXGraphAxis::Draw(CDCEx* pDC)
 void AxisPainting::DrawLogarithmic(CXGraphAxis& axis, CDCEx* pDC, bool bMarkers)
 {
     axis.m_fRange = axis.m_fCurMax - axis.m_fCurMin;
-    CAxisPainter painter(axis, pDC);
+    CAxisTicks painter(axis, pDC);
     painter.MeasureMargins();
     axis.m_nLength = LogLength(axis);
     painter.DrawBackground(bMarkers);

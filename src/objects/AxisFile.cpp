@@ -3,6 +3,7 @@
 // The two counts are written in 8 bytes and read in 4. A reader that meets elements goes on
 // in the middle of the count; files whose counts are zero read back whole.
 
+#include "objects/ArchiveCounts.h"
 #include "objects/XGraphAxis.h"
 
 #include <array>
@@ -54,18 +55,6 @@ TAxisMarker FromRecord(const TMarkerRecord& record)
     Get(record, kMarkerFont, marker.lfFont);
     marker.lfFont.lfFaceName[LF_FACESIZE - 1] = 0;
     return marker;
-}
-
-// The number of records that follow; checked against the rest of the file before anything
-// is made for them.
-int ReadCount(CArchive& ar, std::size_t nRecordSize)
-{
-    int nCount = 0;
-    ar >> nCount;
-    if (nCount <= 0)
-        return 0;
-    ar.EnsureRemaining(static_cast<ULONGLONG>(nCount), static_cast<UINT>(nRecordSize));
-    return nCount;
 }
 
 void WriteFont(CArchive& ar, const CFont& font)
@@ -134,14 +123,14 @@ void CXGraphAxis::Load(CArchive& ar)
     ar >> m_bShowMarker;
 
     m_ColorRanges.clear();
-    for (int nLeft = ReadCount(ar, sizeof(TColorRange)); nLeft > 0; --nLeft) {
+    for (int nLeft = ArchiveCounts::ReadCount(ar, sizeof(TColorRange)); nLeft > 0; --nLeft) {
         TColorRange range = {};
         ar.ReadExactly(&range, sizeof range);
         range.szLabel[ARRAYSIZE(range.szLabel) - 1] = 0;
         m_ColorRanges.push_back(range);
     }
     m_AxisMarkers.clear();
-    for (int nLeft = ReadCount(ar, kMarkerSize); nLeft > 0; --nLeft) {
+    for (int nLeft = ArchiveCounts::ReadCount(ar, kMarkerSize); nLeft > 0; --nLeft) {
         TMarkerRecord record = {};
         ar.ReadExactly(record.data(), kMarkerSize);
         m_AxisMarkers.push_back(FromRecord(record));

@@ -5,7 +5,7 @@
 // pixel column differs from that of the last kept one; each two successive kept points are
 // a segment. So a run of points on one column keeps its first point alone, whatever its y.
 //
-// WalkVisibleSegments gives the same segments in the same order but leaves out those that
+// WalkVisibleSegments visits the same segments in the same order but leaves out those that
 // lie wholly left or wholly right of the columns of interest. What it leaves out it doesn't
 // map; in ascending points it finds each column's first point by search.
 

@@ -6,9 +6,10 @@
 
 #include "objects/XGraphDataSerie.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 #include "objects/ColumnWalk.h"
 #include "objects/PlotHost.h"
 #include "objects/PolylineBatches.h"
@@ -22,7 +23,6 @@
 namespace
 {
 
-constexpr COLORREF kBlack = 0x000000;
 constexpr int kSolidFill = 6;
 
 static_assert(sizeof(TPoint) == sizeof(POINT));

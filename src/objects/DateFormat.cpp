@@ -118,7 +118,7 @@ void CWriter::All(std::u16string_view letters)
     }
 }
 
-// The zone is the machine's; nothing in the value tells another.
+// The zone is the machine's; the value names no other.
 void CWriter::Zone(char16_t letter)
 {
     std::tm broken = {};

@@ -23,11 +23,11 @@ struct TDateFields {
 // Units of the buffer that a text and its terminator have to fit in.
 inline constexpr std::size_t kBufferSize = 256;
 
-// What a value gives that is no date.
+// The text of a value that is no date.
 inline constexpr std::u16string_view kInvalidText = u"Invalid DateTime";
 
 // The text in the run-time's "C" locale, with its # flag (%#d is a day without a zero before
-// it, %#x a date in words). Conversions that the C standard doesn't know stand
+// it, %#x a date in words). Conversions that the C standard doesn't know stay
 // as they are written. A text that doesn't fit the buffer comes out empty.
 [[nodiscard]] std::u16string FormatDate(std::u16string_view format, const TDateFields& fields);
 

@@ -27,7 +27,7 @@ double Unfold(double date) noexcept
     return date < 0 ? std::ceil(date) - (date - std::ceil(date)) : date;
 }
 
-// Whether a count of seconds can be told in 64 bits with room to spare.
+// Whether a count of seconds fits into 64 bits with room to spare.
 bool Countable(double seconds) noexcept
 {
     return std::fabs(seconds) < 0x1p62;

@@ -12,7 +12,7 @@ inline constexpr double kLowestUpper = 1e-15;
 // nothing under the lowest.
 void FloorBounds(double& lower, double& upper) noexcept;
 
-// Brings each bound to the step of its decade (350 gives 300 below and 400 above), a bound
+// Brings each bound to the step of its decade (350 goes to 300 below and to 400 above), a bound
 // that is a step moving on only where `strict` is set, and only above. Bounds in the last
 // tenth of a decade stay.
 void WalkBounds(double& lower, double& upper, bool strict) noexcept;

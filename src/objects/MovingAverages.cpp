@@ -9,7 +9,7 @@ namespace MovingAverages
 {
 namespace
 {
-// Walks the points behind the first; value(i, w) gives the average at i over a window of w.
+// Walks the points behind the first; value(i, w) returns the average at i over a window of w.
 template <class Value>
 void Walk(std::span<const TDataPoint> points, int span, std::span<TDataPoint> average, Value value)
 {

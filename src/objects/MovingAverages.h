@@ -11,7 +11,7 @@
 
 namespace MovingAverages
 {
-// All take outputs of the length of the points; an empty curve gives nothing.
+// All take outputs of the length of the points; an empty curve has none.
 
 // sum of the window / w, summed anew at each point from the newest value to the oldest.
 void Simple(std::span<const TDataPoint> points, int span, std::span<TDataPoint> average) noexcept;

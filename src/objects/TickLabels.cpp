@@ -60,30 +60,55 @@ double LargestGlyph(HDC hDC) noexcept
 
 CTickLabels::CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat)
     : m_axis(axis), m_pDC(pDC), m_nFormat(nFormat), m_font(&axis.m_LabelFont, pDC, true),
-      m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible()),
-      m_fReach(CXGraphAxis::kLongestLabel * LargestGlyph(*pDC))
+      m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible())
 {
-    LOGFONTW look = {};
-    m_bUpright =
-        axis.m_LabelFont.GetLogFont(&look) != 0 && look.lfEscapement == 0 && look.lfOrientation == 0;
-    m_bDigitsAlike = AreDigitsAlike(*pDC);
-    m_bDigitsInside = m_bDigitsAlike && AreDigitsInside(*pDC);
-    if (m_bDigitsAlike && pDC->m_bScaling) {
-        const CFontSelector measuring(&axis.m_LabelFont, pDC, false);
-        m_bDigitsAlike = AreDigitsAlike(*pDC);
+}
+
+bool CTickLabels::MayShow(CPoint place)
+{
+    if (m_visible.Meets(place, 0))
+        return true;
+    if (!m_fReach)
+        m_fReach = CXGraphAxis::kLongestLabel * LargestGlyph(*m_pDC);
+    return m_visible.Meets(place, *m_fReach);
+}
+
+bool CTickLabels::IsUpright()
+{
+    if (!m_bUpright) {
+        LOGFONTW look = {};
+        m_bUpright = m_axis.m_LabelFont.GetLogFont(&look) != 0 && look.lfEscapement == 0 &&
+                     look.lfOrientation == 0;
     }
+    return *m_bUpright;
+}
+
+bool CTickLabels::HasDigitsAlike()
+{
+    if (!m_bDigitsAlike) {
+        const CFontSelector measuring(&m_axis.m_LabelFont, m_pDC, false);
+        m_bDigitsAlike = AreDigitsAlike(*m_pDC);
+    }
+    return *m_bDigitsAlike;
+}
+
+bool CTickLabels::HasDigitsInside()
+{
+    if (!m_bDigitsInside)
+        m_bDigitsInside = AreDigitsAlike(*m_pDC) && AreDigitsInside(*m_pDC);
+    return *m_bDigitsInside;
 }
 
 void CTickLabels::Pile(double fValue, const Place& place)
 {
-    if (!m_visible.Meets(place(CSize()), m_fReach))
+    if (!MayShow(place(CSize()).TopLeft()))
         return;
     TLabel label;
     label.cText = m_axis.LabelText(m_cFormat, fValue);
     label.strShape = ShapeOf(label.cText);
     label.size = Measure(label.cText, label.strShape);
     label.rect = place(label.size);
-    // The line under a letter may stand below the rectangle.
+    // The line under a letter may lie below the rectangle.
     if (!m_visible.Meets(label.rect, label.size.cy))
         return;
     while (!m_pile.empty() && Covers(label, m_pile.back()))
@@ -104,13 +129,13 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
 {
     const auto known = std::find_if(m_shapes.begin(), m_shapes.end(),
                                     [&](const TShape& shape) { return shape.strShape == strShape; });
-    if (known != m_shapes.end())
+    if (known != m_shapes.end() && HasDigitsAlike())
         return known->size;
     std::optional<CFontSelector> measuring;
     if (m_pDC->m_bScaling)
         measuring.emplace(&m_axis.m_LabelFont, m_pDC, false);
     const CSize size = m_pDC->GetTextExtent(cText);
-    if (m_bDigitsAlike) {
+    if (known == m_shapes.end()) {
         if (m_shapes.size() == kMostShapes)
             m_shapes.erase(m_shapes.begin());
         m_shapes.push_back({strShape, size});
@@ -120,11 +145,11 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
 
 // Text is drawn opaque and clipped to its rectangle, so one that fills its rectangle hides what
 // is under it; and one of the same shape at the same place has the same outline.
-bool CTickLabels::Covers(const TLabel& later, const TLabel& earlier) const
+bool CTickLabels::Covers(const TLabel& later, const TLabel& earlier)
 {
-    if (!m_bUpright)
+    if (!IsUpright())
         return false;
-    if (m_bDigitsInside && later.rect == earlier.rect && later.strShape == earlier.strShape)
+    if (later.rect == earlier.rect && later.strShape == earlier.strShape && HasDigitsInside())
         return true;
     return !m_pDC->m_bScaling && IsPlain(later.strShape) && IsPlain(earlier.strShape) &&
            later.rect.Width() <= later.size.cx && later.rect.Height() <= later.size.cy &&

@@ -9,6 +9,7 @@
 #include "objects/XGraphAxis.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,8 +40,12 @@ private:
         CRect rect;
     };
 
+    [[nodiscard]] bool MayShow(CPoint place);
     [[nodiscard]] CSize Measure(const CString& cText, const std::wstring& strShape);
-    [[nodiscard]] bool Covers(const TLabel& later, const TLabel& earlier) const;
+    [[nodiscard]] bool Covers(const TLabel& later, const TLabel& earlier);
+    [[nodiscard]] bool IsUpright();
+    [[nodiscard]] bool HasDigitsAlike();
+    [[nodiscard]] bool HasDigitsInside();
 
     CXGraphAxis& m_axis;
     CDCEx* m_pDC;
@@ -48,10 +53,11 @@ private:
     CFontSelector m_font;
     CString m_cFormat;      // m_cDisplayFmt, as far as it can show
     TVisibleArea m_visible; // in screen units
-    double m_fReach;        // farther than any label extends from its place
-    bool m_bUpright;        // text runs from left to right
-    bool m_bDigitsAlike;    // all digits are equally wide, for measuring
-    bool m_bDigitsInside;   // and, as drawn, none of them leaves its cell
+    // Asked of the platform when first needed, which in most frames is never.
+    std::optional<double> m_fReach;      // farther than any label extends from its place
+    std::optional<bool> m_bUpright;      // text runs from left to right
+    std::optional<bool> m_bDigitsAlike;  // all digits are equally wide, for measuring
+    std::optional<bool> m_bDigitsInside; // and, as drawn, none of them leaves its cell
     std::vector<TShape> m_shapes;
     std::vector<TLabel> m_pile;
 };

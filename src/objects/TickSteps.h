@@ -11,7 +11,7 @@ namespace TickSteps
 bool CalcNiceStep(int n, double lower, double upper, double& step) noexcept;
 
 // Remainder of x by y with the sign of x. The multiple of y that is taken off is the sum
-// that adding y over and over gives (RepeatedAddition.h).
+// of adding y over and over (RepeatedAddition.h).
 [[nodiscard]] double FloatRemainder(double x, double y) noexcept;
 
 // Rounds the bounds outward to multiples of the step. A bound that is a multiple stays; a

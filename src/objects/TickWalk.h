@@ -13,7 +13,7 @@ struct TWalk {
     double fStep;      // between values
     double fPlace;     // pixel of the first tick
     double fPlaceStep; // between pixels
-    bool bIncludeEnd;  // whether a tick stands at the upper bound itself
+    bool bIncludeEnd;  // whether the upper bound itself has a tick
 };
 
 // Calls visit(value, place) for every tick and returns their number.

@@ -1,5 +1,5 @@
-// Fields, ranges, mapping, markers and colour ranges of an axis. Its painting stands in
-// AxisDrawing.cpp and AxisDecoration.cpp, its file form in AxisFile.cpp.
+// Fields, ranges, mapping, markers and colour ranges of an axis. Its painting is in
+// AxisDrawing.cpp and AxisBands.cpp, its file form in AxisFile.cpp.
 
 #include "objects/XGraphAxis.h"
 

@@ -24,7 +24,7 @@ struct TRangeEntry {
     double fMax;
 };
 
-// A band behind the curves. The record goes to files as it stands: 552 bytes.
+// A band behind the curves. The record goes to files as it is: 552 bytes.
 struct TColorRange {
     double fMin;
     double fMax;

@@ -1,5 +1,6 @@
 #include "objects/XGraphBitmap.h"
 
+#include "base/Colors.h"
 #include "draw/BitmapEx.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
@@ -42,7 +43,7 @@ void CXGraphBitmap::Draw(CDCEx* pDC)
         return;
     CRect rcTarget = m_rcObject;
     if (m_bBorder) {
-        const CPenSelector selectPen(0x000000, 1, pDC, PS_SOLID);
+        const CPenSelector selectPen(kBlack, 1, pDC, PS_SOLID);
         pDC->Rectangle(&rcTarget);
         rcTarget.DeflateRect(1, 1);
     }

@@ -1,5 +1,6 @@
 #include "objects/XGraphDataNotation.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
@@ -14,8 +15,6 @@ IMPLEMENT_SERIAL(CXGraphDataNotation, CXGraphObject, 1)
 
 namespace
 {
-constexpr COLORREF Black = 0x000000;
-constexpr COLORREF White = 0xFFFFFF;
 constexpr int BoxAbove = 20;            // pixels from the box's top down to the point
 constexpr LONG FarthestPixel = 1 << 26; // nothing beyond it is seen, and sums stay sums
 } // namespace
@@ -52,11 +51,11 @@ void CXGraphDataNotation::Draw(CDCEx* pDC)
     PlaceBox(pDC, point);
 
     m_rcObject.InflateRect(1, 1);
-    pDC->FillSolidRect(&m_rcObject, Black);
+    pDC->FillSolidRect(&m_rcObject, kBlack);
     m_rcObject.DeflateRect(1, 1);
-    pDC->FillSolidRect(&m_rcObject, White);
+    pDC->FillSolidRect(&m_rcObject, kWhite);
     pDC->DrawText(m_cText, &m_rcObject, DT_CENTER);
-    pDC->FillSolidRect(point.x - 1, point.y - 1, 3, 3, Black);
+    pDC->FillSolidRect(point.x - 1, point.y - 1, 3, 3, kBlack);
     pDC->MoveTo(point);
     pDC->LineTo(point.x, m_rcObject.bottom);
 }

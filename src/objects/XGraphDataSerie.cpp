@@ -1,4 +1,4 @@
-// The points of a curve and who owns them, and its file form. Its painting stands in
+// The points of a curve and who owns them, and its file form. Its painting is in
 // CurveDrawing.cpp.
 
 #include "objects/XGraphDataSerie.h"

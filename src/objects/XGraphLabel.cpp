@@ -1,5 +1,6 @@
 #include "objects/XGraphLabel.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "framework/windowing/Archive.h"
@@ -15,9 +16,6 @@ IMPLEMENT_SERIAL(CXGraphLabel, CXGraphObject, 1)
 
 namespace
 {
-
-constexpr COLORREF kBlack = 0x000000;
-constexpr COLORREF kWhite = 0xFFFFFF;
 
 constexpr UINT kEditorId = 65534;
 constexpr DWORD kEditorStyle =

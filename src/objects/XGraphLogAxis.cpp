@@ -1,6 +1,6 @@
 #include "objects/XGraphLogAxis.h"
 
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 #include "objects/LogDecades.h"
 
 IMPLEMENT_SERIAL(CXGraphLogAxis, CXGraphAxis, 1)

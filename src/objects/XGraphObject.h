@@ -53,7 +53,7 @@ public:
 };
 
 // An object as it was met, for the time while messages run: it may have been deleted since, and
-// its address may be that of another one. CXGraph::Owns tells.
+// its address may be that of another one. CXGraph::Owns knows.
 struct TObjectRef {
     explicit TObjectRef(CXGraphObject* object) : pObject(object), nIdentity(object->m_nIdentity) {}
 

@@ -292,7 +292,7 @@ TEST(DCEx, ARecordingKeepsTextWhereverItIs)
     EXPECT_EQ(recording.Lines().size(), 1u);
 }
 
-TEST(DCEx, WhatCanBeSeenIsToldInTheCallersUnits)
+TEST(DCEx, WhatCanBeSeenIsInTheCallersUnits)
 {
     Canvas canvas(60, 30);
     EXPECT_EQ(canvas.dc.Visible().right, 60);

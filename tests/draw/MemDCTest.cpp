@@ -48,6 +48,24 @@ TEST(MemDC, ACanvasAttachedToItsHandleDrawsInTheTargetsCoordinates)
     EXPECT_EQ(canvas.At(14, 22), White);
 }
 
+TEST(MemDC, WhoCoversAllOfItNeedsNoFirstFill)
+{
+    Canvas canvas(60, 60);
+    ::SetBkColor(canvas.dc, Green);
+    {
+        CMemDC memory(&canvas.dc, 0, false);
+        EXPECT_NE(memory.GetPixel(5, 5), Green);
+        memory.FillSolidRect(0, 0, 60, 60, Red);
+    }
+    EXPECT_EQ(canvas.At(0, 0), Red);
+    EXPECT_EQ(canvas.At(59, 59), Red);
+    canvas.dc.m_bPrinting = TRUE;
+    {
+        const CMemDC page(&canvas.dc, 0, false);
+    }
+    EXPECT_EQ(canvas.At(5, 5), Green) << "a page is filled all the same";
+}
+
 TEST(MemDC, TheFinalCopyCanBeNarrowed)
 {
     Canvas canvas(60, 60);

@@ -1,12 +1,13 @@
-// What stands on or along an axis: colour ranges, axis markers, curve keys, the arrowhead.
+// What lies on or along an axis: colour ranges, axis markers, curve keys, the arrowhead.
 
 #include "objects/XGraphAxis.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/Markers.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 #include "objects/PlotHost.h"
 #include "objects/XGraphDataSerie.h"
 
@@ -18,8 +19,6 @@
 namespace
 {
 
-constexpr COLORREF kBlack = 0x000000;
-constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr UINT kSolidFill = 6;
 constexpr int kLargestKey = 32767; // more than any plot; the platform's cost grows with the size
 
@@ -145,7 +144,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
     const CRect plot = PlotRect();
     const int nAxis = PlotHost::AxisIndex(*m_pGraph, *this);
     // Keys in a row across the axis's direction: two in a column of an X axis, three in a row
-    // of a Y axis. The first column of an X axis stands one key inside the plot.
+    // of a Y axis. The first column of an X axis is one key inside the plot.
     const int nPerLine = IsVertical() ? 3 : 2;
     const int nSize = m_nMarkerSize;
     int nAlong = IsVertical() ? 0 : nSize;

@@ -10,10 +10,10 @@ namespace
 constexpr COLORREF kGreen = 0x00FF00;
 constexpr COLORREF kBlue = 0xFF0000;
 
-class AxisDecoration : public GraphTest
+class AxisBands : public GraphTest
 {
 protected:
-    AxisDecoration()
+    AxisBands()
     {
         AddLine();
         graph.m_bShowLegend = false;
@@ -60,7 +60,7 @@ std::vector<TLine> ArrowLines(int nDirection, int nSize)
 
 } // namespace
 
-TEST_F(AxisDecoration, ASolidRangeOfOneColourFillsItsBand)
+TEST_F(AxisBands, ASolidRangeOfOneColourFillsItsBand)
 {
     Y().SetColorRange(0, 2, 4, kGreen, kGreen, L"", 6);
     const Picture picture = Shoot();
@@ -70,7 +70,7 @@ TEST_F(AxisDecoration, ASolidRangeOfOneColourFillsItsBand)
     EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 3}).y), kGreen);
 }
 
-TEST_F(AxisDecoration, AnXRangeTakesThePlotsWholeHeight)
+TEST_F(AxisBands, AnXRangeTakesThePlotsWholeHeight)
 {
     X().SetColorRange(0, 2, 4, kGreen, kGreen, L"", 6);
     const Picture picture = Shoot();
@@ -79,7 +79,7 @@ TEST_F(AxisDecoration, AnXRangeTakesThePlotsWholeHeight)
     EXPECT_EQ(picture.At(nColumn, graph.m_rcInner.bottom - 2), kGreen);
 }
 
-TEST_F(AxisDecoration, TwoColoursHaveNoDrawnForm)
+TEST_F(AxisBands, TwoColoursHaveNoDrawnForm)
 {
     Y().SetColorRange(0, 2, 4, kGreen, kBlue, L"", 6);
     const Picture picture = Shoot();
@@ -87,7 +87,7 @@ TEST_F(AxisDecoration, TwoColoursHaveNoDrawnForm)
     EXPECT_EQ(picture.Count(kBlue), 0);
 }
 
-TEST_F(AxisDecoration, AHatchedRangeHasAFrameAndGaps)
+TEST_F(AxisBands, AHatchedRangeHasAFrameAndGaps)
 {
     Y().SetColorRange(0, 2, 8, kGreen, kBlue, L"", HS_CROSS);
     const Picture picture = Shoot();
@@ -98,14 +98,14 @@ TEST_F(AxisDecoration, AHatchedRangeHasAFrameAndGaps)
     EXPECT_EQ(picture.At(graph.m_rcInner.left + 60, Y().GetPointForValue({0, 8}).y), kGreen);
 }
 
-TEST_F(AxisDecoration, AnUnknownPatternPaintsNothing)
+TEST_F(AxisBands, AnUnknownPatternPaintsNothing)
 {
     Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"", 12);
     Y().SetColorRange(1, 2, 8, kGreen, kGreen, L"", 0xFFFFFFFF);
     EXPECT_EQ(Shoot().Count(kGreen), 0);
 }
 
-TEST_F(AxisDecoration, ThePlatformsFurtherPatternsAreDrawn)
+TEST_F(AxisBands, ThePlatformsFurtherPatternsAreDrawn)
 {
     for (UINT nStyle = 7; nStyle < 12; ++nStyle) {
         Y().SetColorRange(0, 2, 8, kGreen, kBlue, L"", nStyle);
@@ -115,7 +115,7 @@ TEST_F(AxisDecoration, ThePlatformsFurtherPatternsAreDrawn)
     }
 }
 
-TEST_F(AxisDecoration, RangesOutsideThePlotEndAtItsEdge)
+TEST_F(AxisBands, RangesOutsideThePlotEndAtItsEdge)
 {
     Y().SetColorRange(0, 50, 60, kGreen, kGreen, L"far", 6);
     Y().SetColorRange(1, 8, 1e300, kBlue, kBlue, L"", 6);
@@ -124,14 +124,14 @@ TEST_F(AxisDecoration, RangesOutsideThePlotEndAtItsEdge)
     EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 9}).y), kBlue);
 }
 
-TEST_F(AxisDecoration, ARangesLabelStandsInIt)
+TEST_F(AxisBands, ARangesLabelStandsInIt)
 {
     Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"!good", 6);
     const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"!").size(), 1u);
 }
 
-TEST_F(AxisDecoration, AMarkerCrossesThePlotWithItsValue)
+TEST_F(AxisBands, AMarkerCrossesThePlotWithItsValue)
 {
     X().m_cDisplayFmt = L"X%g";
     Y().m_cDisplayFmt = L"Y%g";
@@ -153,7 +153,7 @@ TEST_F(AxisDecoration, AMarkerCrossesThePlotWithItsValue)
     EXPECT_NE(std::find(texts.begin(), texts.end(), L"3.5"), texts.end());
 }
 
-TEST_F(AxisDecoration, AMarkerOutsideThePlotIsSkippedWithItsText)
+TEST_F(AxisBands, AMarkerOutsideThePlotIsSkippedWithItsText)
 {
     X().m_cDisplayFmt = L"X%g";
     X().SetAxisMarker(0, 30.5, kBlue, PS_SOLID);
@@ -164,7 +164,7 @@ TEST_F(AxisDecoration, AMarkerOutsideThePlotIsSkippedWithItsText)
     EXPECT_EQ(std::find(texts.begin(), texts.end(), L"30.5"), texts.end());
 }
 
-TEST_F(AxisDecoration, KeysTakeTwoToAColumnOfAnXAxis)
+TEST_F(AxisBands, KeysTakeTwoToAColumnOfAnXAxis)
 {
     const int nSize = X().m_nMarkerSize;
     EXPECT_EQ(KeyRoom(X()), nSize); // no visible curve yet
@@ -176,7 +176,7 @@ TEST_F(AxisDecoration, KeysTakeTwoToAColumnOfAnXAxis)
     EXPECT_EQ(KeyRoom(X()), 0);
 }
 
-TEST_F(AxisDecoration, KeysTakeThreeToARowOfAYAxis)
+TEST_F(AxisBands, KeysTakeThreeToARowOfAYAxis)
 {
     const int nSize = Y().m_nMarkerSize;
     EXPECT_EQ(KeyRoom(Y()), 0);
@@ -186,14 +186,14 @@ TEST_F(AxisDecoration, KeysTakeThreeToARowOfAYAxis)
     }
 }
 
-TEST_F(AxisDecoration, CurvesOfOtherAxesHaveNoKey)
+TEST_F(AxisBands, CurvesOfOtherAxesHaveNoKey)
 {
     AddLine(1, 1);
     EXPECT_EQ(KeyRoom(Y()), 0);
     EXPECT_EQ(KeyRoom(*graph.GetYAxis(1)), 10);
 }
 
-TEST_F(AxisDecoration, KeysStandAlongTheirAxis)
+TEST_F(AxisBands, KeysStandAlongTheirAxis)
 {
     graph.m_Curves[0].m_bVisible = true;
     graph.m_Curves[0].m_crColor = kGreen;
@@ -207,7 +207,7 @@ TEST_F(AxisDecoration, KeysStandAlongTheirAxis)
     EXPECT_EQ(picture.At(yCorner.x, yCorner.y + 9), kGreen);
 }
 
-TEST_F(AxisDecoration, AKeyIsAFilledSquareWithItsNumber)
+TEST_F(AxisBands, AKeyIsAFilledSquareWithItsNumber)
 {
     Canvas canvas(60, 60);
     X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 7, 30, 0x0000A0, false);
@@ -217,7 +217,7 @@ TEST_F(AxisDecoration, AKeyIsAFilledSquareWithItsNumber)
     EXPECT_EQ(canvas.dc.GetTextColor(), 0u);
 }
 
-TEST_F(AxisDecoration, DarkKeysHaveWhiteNumbersAndBlueCountsHalf)
+TEST_F(AxisBands, DarkKeysHaveWhiteNumbersAndBlueCountsHalf)
 {
     const auto whites = [&](COLORREF color) {
         Canvas canvas(60, 60);
@@ -235,7 +235,7 @@ TEST_F(AxisDecoration, DarkKeysHaveWhiteNumbersAndBlueCountsHalf)
     EXPECT_EQ(whites(0x00FF00), 0);
 }
 
-TEST_F(AxisDecoration, AMonoKeyIsBlackWithAWhiteNumber)
+TEST_F(AxisBands, AMonoKeyIsBlackWithAWhiteNumber)
 {
     Canvas canvas(60, 60);
     canvas.dc.m_bMono = true;
@@ -243,7 +243,7 @@ TEST_F(AxisDecoration, AMonoKeyIsBlackWithAWhiteNumber)
     EXPECT_EQ(canvas.At(10, 10), 0u);
 }
 
-TEST_F(AxisDecoration, ASymbolKeyIsDrawnByItsPainter)
+TEST_F(AxisBands, ASymbolKeyIsDrawnByItsPainter)
 {
     Canvas canvas(60, 60);
     X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 3, 20, kGreen, true);
@@ -251,7 +251,7 @@ TEST_F(AxisDecoration, ASymbolKeyIsDrawnByItsPainter)
     EXPECT_EQ(canvas.At(11, 11), 0xFFFFFFu); // a diamond leaves the corners
 }
 
-TEST_F(AxisDecoration, AnUnknownSymbolDrawsNothing)
+TEST_F(AxisBands, AnUnknownSymbolDrawsNothing)
 {
     Canvas canvas(60, 60);
     for (const int nKey : {-1, 8, INT_MAX, INT_MIN})

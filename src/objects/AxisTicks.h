@@ -29,21 +29,21 @@ struct TTick {
     bool bLabel = true;
 };
 
-class CAxisPainter
+class CAxisTicks
 {
 public:
-    CAxisPainter(CXGraphAxis& axis, CDCEx* pDC);
+    CAxisTicks(CXGraphAxis& axis, CDCEx* pDC);
 
-    // Sets the axis's margins; the results below stand on them.
+    // Sets the axis's margins; the results below depend on them.
     void MeasureMargins();
     // The far end of the axis's line: its top, or its right end.
     [[nodiscard]] int FarEnd() const noexcept { return m_nFarEnd; }
 
-    // Colour ranges, axis markers if told, curve keys; then the colours of what follows.
+    // Colour ranges, axis markers if asked for, curve keys; then the colours of what follows.
     void DrawBackground(bool bMarkers);
     // Adds its size to the end margin a second time.
     void DrawTitle();
-    // Labels and grid lines. The gaps of dashed grid lines are clear if told, else opaque.
+    // Labels and grid lines. The gaps of dashed grid lines are clear if asked for, else opaque.
     void DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps);
     // The line with its arrowhead, the axis's rectangle, the frame of a selected axis.
     void DrawLine();

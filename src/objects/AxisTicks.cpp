@@ -1,5 +1,6 @@
-#include "objects/AxisPainter.h"
+#include "objects/AxisTicks.h"
 
+#include "base/Colors.h"
 #include "base/Trunc.h"
 #include "draw/Selectors.h"
 #include "objects/PlotHost.h"
@@ -8,7 +9,6 @@
 namespace
 {
 
-constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr double kLineRoom = 2; // more than half a line's width
 constexpr int kHalfStrip = 5;   // of an axis's rectangle to each side of its line
 
@@ -27,12 +27,12 @@ CAxisCanvas::CAxisCanvas(const CXGraphAxis& axis, CDCEx* pDC) : m_pDC(pDC)
     }
 }
 
-CAxisPainter::CAxisPainter(CXGraphAxis& axis, CDCEx* pDC)
+CAxisTicks::CAxisTicks(CXGraphAxis& axis, CDCEx* pDC)
     : m_axis(axis), m_pDC(pDC), m_rcPlot(axis.PlotRect()), m_visible(pDC->Visible())
 {
 }
 
-void CAxisPainter::MeasureMargins()
+void CAxisTicks::MeasureMargins()
 {
     const bool bVertical = m_axis.IsVertical();
     m_axis.m_fEndMargin = (bVertical ? 2.0 : 4.0) * m_axis.m_nArcSize;
@@ -45,7 +45,7 @@ void CAxisPainter::MeasureMargins()
                           : Trunc(m_rcPlot.right - m_axis.m_fKeySpace);
 }
 
-void CAxisPainter::DrawBackground(bool bMarkers)
+void CAxisTicks::DrawBackground(bool bMarkers)
 {
     m_axis.DrawColorRanges(m_pDC);
     if (bMarkers)
@@ -56,7 +56,7 @@ void CAxisPainter::DrawBackground(bool bMarkers)
     m_pDC->SetBkMode(OPAQUE);
 }
 
-void CAxisPainter::DrawTitle()
+void CAxisTicks::DrawTitle()
 {
     if (m_axis.m_cLabel.IsEmpty())
         return;
@@ -83,12 +83,12 @@ void CAxisPainter::DrawTitle()
 }
 
 // A side that painting hasn't settled draws no ticks.
-bool CAxisPainter::HasTicks() const
+bool CAxisTicks::HasTicks() const
 {
     return !m_axis.IsVertical() || m_axis.m_Placement == apLeft || m_axis.m_Placement == apRight;
 }
 
-void CAxisPainter::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
+void CAxisTicks::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
 {
     if (!HasTicks())
         return;
@@ -109,7 +109,7 @@ void CAxisPainter::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
     }
 }
 
-UINT CAxisPainter::LabelFormat() const
+UINT CAxisTicks::LabelFormat() const
 {
     if (!m_axis.IsVertical())
         return DT_CENTER;
@@ -117,7 +117,7 @@ UINT CAxisPainter::LabelFormat() const
 }
 
 // Of a label of a size at a tick.
-CRect CAxisPainter::LabelRect(double fPlace, CSize size) const
+CRect CAxisTicks::LabelRect(double fPlace, CSize size) const
 {
     const int nTick = m_axis.m_nTickSize;
     if (!m_axis.IsVertical()) {
@@ -137,7 +137,7 @@ CRect CAxisPainter::LabelRect(double fPlace, CSize size) const
     return rect;
 }
 
-void CAxisPainter::DrawGridLine(int nPlace)
+void CAxisTicks::DrawGridLine(int nPlace)
 {
     const int nTick = m_axis.m_nTickSize;
     CPoint ptFrom;
@@ -160,7 +160,7 @@ void CAxisPainter::DrawGridLine(int nPlace)
     m_pDC->LineTo(ptTo);
 }
 
-void CAxisPainter::DrawLine()
+void CAxisTicks::DrawLine()
 {
     const bool bVertical = m_axis.IsVertical();
     const CPoint ptOrigin(m_axis.m_nOriginX, m_axis.m_nOriginY);
