@@ -10,7 +10,7 @@ if(WIN32)
   file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/rooms-shared.cpp CONTENT "// Precompiles headers, and is empty itself.\n")
   add_library(rooms-shared OBJECT ${CMAKE_BINARY_DIR}/rooms-shared.cpp)
   target_link_libraries(rooms-shared PUBLIC vantoplex-flags)
-  vantoplex_precompile(rooms-shared ${PROJECT_SOURCE_DIR}/src/Precompiled.h)
+  vantoplex_precompile(rooms-shared ${PROJECT_SOURCE_DIR}/src/base/Precompiled.h)
 endif()
 
 function(vantoplex_room name)

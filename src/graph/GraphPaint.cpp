@@ -13,7 +13,6 @@
 namespace
 {
 
-
 // A canvas on somebody else's handle, left again on every way out.
 class AttachedCanvas
 {
