@@ -1,10 +1,13 @@
 #include "CursorBench.h"
 
+#include "Goals.h"
 #include "Scene.h"
 #include "Stopwatch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <string>
 
 namespace
 {
@@ -67,6 +70,8 @@ void TimeCase(const char* pszCase, bool bOwned, bool bEven, int nRuns)
     });
     std::printf("%-34s %10.4f %10.4f %10.4f %10.4f\n", pszCase, withText, lines, search, hit);
     std::fflush(stdout);
+    const std::string name = std::string("cursor beyond its text, ") + pszCase + ", ms";
+    Goals::Expect(name, std::max(lines, search + hit), 0.5);
 }
 
 } // namespace

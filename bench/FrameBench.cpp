@@ -1,0 +1,133 @@
+#include "FrameBench.h"
+
+#include "FloorWindow.h"
+#include "Floors.h"
+#include "Goals.h"
+#include "Scene.h"
+#include "Stopwatch.h"
+
+#include "net/Screen.h"
+
+#include <cstdio>
+#include <map>
+#include <string>
+
+namespace
+{
+using Stopwatch::TTimes;
+
+// A frame back to back with the last, and after a wait for messages.
+struct TFrame {
+    TTimes busy;
+    TTimes idle;
+};
+
+volatile std::uint32_t g_sink;
+
+void PrintRow(const std::string& name, int nPoints, const TFrame& frame)
+{
+    std::printf("%-36s %9d %8.3f %8.3f %8.3f %8.3f\n", name.c_str(), nPoints, frame.busy.low,
+                frame.busy.median, frame.idle.low, frame.idle.median);
+    std::fflush(stdout);
+}
+
+// The product's frame and its floor, in turns.
+std::pair<TFrame, TFrame> TimeBeside(Scene& scene, int nRuns)
+{
+    scene.Repaint();
+    const FrameRecording recording(*scene.m_graph);
+    scene.Repaint(); // the recording's own frame has left its fonts' measures
+    Scene other;
+    const FloorWindow floor(other.m_hHost, recording);
+    const auto product = [&] { scene.Repaint(); };
+    const auto plain = [&] { floor.Repaint(); };
+    product();
+    plain();
+    if (Screen(scene.m_graph->m_hWnd).Sum() != Screen(floor.Handle()).Sum())
+        std::printf("(the floor's picture is not the product's)\n");
+    const auto busy = Stopwatch::InTurns(nRuns, {product, plain});
+    const auto idle = Stopwatch::InTurns(nRuns, {product, plain}, &Stopwatch::WaitForMessages);
+    return {{busy[0], idle[0]}, {busy[1], idle[1]}};
+}
+
+TFrame TimeFrame(Scene& scene, int nRuns)
+{
+    const auto product = [&] { scene.Repaint(); };
+    return {Stopwatch::Measure(nRuns, product),
+            Stopwatch::Measure(nRuns, product, &Stopwatch::WaitForMessages)};
+}
+
+TTimes TimeLoops(const std::vector<TDataPoint>& points, int nRuns)
+{
+    const int nCount = static_cast<int>(points.size());
+    const TTimes map = Stopwatch::Measure(nRuns, [&] { g_sink = Floors::MapAll(points); });
+    const TTimes search = Stopwatch::Measure(nRuns, [&] { g_sink = Floors::FindColumns(points); });
+    std::printf("%-36s %9d %8.3f %8.3f\n", "floor: every point mapped", nCount, map.low, map.median);
+    std::printf("%-36s %9d %8.3f %8.3f\n", "floor: 800 columns searched", nCount, search.low,
+                search.median);
+    return map;
+}
+
+// Medians by the number of points.
+struct TMedians {
+    std::map<int, double> owned;
+    std::map<int, double> lent;
+};
+
+void TimeCount(int nCount, int nRuns, TMedians& medians)
+{
+    constexpr int most = 100'000; // where the picture and not the data decides
+    std::vector<TDataPoint> points = NoisyWaves(nCount);
+    const TTimes map = TimeLoops(points, nRuns);
+    for (const bool bOwned : {true, false}) {
+        Scene scene;
+        scene.m_graph->SetData(points.data(), nCount, 0, 0, 0, bOwned);
+        const auto [product, floor] = TimeBeside(scene, nRuns);
+        PrintRow(bOwned ? "line, owned" : "line, caller's", nCount, product);
+        (bOwned ? medians.owned : medians.lent)[nCount] = product.idle.median;
+        if (!bOwned)
+            continue;
+        PrintRow("floor: same picture, fewest calls", nCount, floor);
+        if (nCount > most)
+            continue;
+        const std::string name = "frame of " + std::to_string(nCount) + " to the fewest calls, ";
+        Goals::Expect(name + "busy", product.busy.median / floor.busy.median, 1.5);
+        Goals::Expect(name + "idle", product.idle.median / floor.idle.median, 1.5);
+    }
+    if (nCount == 10'000'000)
+        Goals::Expect("frame of 1e7 caller's points to the mapping loop",
+                      medians.lent[nCount] / map.median, 1.0);
+}
+
+void TimeOthers(int nRuns, double one)
+{
+    constexpr int kCurves = 100, kCount = 10'000;
+    std::vector<TDataPoint> points = NoisyWaves(kCount);
+    Scene scene;
+    for (int i = 0; i < kCurves; ++i)
+        scene.m_graph->SetData(points.data(), kCount, i, 0, 0, true);
+    const TFrame many = TimeFrame(scene, nRuns);
+    PrintRow("100 lines of 10000, owned", kCurves * kCount, many);
+    Goals::Expect("100 curves of 1e4 to one", many.idle.median / one, 3.0);
+    Scene dots;
+    points = NoisyWaves(100'000);
+    dots.m_graph->SetData(points.data(), 100'000, 0, 0, 0, true)->m_nType = gtScatter;
+    PrintRow("scatter, owned", 100'000, TimeFrame(dots, nRuns));
+    dots.m_graph->m_Curves[0].m_nType = gtLine;
+    dots.m_graph->GetXAxis(0)->SetCurrentRange(45'000, 55'000, 0.0);
+    PrintRow("line, owned, its middle tenth", 100'000, TimeFrame(dots, nRuns));
+}
+} // namespace
+
+void BenchFrames(int nMost, int nRuns)
+{
+    std::printf("%-36s %9s %8s %8s %8s %8s\n", "frame of 800 x 600, ms", "points", "busy p10", "median",
+                "idle p10", "median");
+    TMedians medians;
+    for (int nCount = 1000; nCount <= nMost; nCount *= 10)
+        TimeCount(nCount, nRuns, medians);
+    if (nMost >= 10'000'000)
+        Goals::Expect("frame of 1e7 owned points to one of 1e4",
+                      medians.owned[10'000'000] / medians.owned[10'000], 1.1);
+    TimeOthers(nRuns, medians.owned[10'000]);
+}
