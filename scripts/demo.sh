@@ -5,7 +5,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 export VANTOPLEX_BUILD="${VANTOPLEX_BUILD:-$PWD/build}"
+echo "demo: looks for missing packages"
 scripts/setup.sh
+echo "demo: builds the DLL and the viewer in $VANTOPLEX_BUILD (some 250 files; minutes at first, seconds later)"
 scripts/build.sh windows-x64 Vantoplex vantoplex-viewer
 
 viewer=$VANTOPLEX_BUILD/windows-x64/bin/vantoplex-viewer.exe
@@ -13,6 +15,7 @@ demo=$(realpath -m "$VANTOPLEX_BUILD/demo")
 data=$PWD/docs/data
 run=$PWD/scripts/run-wine.sh
 mkdir -p "$demo"
+echo "demo: makes a Wine prefix if there is none, then draws $demo/*.png"
 rm -f "$demo"/*.png
 
 need() { # PICTURES...

@@ -37,18 +37,28 @@ add_test(NAME headers-compile-alone
   COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-headers)
 set_tests_properties(headers-compile-alone PROPERTIES TIMEOUT 600 RUN_SERIAL ON)
 
-# The first program of the README, as it is printed there.
-set(readme_program ${CMAKE_BINARY_DIR}/readme/first.cpp)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/README.md)
-file(READ ${PROJECT_SOURCE_DIR}/README.md readme)
-string(REGEX MATCH "```cpp\n([^`]*)```" ignored "${readme}")
-file(CONFIGURE OUTPUT ${readme_program} CONTENT "${CMAKE_MATCH_1}" @ONLY)
-add_executable(vantoplex-readme WIN32 EXCLUDE_FROM_ALL ${readme_program})
-target_link_libraries(vantoplex-readme PRIVATE vantoplex-flags vantoplex-typelib ole32 oleaut32 uuid)
-target_link_options(vantoplex-readme PRIVATE -municode)
-add_test(NAME readme-program-compiles
-  COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-readme)
-set_tests_properties(readme-program-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
+# The programs of README.md and docs/first-program.md, as they are printed there.
+foreach(page README docs/first-program)
+  get_filename_component(page_name ${page} NAME)
+  set(page_program ${CMAKE_BINARY_DIR}/pages/${page_name}.cpp)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${page}.md)
+  file(READ ${PROJECT_SOURCE_DIR}/${page}.md text)
+  string(REGEX MATCH "```cpp\n([^`]*)```" ignored "${text}")
+  if(NOT CMAKE_MATCH_1)
+    message(FATAL_ERROR "${page}.md shows no program")
+  endif()
+  file(CONFIGURE OUTPUT ${page_program} CONTENT "${CMAKE_MATCH_1}" @ONLY)
+endforeach()
+add_library(vantoplex-readme OBJECT EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/pages/README.cpp)
+target_link_libraries(vantoplex-readme PRIVATE vantoplex-flags vantoplex-typelib)
+add_executable(vantoplex-first-program WIN32 EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/pages/first-program.cpp)
+target_link_libraries(vantoplex-first-program PRIVATE vantoplex-flags vantoplex-typelib ole32 oleaut32 uuid)
+target_link_options(vantoplex-first-program PRIVATE -municode)
+foreach(program readme first-program)
+  add_test(NAME ${program}-compiles
+    COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target vantoplex-${program})
+  set_tests_properties(${program}-compiles PROPERTIES TIMEOUT 300 RUN_SERIAL ON)
+endforeach()
 
 # The example that analyses a curve.
 add_executable(vantoplex-analysis-host WIN32 EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/docs/examples/analysis-host.cpp)

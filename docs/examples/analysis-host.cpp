@@ -1,6 +1,6 @@
 // A host that analyses a curve: its linear trend run on by a quarter, a moving average, and a
 // parabola. S saves the graph's settings, L loads them, P prints.
-// Build it like the first program of the README.
+// Build it like docs/first-program.md.
 
 #include <ole2.h>
 #include <windows.h>
