@@ -4,6 +4,8 @@
 make.py check      names what is stale or undocumented; exit code 1 if anything is
 make.py header WIDL_HEADER OUTPUT
                    the header for hosts from the one that widl made
+make.py typelib LIBRARY
+                   takes the time of its making out of a type library
 """
 
 import pathlib
@@ -16,6 +18,7 @@ import header
 import idl
 import languages
 import reference
+import typelib
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 IDL = ROOT / "src" / "resources" / "Vantoplex.idl"
@@ -65,6 +68,10 @@ def main(arguments):
         library = idl.parse(IDL.read_text())
         made = header.annotate(pathlib.Path(arguments[1]).read_text(), library)
         pathlib.Path(arguments[2]).write_text(made)
+        return 0
+    if len(arguments) == 2 and arguments[0] == "typelib":
+        path = pathlib.Path(arguments[1])
+        path.write_bytes(typelib.without_time(path.read_bytes()))
         return 0
     print(__doc__, file=sys.stderr)
     return 2

@@ -78,3 +78,12 @@ foreach(standard 17 20)
 endforeach()
 add_test(NAME kit-compiles-as-c COMMAND ${CMAKE_C_COMPILER} -std=c11 -Wall -Wextra -Werror -pedantic
   ${kit_includes} -fsyntax-only -x c ${PROJECT_SOURCE_DIR}/kit/languages/vantoplex_c.h)
+
+# The package as a stranger uses it (tests/package).
+add_executable(vantoplex-package-host package/host.cpp)
+target_link_libraries(vantoplex-package-host PRIVATE vantoplex-flags vantoplex-typelib ole32 oleaut32 uuid gdi32 user32 advapi32)
+foreach(case reproducible installs refusals)
+  add_test(NAME package-${case} COMMAND ${CMAKE_COMMAND} -E env VANTOPLEX_BUILD=${CMAKE_BINARY_DIR}/..
+    ${CMAKE_CURRENT_SOURCE_DIR}/package/package-test.sh ${CMAKE_BINARY_DIR} $<TARGET_FILE:vantoplex-package-host> ${case})
+  set_tests_properties(package-${case} PROPERTIES TIMEOUT 300)
+endforeach()

@@ -1,5 +1,7 @@
 #include "viewer/HelpText.h"
 
+#include <VersionNumbers.h>
+
 namespace Viewer
 {
 
@@ -103,7 +105,7 @@ Ctrl+O open, Ctrl+E export, Ctrl+P print, Ctrl+C copy, F1 this text
 
 std::u16string_view VersionText() noexcept
 {
-    return u"vantoplex-viewer 1.0.0\n";
+    return u"vantoplex-viewer " VANTOPLEX_RELEASE "\n";
 }
 
 } // namespace Viewer

@@ -3,9 +3,17 @@
 
 #include <windows.h>
 
+#include <cstdlib>
+
 namespace __gnu_cxx
 {
 void __freeres(); // the C++ run-time's memory for exceptions in need; it has no header
+
+// The run-time's own names the exception on a console that a host doesn't have, and brings 50 KB for it.
+void __verbose_terminate_handler()
+{
+    std::abort();
+}
 }
 
 extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
