@@ -103,7 +103,7 @@ private:
 
     void AddCell(const Column& column, std::size_t row)
     {
-        const std::optional<double> value = ParseNumber(column.cells[row], m_table.decimalComma);
+        const std::optional<double> value = ParseNumber(column.cells[row], column.decimalComma);
         if (!value) {
             ++m_plan.skipped;
             return;

@@ -42,6 +42,12 @@ public:
         return m_good ? value : 0;
     }
 
+    int UpToTwoDigits()
+    {
+        const bool two = m_rest.size() > 1 && m_rest[1] >= u'0' && m_rest[1] <= u'9';
+        return Digits(two ? 2 : 1);
+    }
+
     bool Take(char16_t unit)
     {
         if (m_rest.empty() || m_rest.front() != unit) {
@@ -124,6 +130,80 @@ double ToOle(sys_days day, double seconds)
 
 } // namespace
 
+namespace
+{
+
+bool IsDigit(char16_t unit) noexcept
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+// Whether the marks in a number's whole part set off groups of three digits: "1.012", "12.345.678".
+bool IsGrouped(std::u16string_view whole, char16_t mark)
+{
+    std::size_t digits = 0;
+    bool first = true;
+    for (const char16_t unit : whole) {
+        if (unit != mark) {
+            ++digits;
+            continue;
+        }
+        if (first ? digits == 0 || digits > 3 : digits != 3) {
+            return false;
+        }
+        first = false;
+        digits = 0;
+    }
+    return !first && digits == 3;
+}
+
+// The same number with a point for its decimal mark and no other mark. Whatever is no number keeps
+// something that makes it none.
+std::string ToPlain(std::u16string_view number, bool decimalComma)
+{
+    const char16_t decimal = decimalComma ? u',' : u'.';
+    const char16_t group = decimalComma ? u'.' : u',';
+    const std::size_t sign = number.front() == u'-' ? 1 : 0;
+    const std::size_t end = std::min(number.find_first_not_of(u"0123456789.,", sign), number.size());
+    const std::size_t wholeEnd = std::min(number.find(decimal), end);
+    const bool grouped = IsGrouped(number.substr(sign, wholeEnd - sign), group);
+    const bool point = decimalComma && !grouped && wholeEnd == end; // "3.5" is meant nevertheless
+    std::string plain;
+    plain.reserve(number.size());
+    for (std::size_t at = 0; at < number.size(); ++at) {
+        const char16_t unit = number[at];
+        if (unit == group && at < wholeEnd && grouped) {
+            continue;
+        }
+        const bool mark = unit == decimal || (unit == u'.' && point);
+        plain.push_back(mark ? '.' : unit == u'.' || unit >= 0x80 ? '?' : static_cast<char>(unit));
+    }
+    return plain;
+}
+
+// How sure a cell is that a comma is a decimal mark: 1 and -1 are, 0 says nothing.
+int VoteForComma(std::u16string_view cell)
+{
+    const auto commas = std::count(cell.begin(), cell.end(), u',');
+    const auto points = std::count(cell.begin(), cell.end(), u'.');
+    if (commas > 0 && points > 0) {
+        return cell.find_last_of(u",.") == cell.rfind(u',') ? 1 : -1;
+    }
+    if (commas > 1 || points > 1) {
+        return commas > 1 ? -1 : 1;
+    }
+    if (commas == 0) {
+        return 0;
+    }
+    const std::size_t comma = cell.find(u',');
+    const std::u16string_view before = cell.substr(0, comma);
+    const bool group = cell.size() - comma == 4 && !before.empty() && IsDigit(before.back()) &&
+                       before != u"0" && before != u"-0";
+    return group ? 0 : 1;
+}
+
+} // namespace
+
 std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
 {
     std::u16string_view trimmed = TrimBlanks(cell);
@@ -133,19 +213,11 @@ std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
             return std::nullopt;
         }
     }
-    if (trimmed.empty() || trimmed.size() > longestNumber) {
+    if (trimmed.empty() || trimmed.size() > longestNumber ||
+        trimmed.find_first_not_of(u"0123456789.,eE+-") != trimmed.npos) {
         return std::nullopt;
     }
-    constexpr std::u16string_view allowed = u"0123456789.eE+-";
-    std::string plain;
-    plain.reserve(trimmed.size());
-    for (const char16_t unit : trimmed) {
-        const char16_t read = decimalComma && unit == u',' ? u'.' : unit;
-        if (allowed.find(read) == allowed.npos) {
-            return std::nullopt;
-        }
-        plain.push_back(static_cast<char>(read));
-    }
+    const std::string plain = ToPlain(trimmed, decimalComma);
     double value = 0;
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value)) {
@@ -154,21 +226,69 @@ std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
     return value;
 }
 
-std::optional<double> ParseDate(std::u16string_view cell)
+bool HasDecimalCommas(std::span<const std::u16string> cells, bool otherwise)
 {
-    Reader reader(TrimBlanks(cell));
+    bool commas = false;
+    for (const std::u16string& cell : cells) {
+        const std::u16string_view trimmed = TrimBlanks(cell);
+        const bool number = !trimmed.empty() && IsDigit(trimmed.back()) && !ParseDate(trimmed) &&
+                            trimmed.find_first_not_of(u"0123456789.,eE+-") == trimmed.npos;
+        if (!number) {
+            continue;
+        }
+        if (const int vote = VoteForComma(trimmed); vote != 0) {
+            return vote > 0;
+        }
+        commas = commas || trimmed.find(u',') != trimmed.npos;
+    }
+    return commas && otherwise;
+}
+
+namespace
+{
+
+struct Day {
+    int year;
+    int month;
+    int day;
+};
+
+// "2024-02-01" or "2024-02".
+Day ReadIsoDay(Reader& reader)
+{
     const int year = reader.Digits(4);
     reader.Need(u'-');
     const int month = reader.Digits(2);
-    const int day = reader.Take(u'-') ? reader.Digits(2) : 1;
-    const year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
-                              std::chrono::day{static_cast<unsigned>(day)}};
+    return {year, month, reader.Take(u'-') ? reader.Digits(2) : 1};
+}
+
+// "01.02.2024" or "1.2.2024", the day before the month.
+Day ReadPointedDay(Reader& reader)
+{
+    const int day = reader.UpToTwoDigits();
+    reader.Need(u'.');
+    const int month = reader.UpToTwoDigits();
+    reader.Need(u'.');
+    return {reader.Digits(4), month, day};
+}
+
+} // namespace
+
+std::optional<double> ParseDate(std::u16string_view cell)
+{
+    const std::u16string_view trimmed = TrimBlanks(cell);
+    Reader reader(trimmed);
+    const bool pointed = trimmed.substr(0, 3).find(u'.') != trimmed.npos;
+    const Day read = pointed ? ReadPointedDay(reader) : ReadIsoDay(reader);
+    const year_month_day date{std::chrono::year{read.year},
+                              std::chrono::month{static_cast<unsigned>(read.month)},
+                              std::chrono::day{static_cast<unsigned>(read.day)}};
     double seconds = 0;
     if (reader.Take(u'T') || reader.Take(u't') || reader.Take(u' ')) {
         seconds = ReadClock(reader);
         seconds -= ReadOffset(reader);
     }
-    if (!reader.Good() || !reader.AtEnd() || year < 100 || !date.ok()) {
+    if (!reader.Good() || !reader.AtEnd() || read.year < 100 || !date.ok()) {
         return std::nullopt;
     }
     return ToOle(sys_days{date}, seconds);

@@ -16,12 +16,12 @@ namespace
 // A file of a few bytes per row can name far more cells than it holds.
 constexpr std::size_t mostCells = 20'000'000;
 
-bool IsValue(std::u16string_view cell, bool decimalComma)
+bool IsValue(std::u16string_view cell)
 {
-    return ParseDate(cell) || ParseNumber(cell, decimalComma);
+    return ParseDate(cell) || ParseNumber(cell, false) || ParseNumber(cell, true);
 }
 
-ColumnKind FindKind(const Column& column, bool decimalComma)
+ColumnKind FindKind(const Column& column)
 {
     std::size_t filled = 0;
     std::size_t dates = 0;
@@ -33,7 +33,7 @@ ColumnKind FindKind(const Column& column, bool decimalComma)
         ++filled;
         if (ParseDate(cell)) {
             ++dates;
-        } else if (ParseNumber(cell, decimalComma)) {
+        } else if (ParseNumber(cell, column.decimalComma)) {
             ++numbers;
         }
     }
@@ -82,17 +82,17 @@ const Column* Table::Find(std::u16string_view name) const
 Table MakeTable(CsvContents contents)
 {
     Table table;
-    table.decimalComma = contents.separator == u';';
     table.endsInsideQuotes = contents.endsInsideQuotes;
     if (contents.rows.empty()) {
         throw Error{ExitCode::BadData, u"the file is empty"};
     }
     std::vector<std::u16string>& first = contents.rows.front().cells;
-    const bool header = !std::all_of(first.begin(), first.end(), [&](const std::u16string& cell) {
-        return IsValue(cell, table.decimalComma);
-    });
+    const bool header = !std::all_of(first.begin(), first.end(),
+                                     [](const std::u16string& cell) { return IsValue(cell); });
     if (first.size() > mostCells / contents.rows.size()) {
-        throw Error{ExitCode::BadData, u"the table has too many rows and columns"};
+        throw Error{ExitCode::BadData, u"the table has " + ToText(contents.rows.size()) + u" rows of " +
+                                           ToText(first.size()) + u" columns; " + ToText(mostCells) +
+                                           u" cells can be shown at most"};
     }
     table.columns.resize(first.size());
     if (header) {
@@ -113,7 +113,8 @@ Table MakeTable(CsvContents contents)
     }
     NameColumns(table.columns);
     for (Column& column : table.columns) {
-        column.kind = FindKind(column, table.decimalComma);
+        column.decimalComma = HasDecimalCommas(column.cells, contents.separator == u';');
+        column.kind = FindKind(column);
     }
     return table;
 }

@@ -16,13 +16,13 @@ enum class ColumnKind { Empty, Text, Number, Date };
 struct Column {
     std::u16string name;
     ColumnKind kind = ColumnKind::Empty; // what at least half of the cells that aren't empty hold
+    bool decimalComma = false;           // in its numbers
     std::vector<std::u16string> cells;   // one per row, empty where the row is too short
 };
 
 struct Table {
     std::vector<Column> columns;
     std::vector<std::size_t> lines; // line of the file that each row starts in
-    bool decimalComma = false;
     bool endsInsideQuotes = false;
 
     [[nodiscard]] std::size_t Rows() const { return lines.size(); }

@@ -132,6 +132,13 @@ int GraphControl::Operation() const
     return operation;
 }
 
+void GraphControl::SetOperation(int operation)
+{
+    if (const unsigned command = GraphCommand::Of(operation); command != 0) {
+        Send(command);
+    }
+}
+
 int GraphControl::ZoomDepth() const
 {
     int depth = 0;

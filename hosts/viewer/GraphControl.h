@@ -24,6 +24,7 @@ public:
     void DeleteMeasures();
 
     [[nodiscard]] int Operation() const;
+    void SetOperation(int operation); // one that Operation has returned
     [[nodiscard]] int ZoomDepth() const;
     [[nodiscard]] int CurveCount() const;
     // The curve that trends and readings are about: the one clicked or chosen last. -1 if none.

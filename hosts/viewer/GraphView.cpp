@@ -79,7 +79,12 @@ void GraphView::AddCurve(const Curve& curve, int index, bool points)
                            curve.yAxis, TRUE));
     Check(serie->SetLabel(Bstr(curve.label).Get()));
     Check(serie->SetColor(ColorOf(static_cast<std::size_t>(index))));
-    Check(serie->SetType(points ? gtScatter : gtLine));
+    // A line needs two points to be seen, and a single one some size.
+    if (data.size() == 1) {
+        constexpr int radius = 4;
+        Check(serie->SetLineSize(radius));
+    }
+    Check(serie->SetType(points || data.size() == 1 ? gtScatter : gtLine));
 }
 
 // An axis takes its range from data alone. A curve that spans the wanted range widens it; the

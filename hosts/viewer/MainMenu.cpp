@@ -23,6 +23,7 @@ struct Item {
 constexpr Item line = {0, nullptr};
 
 constexpr std::array fileItems = {Item{OpenCsv, L"&Open CSV...\tCtrl+O"},
+                                  Item{Follow, L"&Follow the file as it grows"},
                                   Item{OpenGraph, L"Open &graph file..."},
                                   Item{SaveGraph, L"&Save graph file...\tCtrl+S"},
                                   Item{ExportPng, L"&Export PNG...\tCtrl+E"},
@@ -129,18 +130,19 @@ HMENU FindPopup(HMENU menu, unsigned firstCommand)
     return nullptr;
 }
 
-void FillCurves(HMENU menu, const MenuState& state)
+// Names become the items of the popup that has `first` as its first item.
+void FillPopup(HMENU menu, unsigned first, unsigned last, std::span<const std::u16string> names)
 {
-    const HMENU popup = FindPopup(menu, FirstCurve);
+    const HMENU popup = FindPopup(menu, first);
     if (!popup) {
         return;
     }
     while (GetMenuItemCount(popup) > 0) {
         DeleteMenu(popup, 0, MF_BYPOSITION);
     }
-    UINT_PTR command = FirstCurve;
-    for (const std::u16string& name : state.curves) {
-        if (command > LastCurve) {
+    UINT_PTR command = first;
+    for (const std::u16string& name : names) {
+        if (command > last) {
             break;
         }
         std::wstring text;
@@ -149,8 +151,8 @@ void FillCurves(HMENU menu, const MenuState& state)
         }
         AppendMenuW(popup, MF_STRING, command++, text.c_str());
     }
-    if (state.curves.empty()) {
-        AppendMenuW(popup, MF_STRING | MF_GRAYED, FirstCurve, L"none");
+    if (names.empty()) {
+        AppendMenuW(popup, MF_STRING | MF_GRAYED, first, L"none");
     }
 }
 
@@ -166,20 +168,16 @@ void Check(HMENU menu, unsigned command, bool checked)
     CheckMenuItem(menu, command, checked ? MF_CHECKED : MF_UNCHECKED);
 }
 
-unsigned CommandOf(int operation)
-{
-    static constexpr std::array<unsigned, 9> commands = {
-        GraphCommand::Select, GraphCommand::Zoom,   0, GraphCommand::Pan, GraphCommand::Cursor, 0, 0,
-        GraphCommand::Edit,   GraphCommand::Measure};
-    return commands[static_cast<std::size_t>(operation) % commands.size()];
-}
-
 } // namespace
 
 HMENU MakeMainMenu()
 {
     const HMENU menu = CreateMenu();
-    AppendPopup(menu, MakePopup(fileItems), L"&File");
+    const HMENU file = MakePopup(fileItems);
+    const std::array recent = {Item{FirstRecent, L"-"}}; // filled by UpdateMenu
+    InsertMenuW(file, 1, MF_BYPOSITION | MF_POPUP, reinterpret_cast<UINT_PTR>(MakePopup(recent)),
+                L"&Recent files");
+    AppendPopup(menu, file, L"&File");
     AppendPopup(menu, MakePopup(editItems), L"&Edit");
     AppendPopup(menu, MakePopup(modeItems), L"&Mode");
     AppendPopup(menu, MakePopup(viewItems), L"&View");
@@ -209,7 +207,9 @@ HMENU MakeGraphPopup()
 
 void UpdateMenu(HMENU menu, const MenuState& state)
 {
-    FillCurves(menu, state);
+    FillPopup(menu, FirstCurve, LastCurve, state.curves);
+    FillPopup(menu, FirstRecent, LastRecent, state.recent);
+    Check(menu, Follow, state.follows);
     const bool graph = state.kind == ChartKind::Graph;
     for (const auto items : {std::span<const Item>(modeItems), std::span<const Item>(viewItems),
                              std::span<const Item>(trendItems), std::span<const Item>(spanItems)}) {
@@ -221,7 +221,7 @@ void UpdateMenu(HMENU menu, const MenuState& state)
     }
     Enable(menu, pieItems, state.kind == ChartKind::Pie3d);
     for (const Item& item : modeItems) {
-        Check(menu, item.command, graph && item.command == CommandOf(state.operation));
+        Check(menu, item.command, graph && item.command == GraphCommand::Of(state.operation));
     }
     Check(menu, Legend, state.legend);
     Check(menu, Snap, state.snap);

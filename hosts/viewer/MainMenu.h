@@ -18,6 +18,8 @@ struct MenuState {
     PieStyle style = PieStyle::Solid;
     PieOrder order = PieOrder::AsRead;
     int span = 0; // index of MenuCommand::spans
+    bool follows = false;
+    std::vector<std::u16string> recent; // files
 
     // Of an XY graph.
     int operation = 0;

@@ -4,6 +4,7 @@
 #include "viewer/ViewerError.h"
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
@@ -15,7 +16,8 @@ namespace
 
 constexpr wchar_t className[] = L"VantoplexViewer";
 constexpr UINT chartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
-constexpr unsigned passedOn = 40012;  // a command of the graph that comes back as a message
+constexpr UINT_PTR tickTimer = 1;
+constexpr unsigned passedOn = 40012; // a command of the graph that comes back as a message
 
 struct FrameStyle {
     DWORD style;
@@ -41,6 +43,15 @@ void RegisterFrameClass(WNDPROC procedure)
     description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
     description.lpszClassName = className;
     RegisterClassExW(&description);
+}
+
+// The first of the files that were dropped on the window.
+std::u16string FirstOfDrop(HDROP drop)
+{
+    std::wstring path(DragQueryFileW(drop, 0, nullptr, 0), L'\0');
+    DragQueryFileW(drop, 0, path.data(), static_cast<UINT>(path.size() + 1));
+    DragFinish(drop);
+    return FromWide(path);
 }
 
 } // namespace
@@ -95,6 +106,12 @@ void MainWindow::ShowTools(bool graph, int operation)
     }
 }
 
+void MainWindow::Tick(bool on)
+{
+    constexpr UINT interval = 1000;
+    on ? (void)SetTimer(m_window, tickTimer, interval, nullptr) : (void)KillTimer(m_window, tickTimer);
+}
+
 LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_NCCREATE) {
@@ -125,6 +142,7 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CREATE:
         if (m_kind == FrameKind::ForPerson) {
             MakeBars();
+            DragAcceptFiles(m_window, TRUE);
         }
         return 0;
     case WM_SIZE:
@@ -180,6 +198,12 @@ bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
         return false;
     case chartClicked:
         m_events->OnChartClicked();
+        return true;
+    case WM_TIMER:
+        m_events->OnTick();
+        return true;
+    case WM_DROPFILES:
+        m_events->OnFileDropped(FirstOfDrop(reinterpret_cast<HDROP>(wParam)));
         return true;
     default:
         break;

@@ -24,6 +24,8 @@ public:
     virtual bool OnChartMessage(UINT message, WPARAM wParam) = 0;
     virtual void OnOpenMenu(HMENU menu) = 0;
     virtual void OnChartClicked() = 0;
+    virtual void OnFileDropped(const std::u16string& path) = 0;
+    virtual void OnTick() = 0;
 };
 
 class MainWindow
@@ -47,6 +49,8 @@ public:
     enum class StatusPart { Text, Zoom, Operation };
     void SetStatus(StatusPart part, std::u16string_view text);
     void ShowTools(bool graph, int operation);
+    // Starts or stops the ticks of OnTick, one a second.
+    void Tick(bool on);
 
     [[nodiscard]] HWND Window() const noexcept { return m_window; }
 

@@ -11,6 +11,7 @@ constexpr unsigned OpenGraph = 1002;
 constexpr unsigned SaveGraph = 1003;
 constexpr unsigned ExportPng = 1004;
 constexpr unsigned Exit = 1005;
+constexpr unsigned Follow = 1006;
 constexpr unsigned CopyBitmap = 1011;
 constexpr unsigned CopyMetafile = 1012;
 constexpr unsigned DeleteMeasures = 1013;
@@ -35,6 +36,8 @@ constexpr unsigned TiltMore = 1091;
 constexpr unsigned TiltLess = 1092;
 constexpr unsigned FirstCurve = 1100;
 constexpr unsigned LastCurve = 1199;
+constexpr unsigned FirstRecent = 1201; // in the order of RecentFiles
+constexpr unsigned LastRecent = 1208;
 constexpr unsigned Keys = 1301;
 constexpr unsigned About = 1302;
 

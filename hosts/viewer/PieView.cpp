@@ -1,5 +1,6 @@
 #include "viewer/PieView.h"
 
+#include "viewer/FontChoice.h"
 #include "viewer/Palette.h"
 #include "viewer/StatusText.h"
 
@@ -30,8 +31,12 @@ PieView::PieView(const ChartServer& server, HWND parent, const RECT& place, cons
     Check(m_pie->Create(Bstr(options.title).Get(), &rectangle, ToWire(parent), chartId));
     m_window = HandleOf(*m_pie.Get());
     Check(m_pie->SetParentWindowColor(GetSysColor(COLOR_WINDOW)));
-    Check(m_pie->SetLabelFontName(Bstr(u"Arial").Get()));
-    Check(m_pie->SetTitleFontName(Bstr(u"Arial").Get()));
+    std::u16string labels;
+    for (const Slice& slice : plan.slices) {
+        labels += slice.name;
+    }
+    Check(m_pie->SetLabelFontName(Bstr(FaceFor(labels)).Get()));
+    Check(m_pie->SetTitleFontName(Bstr(FaceFor(options.title)).Get()));
     if (options.gradient) {
         Check(m_pie->SetBackgrndColor(RGB(0xB8, 0xCC, 0xE8)));
     }

@@ -6,6 +6,7 @@
 #include "viewer/ViewerError.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 
@@ -49,10 +50,10 @@ bool ReadsAsDate(const Column& column)
     return column.kind == ColumnKind::Date;
 }
 
-std::optional<double> Value(const Column& column, std::size_t row, const Table& table)
+std::optional<double> Value(const Column& column, std::size_t row)
 {
     const std::u16string& cell = column.cells[row];
-    return ReadsAsDate(column) ? ParseDate(cell) : ParseNumber(cell, table.decimalComma);
+    return ReadsAsDate(column) ? ParseDate(cell) : ParseNumber(cell, column.decimalComma);
 }
 
 struct Request {
@@ -168,8 +169,8 @@ private:
     void AddPoint(Curve& curve, const Request& request, std::size_t row) const
     {
         const std::optional<double> x =
-            m_x ? Value(*m_x, row, m_table) : std::optional(static_cast<double>(row + 1));
-        const std::optional<double> y = Value(*request.column, row, m_table);
+            m_x ? Value(*m_x, row) : std::optional(static_cast<double>(row + 1));
+        const std::optional<double> y = Value(*request.column, row);
         if (x && y) {
             curve.points.push_back({*x, *y});
             return;
@@ -222,6 +223,22 @@ private:
             }
         }
         FinishAxis(axis);
+        if (!m_x) {
+            CountWholeRows(axis);
+        }
+    }
+
+    // A graph rounds few rows to steps of a fraction; in tenths of its range it steps by whole rows.
+    static void CountWholeRows(Axis& axis)
+    {
+        constexpr double mostSteps = 25; // beyond these it steps by whole rows itself
+        const double steps = axis.high - axis.low;
+        if (steps < 1 || steps > mostSteps) {
+            return;
+        }
+        axis.autoScale = false;
+        axis.high = axis.low + 10 * std::ceil(steps / 10);
+        axis.format = u"%.0f";
     }
 
     void DescribeYAxes()

@@ -180,6 +180,10 @@ void ScriptRunner::RunCommand(const Step& step)
         (void)Graph(step);
     }
     SendMessageW(m_session.Frame().Window(), WM_COMMAND, command, 0);
+    const std::u16string failure = m_session.TakeFailure();
+    if (!failure.empty()) {
+        throw Error{ExitCode::BadData, u"script, line " + ToText(step.line) + u": " + failure};
+    }
 }
 
 GraphControl& ScriptRunner::Graph(const Step& step) const

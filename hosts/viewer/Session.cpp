@@ -5,6 +5,7 @@
 #include "viewer/PieView.h"
 #include "viewer/PlainText.h"
 #include "viewer/PlotPlan.h"
+#include "viewer/RecentFiles.h"
 #include "viewer/StatusText.h"
 
 #include <utility>
@@ -170,6 +171,8 @@ MenuState Session::StateOfMenu() const
     state.style = options.style;
     state.order = options.order;
     state.span = m_span;
+    state.follows = m_followed.has_value();
+    state.recent = m_scripted ? std::vector<std::u16string>() : RecentFiles::List();
     state.legend = options.legend;
     if (m_control) {
         state.operation = m_control->Operation();
@@ -190,9 +193,10 @@ void Session::ShowState()
     const bool graph = m_control.has_value();
     const int operation = graph ? m_control->Operation() : 0;
     m_window.ShowTools(graph, operation);
-    m_window.SetStatus(Part::Zoom,
-                       graph ? u"zoom " + ToText(static_cast<std::size_t>(m_control->ZoomDepth()))
-                             : std::u16string());
+    const std::size_t depth = graph ? static_cast<std::size_t>(m_control->ZoomDepth()) : 0;
+    m_window.SetStatus(Part::Zoom, !graph      ? std::u16string()
+                                   : m_isReset ? u"whole"
+                                               : u"zoom " + ToText(depth));
     m_window.SetStatus(Part::Operation,
                        graph ? OperationName(operation) : NameOfKind(m_document.options.chart));
     m_window.SetTitle(m_document.name + u" - Vantoplex Viewer");

@@ -2,11 +2,14 @@
 // A document in a main window: makes its chart and answers what a person does.
 
 #include "viewer/Document.h"
+#include "viewer/FollowedFile.h"
 #include "viewer/GraphControl.h"
 #include "viewer/MainMenu.h"
 #include "viewer/MainWindow.h"
 
 #include <optional>
+#include <string>
+#include <utility>
 
 namespace Viewer
 {
@@ -38,6 +41,9 @@ public:
     [[nodiscard]] HWND ChartWindow() const noexcept;
     [[nodiscard]] std::u16string State() const; // "graph: zoom, depth 2, 3 curves"
 
+    // Why the last command of a script could not be done; empty if it was. Asking forgets it.
+    [[nodiscard]] std::u16string TakeFailure() { return std::exchange(m_failure, {}); }
+
     [[nodiscard]] bool SaveGraph(const std::u16string& path, unsigned sections) const;
     // False if the file can't be read; the document's graph is there again either way, with the
     // file's settings if they could be read.
@@ -48,6 +54,8 @@ private:
     bool OnChartMessage(UINT message, WPARAM wParam) override;
     void OnOpenMenu(HMENU menu) override;
     void OnChartClicked() override;
+    void OnFileDropped(const std::u16string& path) override;
+    void OnTick() override;
 
     std::u16string MakeGraph();
     std::u16string MakeCategories();
@@ -65,6 +73,10 @@ private:
     void ShowPopup();
     bool AnswerGraph(UINT message, WPARAM wParam);
     void Tell(std::u16string_view text);
+    void Fail(std::u16string_view text);
+    void Open(const std::u16string& path);
+    void Show(Document document);
+    void ToggleFollowing();
 
     [[nodiscard]] MenuState StateOfMenu() const;
     void ShowState();
@@ -74,6 +86,9 @@ private:
     Document m_document;
     bool m_scripted;
     int m_span = 3;
+    bool m_isReset = false; // the view, whatever steps of zooming the graph could go back
+    std::u16string m_failure;
+    std::optional<FollowedFile> m_followed;
     // The window's chart, by its kind.
     std::optional<GraphControl> m_control;
     BusinessView* m_business = nullptr;

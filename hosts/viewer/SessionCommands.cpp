@@ -6,11 +6,13 @@
 #include "viewer/FileDialogs.h"
 #include "viewer/GraphCommands.h"
 #include "viewer/HelpText.h"
+#include "viewer/KeysBox.h"
 #include "viewer/MenuCommands.h"
 #include "viewer/Output.h"
 #include "viewer/Picture.h"
 #include "viewer/PieView.h"
 #include "viewer/PlainText.h"
+#include "viewer/RecentFiles.h"
 #include "viewer/Session.h"
 #include "viewer/StatusText.h"
 
@@ -39,14 +41,24 @@ void Session::Tell(std::u16string_view text)
     }
 }
 
+// What a person sees in a box ends a script at this step.
+void Session::Fail(std::u16string_view text)
+{
+    if (m_scripted) {
+        m_failure = text;
+    } else {
+        Tell(text);
+    }
+}
+
 void Session::OnCommand(unsigned command)
 {
     try {
         Run(command);
     } catch (const Error& error) {
-        Tell(error.text);
+        Fail(error.text);
     } catch (const std::bad_alloc&) {
-        Tell(u"There is not enough memory for that.");
+        Fail(u"There is not enough memory for that.");
     }
 }
 
@@ -55,7 +67,7 @@ void Session::Run(unsigned command)
     if (command == Exit) {
         PostMessageW(m_window.Window(), WM_CLOSE, 0, 0);
     } else if (command == Keys) {
-        Tell(KeysText());
+        m_scripted ? Tell(KeysText()) : ShowKeys(m_window.Window());
     } else if (command == About) {
         Tell(VersionText());
     } else {
@@ -67,39 +79,102 @@ bool Session::RunFile(unsigned command)
 {
     const HWND owner = m_window.Window();
     if (command == OpenCsv) {
-        Options options = m_document.options;
-        options.file = AskForCsv(owner);
-        if (options.file.empty()) {
-            return true;
+        const std::u16string path = AskForCsv(owner);
+        if (!path.empty()) {
+            Open(path);
         }
-        // Columns of the last file mean nothing in another one.
-        options.x.reset();
-        options.group.reset();
-        options.title.clear();
-        options.y.clear();
-        options.y2.clear();
-        options.pick.clear();
-        Document before = std::exchange(m_document, ReadDocument(options));
-        try {
-            m_window.SetStatus(MainWindow::StatusPart::Text, ShowChart());
-        } catch (...) {
-            m_document = std::move(before);
-            throw;
+    } else if (IsIn(command, FirstRecent, LastRecent)) {
+        const std::vector<std::u16string> files = RecentFiles::List();
+        if (command - FirstRecent < files.size()) {
+            Open(files[command - FirstRecent]);
         }
+    } else if (command == Follow) {
+        ToggleFollowing();
     } else if (command == OpenGraph) {
         const std::u16string path = AskForGraph(owner);
         if (!path.empty() && !LoadGraph(path)) {
-            Tell(u"The graph file can't be read: only settings can be, not curves and objects.");
+            Fail(u"The graph file can't be read: only settings can be, not curves and objects.");
         }
     } else if (command == MenuCommand::SaveGraph) {
         const GraphTarget target = AskForGraphTarget(owner);
         if (!target.path.empty() && !SaveGraph(target.path, target.sections)) {
-            Tell(u"The graph file can't be written.");
+            Fail(u"The graph file can't be written.");
         }
     } else {
         return false;
     }
     return true;
+}
+
+void Session::Open(const std::u16string& path)
+{
+    Options options = m_document.options;
+    options.file = path;
+    // Columns of the last file mean nothing in another one.
+    options.x.reset();
+    options.group.reset();
+    options.title.clear();
+    options.y.clear();
+    options.y2.clear();
+    options.pick.clear();
+    Show(ReadDocument(options));
+    if (!m_scripted) {
+        RecentFiles::Add(path);
+    }
+    if (m_followed) {
+        m_followed.emplace(path);
+    }
+}
+
+// If it can't be shown, the document before stays.
+void Session::Show(Document document)
+{
+    Document before = std::exchange(m_document, std::move(document));
+    try {
+        m_window.SetStatus(MainWindow::StatusPart::Text, ShowChart());
+    } catch (...) {
+        m_document = std::move(before);
+        throw;
+    }
+}
+
+void Session::ToggleFollowing()
+{
+    if (m_followed) {
+        m_followed.reset();
+    } else {
+        m_followed.emplace(m_document.options.file);
+    }
+    m_window.Tick(m_followed.has_value());
+}
+
+// Nothing is taken out of a person's hands: a view that is zoomed and a mouse button that is held
+// down wait. A file that can't be read now may be at the next tick.
+void Session::OnTick()
+{
+    const bool busy = GetCapture() != nullptr || (m_control && m_control->ZoomDepth() > 0 && !m_isReset);
+    if (!m_followed || busy || !m_followed->HasChanged()) {
+        return;
+    }
+    const int operation = m_control ? m_control->Operation() : opNone;
+    try {
+        Show(ReadDocument(m_document.options));
+        if (m_control && operation != opNone) {
+            m_control->SetOperation(operation);
+            ShowState();
+        }
+    } catch (const Error& error) {
+        m_window.SetStatus(MainWindow::StatusPart::Text, error.text);
+    }
+}
+
+void Session::OnFileDropped(const std::u16string& path)
+{
+    try {
+        Open(path);
+    } catch (const Error& error) {
+        Fail(error.text);
+    }
 }
 
 bool Session::RunPicture(unsigned command)
@@ -148,6 +223,8 @@ bool Session::RunGraph(unsigned command)
         Analyse(Analysis::CubicTrend, 0);
     } else if (IsIn(command, GraphCommand::Select, GraphCommand::Measure)) {
         m_control->Send(command);
+        m_isReset =
+            command == GraphCommand::ResetZoom || (m_isReset && command != GraphCommand::ZoomBack);
         m_window.SetStatus(MainWindow::StatusPart::Text, OperationHint(m_control->Operation()));
         ShowState();
     } else {
@@ -159,7 +236,7 @@ bool Session::RunGraph(unsigned command)
 void Session::Analyse(Analysis analysis, int parameter)
 {
     if (!m_control->Analyse(analysis, parameter)) {
-        Tell(u"This can't be worked out from the curve.");
+        Fail(u"This can't be worked out from the curve.");
     }
 }
 
@@ -253,6 +330,7 @@ bool Session::AnswerGraph(UINT message, WPARAM wParam)
         break;
     case XG_ZOOMCHANGE:
         m_control->FitDateLabels();
+        m_isReset = false;
         ShowState();
         break;
     case XG_RBUTTONUP:

@@ -14,6 +14,7 @@
 #include "viewer/Output.h"
 #include "viewer/Picture.h"
 #include "viewer/PlainText.h"
+#include "viewer/RecentFiles.h"
 #include "viewer/ScriptRunner.h"
 #include "viewer/Session.h"
 #include "viewer/ViewerError.h"
@@ -125,6 +126,7 @@ int ShowToPerson(const Options& options, const ChartServer& server)
                       NameOfFile(options.file) + u" - Vantoplex Viewer");
     Session session(server, window, Read(options), false);
     const std::u16string description = session.ShowChart();
+    RecentFiles::Add(options.file);
     Print(Stream::Output, description);
     window.SetStatus(MainWindow::StatusPart::Text, Summary(description));
     ShowWindow(window.Window(), SW_SHOWDEFAULT);

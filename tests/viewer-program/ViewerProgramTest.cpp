@@ -100,6 +100,18 @@ TEST(ViewerProgram, DrawsDatesBefore1970AcrossTheWholePlot)
     EXPECT_GT(columns.last - columns.first, 500);
 }
 
+TEST(ViewerProgram, ASingleRowShowsItsPoint)
+{
+    const TemporaryFile data(L"one.csv", "x,y\n3,4\n");
+    const TemporaryFile picture(L"one.png");
+
+    const Result result =
+        RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) + L" --no-legend");
+
+    ASSERT_EQ(0u, result.exitCode) << result.output;
+    EXPECT_GE(Pixels(picture.Path()).ColumnsWith(firstCurve).count, 7);
+}
+
 TEST(ViewerProgram, DrawsPicturesLargerThanTheScreen)
 {
     const TemporaryFile data(L"line.csv", "x,y\n0,0\n1,1\n");

@@ -233,6 +233,16 @@ TEST_F(ViewerScript, OtherChartsHaveNoModes)
     EXPECT_TRUE(Tells(result, "script, line 3:")) << result.output;
 }
 
+TEST_F(ViewerScript, ACommandThatCannotBeDoneEndsTheScriptThereWithOne)
+{
+    const TemporaryFile flat(L"flat.csv", "x,y\n1,5\n");
+    const TemporaryFile script(L"script.txt", "command polynomial\nprint\n");
+    const Result failed = RunViewer(L"\"" + flat.Path() + L"\" --script \"" + script.Path() + L"\"");
+    EXPECT_EQ(1u, failed.exitCode);
+    EXPECT_TRUE(Tells(failed, "script, line 1: This can't be worked out")) << failed.output;
+    EXPECT_FALSE(Tells(failed, "graph:")) << failed.output;
+}
+
 TEST_F(ViewerScript, AFaultInAScriptEndsWithTwoBeforeAnythingIsDone)
 {
     const Result result = Run("print\nfly 1 2\n");

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include <array>
+#include <cstdio>
 #include <string>
 
 // The viewer's window, worked from another process as a person would.
@@ -117,6 +118,22 @@ TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
     EXPECT_EQ(0u, viewer.ExitCode());
 }
 
+TEST(ViewerWindow, TheStatusBarSaysThatAResetViewIsWhole)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND status = FindWindowExW(frame, nullptr, L"msctls_statusbar32", nullptr);
+    const auto zoomLength = [&] { return LOWORD(SendMessageW(status, SB_GETTEXTLENGTHW, 1, 0)); };
+
+    EXPECT_EQ(std::wstring(L"zoom 0").size(), zoomLength());
+    SendMessageW(frame, WM_COMMAND, 40003, 0);
+    EXPECT_EQ(std::wstring(L"whole").size(), zoomLength());
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
 TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
 {
     const TemporaryFile data(L"weather.csv", weather);
@@ -141,6 +158,77 @@ TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
     SendMessageW(frame, WM_COMMAND, 1062, 0); // the bar chart
     EXPECT_FALSE(isPressed(40014));
     EXPECT_FALSE(isEnabled(40002));
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, AFileThatGrowsIsFollowed)
+{
+    const TemporaryFile data(L"growing.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    constexpr unsigned follow = 1006;
+    SendMessageW(frame, WM_COMMAND, follow, 0);
+    SendMessageW(frame, WM_COMMAND, 40011, 0);
+
+    std::FILE* file = _wfopen(data.Path().c_str(), L"ab");
+    ASSERT_NE(nullptr, file);
+    std::fputs("2012-01-05,9.9,1\n", file);
+    std::fclose(file);
+    bool shown = false;
+    for (int turn = 0; turn < 100 && !shown; ++turn) {
+        Sleep(100);
+        shown = StatusOf(frame).find(L"5 rows") != std::wstring::npos;
+    }
+    EXPECT_TRUE(shown) << std::string(StatusOf(frame).begin(), StatusOf(frame).end());
+    // The operation outlives the new chart.
+    const HWND buttons = FindWindowExW(frame, nullptr, L"ToolbarWindow32", nullptr);
+    EXPECT_NE(0, SendMessageW(buttons, TB_ISBUTTONCHECKED, 40011, 0));
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, AFileThatWasOpenedIsAmongTheRecentOnes)
+{
+    const TemporaryFile data(L"first.csv", weather);
+    const TemporaryFile other(L"second.csv", "x,y\n1,2\n2,3\n");
+    {
+        Process viewer(L"\"" + data.Path() + L"\"");
+        const HWND frame = WaitForFrame(viewer.Id());
+        ASSERT_NE(nullptr, frame);
+        PostMessageW(frame, WM_CLOSE, 0, 0);
+        EXPECT_EQ(0u, viewer.ExitCode());
+    }
+    Process viewer(L"\"" + other.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    constexpr unsigned secondRecent = 1202;
+    SendMessageW(frame, WM_COMMAND, secondRecent, 0);
+    EXPECT_NE(std::wstring::npos, StatusOf(frame).find(L"4 rows"));
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, TheKeysAreShownInABoxOfTwoColumns)
+{
+    const TemporaryFile data(L"weather.csv", weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    constexpr unsigned keys = 1301;
+    PostMessageW(frame, WM_COMMAND, keys, 0);
+    HWND box = nullptr;
+    for (int turn = 0; turn < 600 && !box; ++turn) {
+        Sleep(100);
+        box = FindWindowW(L"#32770", L"Keys and mouse");
+    }
+    ASSERT_NE(nullptr, box);
+    const HWND list = FindWindowExW(box, nullptr, L"SysListView32", nullptr);
+    EXPECT_GT(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 20);
+    EXPECT_EQ(2, SendMessageW(reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0)),
+                              HDM_GETITEMCOUNT, 0, 0));
+    PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 using Viewer::DateToOle;
 using Viewer::OleToDate;
@@ -34,7 +35,41 @@ TEST(CellValue, RefusesWhatIsNoFiniteNumber)
 TEST(CellValue, ReadsADecimalCommaWhereItIsUsual)
 {
     EXPECT_EQ(3.5, ParseNumber(u"3,5", true));
+    EXPECT_EQ(3.5, ParseNumber(u"3.5", true));
     EXPECT_FALSE(ParseNumber(u"3,5,7", true));
+    EXPECT_FALSE(ParseNumber(u"1.2.3", true));
+    EXPECT_FALSE(ParseNumber(u"1,012.75", true));
+}
+
+TEST(CellValue, ReadsNumbersSetOffInThrees)
+{
+    EXPECT_EQ(1012.75, ParseNumber(u"1,012.75", false));
+    EXPECT_EQ(-12345678.0, ParseNumber(u"-12,345,678", false));
+    EXPECT_EQ(1012.75, ParseNumber(u"1.012,75", true));
+    EXPECT_EQ(1012.0, ParseNumber(u"1.012", true));
+    EXPECT_EQ(1500.0, ParseNumber(u"1,500e0", false));
+    for (const char16_t* cell :
+         {u"1,01.5", u"1,0123", u"1234,567", u",123", u"1.0,123", u"1,,123", u"1e1,000"}) {
+        EXPECT_FALSE(ParseNumber(cell, false))
+            << std::string(cell, cell + std::u16string_view(cell).size());
+    }
+}
+
+TEST(CellValue, TheFirstCellThatLeavesNoDoubtDecidesAboutCommas)
+{
+    const auto has = [](std::vector<std::u16string> cells, bool otherwise) {
+        return Viewer::HasDecimalCommas(cells, otherwise);
+    };
+    EXPECT_TRUE(has({u"n/a", u"1,012", u"3,5"}, false));
+    EXPECT_TRUE(has({u"1.012,75"}, false));
+    EXPECT_TRUE(has({u"1.012.345"}, false));
+    EXPECT_TRUE(has({u"0,125"}, false));
+    EXPECT_FALSE(has({u"1,012.75"}, true));
+    EXPECT_FALSE(has({u"1,012,345"}, true));
+    EXPECT_FALSE(has({u"1.5", u"2"}, true));
+    EXPECT_TRUE(has({u"1,012"}, true));
+    EXPECT_FALSE(has({u"1,012"}, false));
+    EXPECT_FALSE(has({u"01.02.2024"}, true));
 }
 
 TEST(CellValue, ReadsIsoDatesAsOleDates)
@@ -46,6 +81,17 @@ TEST(CellValue, ReadsIsoDatesAsOleDates)
     EXPECT_EQ(40909.25, ParseDate(u"2012-01-01T06:00"));
     EXPECT_EQ(40909.75, ParseDate(u"2012-01-01 18:00:00"));
     EXPECT_DOUBLE_EQ(40909.0 + 0.25 / 86400, *ParseDate(u"2012-01-01T00:00:00.25Z"));
+}
+
+TEST(CellValue, ReadsDatesWithTheDayFirst)
+{
+    EXPECT_EQ(45323.0, ParseDate(u"01.02.2024"));
+    EXPECT_EQ(45323.0, ParseDate(u"1.2.2024"));
+    EXPECT_EQ(45323.25, ParseDate(u"01.02.2024 06:00"));
+    for (const char16_t* cell :
+         {u"1.2", u"1.2.24", u"32.1.2024", u"30.02.2024", u"1.13.2024", u"1..2024"}) {
+        EXPECT_FALSE(ParseDate(cell)) << std::string(cell, cell + std::u16string_view(cell).size());
+    }
 }
 
 TEST(CellValue, TakesTheOffsetOffATime)

@@ -80,8 +80,28 @@ TEST(CsvTable, ReadsDecimalCommasWhereSemicolonsSeparate)
 {
     const Table table = Read(u"a;b\n1,5;2\n");
 
-    EXPECT_TRUE(table.decimalComma);
+    EXPECT_TRUE(table.columns[0].decimalComma);
+    EXPECT_FALSE(table.columns[1].decimalComma);
     EXPECT_EQ(ColumnKind::Number, table.columns[0].kind);
+}
+
+TEST(CsvTable, ReadsQuotedDecimalCommasWhereCommasSeparate)
+{
+    const Table table = Read(u"a,b,c\n\"3,5\",\"1.012,75\",\"1,012.75\"\n\"4,25\",7,8\n");
+
+    EXPECT_TRUE(table.columns[0].decimalComma);
+    EXPECT_TRUE(table.columns[1].decimalComma);
+    EXPECT_FALSE(table.columns[2].decimalComma);
+    for (const Viewer::Column& column : table.columns) {
+        EXPECT_EQ(ColumnKind::Number, column.kind);
+    }
+}
+
+TEST(CsvTable, ReadsDatesWithPoints)
+{
+    const Table table = Read(u"day;value\n01.02.2024;1\n2.2.2024;2\n");
+
+    EXPECT_EQ(ColumnKind::Date, table.columns[0].kind);
 }
 
 TEST(CsvTable, RefusesFilesWithoutRows)
@@ -98,7 +118,13 @@ TEST(CsvTable, RefusesMoreCellsThanMemoryShouldHold)
     for (int row = 0; row < 5'000; ++row) {
         text += u"1\n";
     }
-    EXPECT_THROW((void)Read(text), Viewer::Error);
+    try {
+        (void)Read(text);
+        FAIL();
+    } catch (const Viewer::Error& error) {
+        EXPECT_EQ(u"the table has 5001 rows of 5001 columns; 20000000 cells can be shown at most",
+                  error.text);
+    }
 }
 
 } // namespace

@@ -129,6 +129,11 @@ TEST(PlotPlan, NumbersRowsWhereTheFirstColumnHoldsWords)
     EXPECT_EQ(u"row", plan.x.title);
     EXPECT_EQ(2.0, plan.curves[0].points[1].x);
     EXPECT_NE(std::u16string::npos, Viewer::Describe(plan, u"t.csv").find(u"rows are numbered"));
+    // Tenths of this range are whole rows.
+    EXPECT_FALSE(plan.x.autoScale);
+    EXPECT_EQ(1, plan.x.low);
+    EXPECT_EQ(11, plan.x.high);
+    EXPECT_EQ(u"%.0f", plan.x.format);
 }
 
 TEST(PlotPlan, ASingleColumnIsPlottedOverItsRows)
