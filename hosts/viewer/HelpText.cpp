@@ -9,9 +9,9 @@ std::u16string_view HelpText() noexcept
 {
     return uR"(vantoplex-viewer [OPTIONS] [FILE.csv]
 
-Shows the columns of a CSV file as a graph. The first row names the columns; ISO dates
-(2012-01-31, 2012-01-31T06:30) become a date axis. A row with an empty or unreadable cell
-is left out, counted and told. Without a FILE the program asks for one.
+Shows the columns of a CSV file as a graph. The first row names the columns; dates
+(2012-01-31, 2012-01-31T06:30, 31.01.2012) become a date axis. A row with an empty or
+unreadable cell is left out and counted. Without a FILE the program asks for one.
 
   --x NAME         column along the X axis (default: the first column)
   --y NAME         column for the Y axis; may be given again (default: all numeric ones)
