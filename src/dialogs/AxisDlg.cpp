@@ -91,10 +91,21 @@ BOOL CAxisDlg::OnInitDialog()
     return TRUE;
 }
 
-// The axis lies by value in a list that the host may change at any message.
-bool CAxisDlg::IsAxisThere() const
+// The axis lies by value in a list that the host may change at any message. What lies at its old
+// address then may be another axis.
+bool CAxisDlg::FindAxis()
 {
-    return m_pGraph != nullptr && m_pGraph->GetAxisIndex(m_pAxis) != -1;
+    if (!m_pGraph)
+        return false;
+    for (auto* pAxes : {&m_pGraph->m_XAxes, &m_pGraph->m_YAxes}) {
+        for (CXGraphAxis& axis : *pAxes) {
+            if (axis.m_nIdentity == m_nIdentity) {
+                m_pAxis = &axis;
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 void CAxisDlg::UpdateControls()
@@ -147,7 +158,7 @@ void CAxisDlg::AskForFont(SetFontOf set)
         return;
     LOGFONTW font = {};
     dialog.GetCurrentFont(&font);
-    if (IsAxisThere())
+    if (FindAxis())
         (m_pAxis->*set)(font);
     UpdateControls();
 }

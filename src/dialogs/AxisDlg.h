@@ -1,6 +1,6 @@
 #pragma once
-// The page of an axis. The host may remove the axis while the page is open; the page then
-// stays and changes nothing.
+// The page of an axis. The host may move the axis in memory while the page is open, and the page
+// follows it, or remove it: the page then stays and changes nothing.
 
 #include "dialogs/ColorButton.h"
 #include "framework/windowing/Controls.h"
@@ -8,6 +8,8 @@
 #include "framework/windowing/OleDateTime.h"
 #include "framework/windowing/Strings.h"
 #include "resources/DialogIds.h"
+
+#include <cstdint>
 
 class CXGraph;
 class CXGraphAxis;
@@ -77,7 +79,7 @@ private:
 
     using SetFontOf = void (CXGraphAxis::*)(const LOGFONTW&);
 
-    [[nodiscard]] bool IsAxisThere() const;
+    [[nodiscard]] bool FindAxis();
     void FillLists();
     void EnableByKind(); // the controls that depend on autoscale and the kind of value
     void SetSpins();
@@ -90,5 +92,6 @@ private:
     bool Apply(); // false if a control's value was refused
     void AskForFont(SetFontOf set);
 
-    CXGraph* m_pGraph = nullptr; // of m_pAxis; outlives the page, with or without its window
+    CXGraph* m_pGraph = nullptr;   // of m_pAxis; outlives the page, with or without its window
+    std::uint64_t m_nIdentity = 0; // of m_pAxis
 };

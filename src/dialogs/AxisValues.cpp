@@ -48,6 +48,7 @@ void CAxisDlg::FillLists()
 void CAxisDlg::FillControls()
 {
     m_pGraph = m_pAxis->m_pGraph;
+    m_nIdentity = m_pAxis->m_nIdentity;
     LoadFields();
     SetSpins();
     EnableByKind();
@@ -116,7 +117,7 @@ bool CAxisDlg::Apply()
 {
     if (!UpdateData(TRUE))
         return false;
-    if (IsAxisThere()) {
+    if (FindAxis()) {
         StoreFields();
         m_pGraph->Invalidate();
     }

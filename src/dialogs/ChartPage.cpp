@@ -39,11 +39,12 @@ BOOL CChartPage::OnInitDialog()
 {
     CDialog::OnInitDialog();
     int nTab = ChartTab;
-    if (m_pAxis == nullptr)
+    // None was given, or the host removed it as its window was disabled for the sheet.
+    if (m_pGraph->GetAxisIndex(m_pAxis) == -1)
         m_pAxis = m_pGraph->GetYAxis(0);
     else
         nTab = AxisTab;
-    if (m_pCurve == nullptr)
+    if (m_pGraph->GetCurveIndex(m_pCurve) == -1)
         m_pCurve = m_pGraph->GetCurve(0);
     else
         nTab = CurveTab;

@@ -1,7 +1,7 @@
 // The buttons of the curve page that add a trend or a moving average as a curve of its own.
 //
 // Each asks by a dialog first, whose loop gives the host the word: the curve may have gone by
-// the time it closes. Adding a curve moves the others in memory, and the page finds its own
+// the time it closes, or lie elsewhere. Adding a curve moves the others in memory, and the page finds its own
 // again by the index that the curve was given when it was made.
 
 #include "dialogs/AnalysisTexts.h"
@@ -32,11 +32,11 @@ constexpr std::array<Average, AnalysisTexts::AverageKinds> kAverages = {
 
 void CCurveDlg::OnMovingAverage()
 {
-    if (!IsCurveThere())
+    if (!FindCurve())
         return;
     CMovingAvgDlg dialog(this);
     dialog.m_nMaxSpan = static_cast<UINT>(m_pCurve->m_nCount / 2);
-    if (dialog.DoModal() != IDOK || !IsCurveThere())
+    if (dialog.DoModal() != IDOK || !FindCurve())
         return;
     const int nKind = dialog.m_nAverageType;
     if (nKind < 0 || nKind >= AnalysisTexts::AverageKinds)
@@ -59,7 +59,7 @@ void CCurveDlg::OnCubicTrend()
 void CCurveDlg::AddTrend(Trend trend, const CString& strSuffix)
 {
     CTrendDlg dialog(this);
-    if (dialog.DoModal() != IDOK || !IsCurveThere())
+    if (dialog.DoModal() != IDOK || !FindCurve())
         return;
     const int nExpand = static_cast<int>(dialog.m_nExpand);
     const Points points((m_pCurve->*trend)(nExpand));
@@ -69,7 +69,7 @@ void CCurveDlg::AddTrend(Trend trend, const CString& strSuffix)
 void CCurveDlg::OnPolynomialTrend()
 {
     CTrendDlg dialog(this);
-    if (dialog.DoModal() != IDOK || !IsCurveThere())
+    if (dialog.DoModal() != IDOK || !FindCurve())
         return;
     const int nExpand = static_cast<int>(dialog.m_nExpand);
     const Points points(m_pCurve->GetPolynomialTrend(static_cast<int>(dialog.m_nDegree), nExpand));
@@ -95,7 +95,7 @@ bool CCurveDlg::AddCurve(TDataPoint* pPoints, int nCount, const CString& strSuff
                           m_pCurve->m_nXAxis, m_pCurve->m_nYAxis, true);
     if (pAdded == nullptr)
         return false;
-    m_pCurve = m_pGraph->GetCurve(nIndex);
+    SetCurve(*m_pGraph->GetCurve(nIndex));
     pAdded->m_cLabel = m_pCurve->m_cLabel + strSuffix;
     return true;
 }

@@ -93,6 +93,7 @@ void CCurveDlg::FillControls()
 {
     if (m_pCurve == nullptr)
         return;
+    SetCurve(*m_pCurve);
     m_pGraph = m_pCurve->m_pGraph;
     FillCurveList();
     // Rows of an earlier filling stay; nothing is drawn in them past the eighth.
@@ -160,10 +161,25 @@ void CCurveDlg::StoreFields()
     m_pCurve->m_nFillCurve = static_cast<unsigned short>(m_nFillCurve);
 }
 
-// The curve lies by value in a list that the host may change at any message.
-bool CCurveDlg::IsCurveThere() const
+// The curve lies by value in a list that the host may change at any message. What lies at its old
+// address then may be another curve.
+bool CCurveDlg::FindCurve()
 {
-    return m_pGraph != nullptr && m_pGraph->GetCurveIndex(m_pCurve) != -1;
+    if (!m_pGraph)
+        return false;
+    for (CXGraphDataSerie& curve : m_pGraph->m_Curves) {
+        if (curve.m_nIdentity == m_nIdentity) {
+            m_pCurve = &curve;
+            return true;
+        }
+    }
+    return false;
+}
+
+void CCurveDlg::SetCurve(CXGraphDataSerie& curve)
+{
+    m_pCurve = &curve;
+    m_nIdentity = curve.m_nIdentity;
 }
 
 void CCurveDlg::OnChange()
@@ -195,7 +211,7 @@ bool CCurveDlg::Apply()
 {
     if (!UpdateData(TRUE))
         return false;
-    if (IsCurveThere()) {
+    if (FindCurve()) {
         StoreFields();
         m_pGraph->Invalidate();
     }

@@ -1,13 +1,15 @@
 #pragma once
 // The page of a curve: its looks, and the buttons that add a trend or a moving average of it
-// to the graph. The host may remove the curve while the page is open; the page then stays and
-// changes nothing.
+// to the graph. The host may move the curve in memory while the page is open, and the page follows
+// it, or remove it: the page then stays and changes nothing.
 
 #include "dialogs/ColorButton.h"
 #include "framework/windowing/Controls.h"
 #include "framework/windowing/Dialog.h"
 #include "framework/windowing/Strings.h"
 #include "resources/DialogIds.h"
+
+#include <cstdint>
 
 class CXGraph;
 class CXGraphDataSerie;
@@ -65,7 +67,8 @@ protected:
 private:
     using Trend = TDataPoint* (CXGraphDataSerie::*)(int) const;
 
-    [[nodiscard]] bool IsCurveThere() const;
+    [[nodiscard]] bool FindCurve();
+    void SetCurve(CXGraphDataSerie& curve);
     void FillCurveList();
     void LoadFields();
     void StoreFields();
@@ -76,5 +79,6 @@ private:
     bool AddCurve(TDataPoint* pPoints, int nCount, const CString& strSuffix);
     void AddFormula();
 
-    CXGraph* m_pGraph = nullptr; // of m_pCurve; outlives the page, with or without its window
+    CXGraph* m_pGraph = nullptr;   // of m_pCurve; outlives the page, with or without its window
+    std::uint64_t m_nIdentity = 0; // of m_pCurve
 };

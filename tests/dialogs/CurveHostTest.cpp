@@ -78,15 +78,50 @@ TEST_F(CurveHost, ResetsTheGraphWhileADialogOfThePageIsOpen)
     }
 }
 
-TEST_F(CurveHost, AddsCurvesWhileADialogOfThePageIsOpen)
+TEST_F(CurveHost, AddsCurvesWhileADialogOfThePageIsOpenAndThePageFollowsItsCurve)
 {
-    OpenAnd([this](HWND hPage) {
-        Ask(hPage, linearTrend, kTrend, [this](HWND) {
-            for (int nCurve = 3; nCurve < 40; ++nCurve)
-                Add(Line(), nCurve); // the curves move in memory
-        });
-    });
-    EXPECT_EQ(CurveCount(), 40) << "the page's curve lay at another place by then";
+    OpenAnd(
+        [this](HWND hPage) {
+            Ask(hPage, linearTrend, kTrend, [this](HWND) {
+                for (int nCurve = 3; nCurve < 40; ++nCurve)
+                    Add(Line(), nCurve); // the curves move in memory
+            });
+        },
+        1);
+    ASSERT_EQ(CurveCount(), 41);
+    EXPECT_EQ(LabelOf(40), L"T2 Trend (lin.)");
+}
+
+// The curves lie by value in a list, and the one behind moves to the place of a removed one.
+TEST_F(CurveHost, RemovesAnEarlierCurveAndThePageFollowsItsOwn)
+{
+    OpenAnd(
+        [this](HWND hPage) {
+            graph->DeleteCurve(0);
+            Paste(hPage, label, L"applied");
+            Click(hPage, apply);
+            EXPECT_FALSE(IsEnabled(hPage, apply));
+        },
+        1);
+    ASSERT_EQ(CurveCount(), 2);
+    EXPECT_EQ(LabelOf(0), L"applied");
+    EXPECT_EQ(LabelOf(1), L"T3");
+}
+
+TEST_F(CurveHost, RemovesTheCurveAndItsSuccessorIsLeftAlone)
+{
+    OpenAnd(
+        [this](HWND hPage) {
+            graph->DeleteCurve(1);
+            WorkOn(hPage);
+            Click(hPage, average);
+            EXPECT_EQ(ModalScript::Find(kAverage), nullptr);
+            Ask(hPage, linearTrend, kTrend, [](HWND) {});
+        },
+        1);
+    ASSERT_EQ(CurveCount(), 2);
+    EXPECT_EQ(LabelOf(0), L"T1");
+    EXPECT_EQ(LabelOf(1), L"T3");
 }
 
 TEST_F(CurveHost, ResetsTheGraphWhileAMessageBoxIsOpen)
