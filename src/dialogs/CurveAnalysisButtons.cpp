@@ -1,8 +1,8 @@
 // The buttons of the curve page that add a trend or a moving average as a curve of its own.
 //
 // Each asks by a dialog first, whose loop gives the host the word: the curve may have gone by
-// the time it closes, or lie elsewhere. Adding a curve moves the others in memory, and the page finds its own
-// again by the index that the curve was given when it was made.
+// the time it closes, or lie elsewhere. Adding a curve moves the others in memory, and the page finds
+// its own again by the index that the curve was given when it was made.
 
 #include "dialogs/AnalysisTexts.h"
 #include "dialogs/CurveDlg.h"

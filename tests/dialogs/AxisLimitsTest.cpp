@@ -8,8 +8,6 @@ namespace
 class AxisLimits : public AxisPageHost
 {
 protected:
-    using Texts = std::vector<std::wstring>;
-
     // The text is refused as it is typed and by Apply; the focus comes back, nothing is stored.
     void ExpectRefused(int id, const wchar_t* text, const std::wstring& box)
     {
@@ -19,7 +17,8 @@ protected:
             Enter(id, text);
             EXPECT_EQ(boxes.Take(), Texts{box}) << id << ' ' << Narrow(text);
             // A closed field takes no focus.
-            EXPECT_TRUE(::GetFocus() == Item(id) || !Enabled(id)) << id << ' ' << Narrow(text);
+            EXPECT_TRUE(!Enabled(id) || DialogHands::IsOffered(Shown(), id))
+                << id << ' ' << Narrow(text);
             Press(Id::apply);
             EXPECT_EQ(boxes.Take(), Texts{box}) << id << ' ' << Narrow(text);
             EXPECT_TRUE(Enabled(Id::apply));
@@ -55,7 +54,7 @@ TEST_F(AxisLimits, WholeNumbersHaveTheirLimits)
 TEST_F(AxisLimits, WholeNumbersAreOfDigits)
 {
     for (const int id : {Id::decimals, Id::arcSize, Id::tickSize, Id::markerSize, Id::timeStep}) {
-        for (const wchar_t* text : {L"", L"-1", L"1,5", L"1.5", L"two"})
+        for (const wchar_t* text : {L"", L" ", L"-1", L"1,5", L"1.5", L"two"})
             ExpectRefused(id, text, kNoUnsigned);
     }
 }
@@ -63,9 +62,62 @@ TEST_F(AxisLimits, WholeNumbersAreOfDigits)
 TEST_F(AxisLimits, BoundsAndStepAreNumbers)
 {
     for (const int id : {Id::min, Id::max, Id::step}) {
-        for (const wchar_t* text : {L"", L"1,5", L"ten", L"1e", L"--1"})
+        for (const wchar_t* text :
+             {L"", L" ", L"1,5", L"ten", L"1e", L"--1", L"nan", L"0x10", L"1e999", L"-1e999"})
             ExpectRefused(id, text, kNoNumber);
     }
+}
+
+TEST_F(AxisLimits, AStepThatLeadsNowhereIsTakenAndTheAxisIsDrawn)
+{
+    for (const wchar_t* text : {L"-1", L"0", L"1e-300", L"1e300"}) {
+        Apply([&] { Enter(Id::step, text); });
+        ExpectBounds(0, 10);
+        Shoot();
+    }
+}
+
+TEST_F(AxisLimits, AnyTextIsATitleOrADateFormat)
+{
+    const std::wstring texts[] = {
+        L"", L"%n %s %", std::wstring(1500, L'%'), L"%Q%9999999d%ls%n%n%n%n", L"\\n%H\\n%", L"曲线 \\"};
+    for (const std::wstring& text : texts) {
+        Apply([&] {
+            if (!Checked(Id::dateTime))
+                Press(Id::dateTime);
+            Enter(Id::label, text.c_str());
+            Enter(Id::dateFormat, text.c_str());
+        });
+        Shoot();
+        Text label;
+        YAxis()->GetLabel(label.Out());
+        EXPECT_EQ(label.Str(), text);
+        YAxis()->SetLabel(Text(L"")); // a long title leaves no room for the axis
+        Frame();
+        OpenAxis({[&] { EXPECT_EQ(Shows(Id::dateFormat), text); }});
+    }
+}
+
+// The page takes no special care of a picker that has no date: it is that of the zero date, and
+// equal bounds are widened by one.
+TEST_F(AxisLimits, PickersInErrorStandForTheZeroDate)
+{
+    const auto Silent = [](HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR) -> LRESULT {
+        return message == DTM_GETSYSTEMTIME ? static_cast<LRESULT>(GDT_ERROR)
+                                            : ::DefSubclassProc(hWnd, message, wParam, lParam);
+    };
+    Apply([&] {
+        Press(Id::dateTime);
+        for (const int id : {Id::minDate, Id::minTime, Id::maxDate, Id::maxTime})
+            ::SetWindowSubclass(Item(id), Silent, 1, 0);
+        Enter(Id::label, L"taken");
+    });
+    Text label;
+    YAxis()->GetLabel(label.Out());
+    EXPECT_EQ(label.Str(), L"taken");
+    ExpectBounds(-1, 1);
+    Shoot();
 }
 
 TEST_F(AxisLimits, HugeBoundsAreTaken)
@@ -96,16 +148,13 @@ TEST_F(AxisLimits, AFontIsTheAxissAtOnceAndCancelKeepsIt)
         YAxis()->SetLabel(Text(L"title"));
         const Picture before = Shoot();
         OpenAxis({[&] { Press(button); },
-                  [&] {
-                      if (ModalDriver::Dialogs().size() < 2)
-                          return ModalDriver::Again();
-                      const HWND dialog = ModalDriver::Dialogs().front();
-                      ASSERT_NE(dialog, Sheet());
-                      EXPECT_EQ(::GetWindow(dialog, GW_OWNER), Sheet());
-                      ::SetDlgItemTextW(dialog, 1138, L"30");    // cmb3, the size
-                      ::SetDlgItemTextW(dialog, 1136, L"Arial"); // cmb1, the face
-                      ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
-                  },
+                  {L"Font",
+                   [](HWND hFonts) {
+                       EXPECT_EQ(::GetWindow(hFonts, GW_OWNER), Sheet());
+                       ::SetDlgItemTextW(hFonts, 1138, L"30");    // cmb3, the size
+                       ::SetDlgItemTextW(hFonts, 1136, L"Arial"); // cmb1, the face
+                       ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0);
+                   }},
                   [&] {
                       EXPECT_TRUE(Enabled(Id::apply));
                       Press(Id::cancel);
@@ -117,10 +166,6 @@ TEST_F(AxisLimits, AFontIsTheAxissAtOnceAndCancelKeepsIt)
 TEST_F(AxisLimits, ACancelledFontDialogChangesNothing)
 {
     OpenAxis({[&] { Press(Id::scaleFont); },
-              [&] {
-                  if (ModalDriver::Dialogs().size() < 2)
-                      return ModalDriver::Again();
-                  ::PostMessageW(ModalDriver::Dialogs().front(), WM_COMMAND, IDCANCEL, 0);
-              },
+              {L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDCANCEL, 0); }},
               [&] { EXPECT_FALSE(Enabled(Id::apply)); }});
 }

@@ -8,7 +8,7 @@
 class AxisPageHost : public SheetHost
 {
 protected:
-    void OpenAxis(std::vector<Step> steps) { Open(OnYAxis(), std::move(steps)); }
+    bool OpenAxis(std::vector<Step> steps) { return Open(OnYAxis(), std::move(steps)); }
     // Opens the page, does that on it, and presses Apply.
     void Apply(const std::function<void()>& changes)
     {

@@ -5,25 +5,12 @@
 #include <string>
 
 #include "dialogs/ColourHost.h"
-#include "support/GdiCount.h"
-#include "support/HeapUse.h"
+#include "dialogs/Openings.h"
+#include "support/ModalScript.h"
 #include "windowing/DialogHost.h"
 
 namespace
 {
-
-int CountWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM result) -> BOOL {
-            ++*reinterpret_cast<int*>(result);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
 
 // What a host can take away while the popup lives.
 enum class ETarget { Popup, Button, Board, Host };
@@ -145,23 +132,28 @@ INSTANTIATE_TEST_SUITE_P(Targets, ColourPopupHosts,
 TEST(ColourPopupEndurance, TwoHundredOpeningsLeaveNothing)
 {
     CColourHost host;
-    const auto open = [&host](int times) {
-        for (int count = 0; count < times; ++count) {
-            ASSERT_NE(host.Click(), nullptr);
-            DrainQueue();
-            CColourHost::Press(VK_DOWN);
-            CColourHost::Press(VK_RETURN);
-            ASSERT_EQ(host.Popup(), nullptr);
-            host.m_board.m_notes.clear();
-        }
-    };
-    open(20);
-    const int objects = GdiCount::All();
-    const int windows = CountWindows();
-    const std::ptrdiff_t bytes = HeapUse::Bytes();
-    open(200);
-    EXPECT_EQ(GdiCount::All(), objects);
-    EXPECT_EQ(CountWindows(), windows);
-    EXPECT_LT(HeapUse::Bytes() - bytes, 200 * 16);
+    Openings::ExpectNothingLeft([&host] {
+        ASSERT_NE(host.Click(), nullptr);
+        DrainQueue();
+        CColourHost::Press(VK_DOWN);
+        CColourHost::Press(VK_RETURN);
+        ASSERT_EQ(host.Popup(), nullptr);
+        host.m_board.m_notes.clear();
+    });
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(ColourPopupEndurance, TwoHundredSystemDialogsLeaveNothing)
+{
+    CColourHost host;
+    ModalScript script;
+    Openings::ExpectNothingLeft([&] {
+        ASSERT_NE(host.OpenOn(0x123456), nullptr); // a colour that has no cell
+        CColourHost::Press(VK_UP);
+        script.When(L"Color", [](HWND hDialog) { ::PostMessageW(hDialog, WM_COMMAND, IDOK, 0); });
+        CColourHost::Press(VK_RETURN);
+        ASSERT_EQ(host.Popup(), nullptr);
+        host.m_board.m_notes.clear();
+    });
     EXPECT_EQ(::GetCapture(), nullptr);
 }

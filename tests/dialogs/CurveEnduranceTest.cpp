@@ -1,51 +1,28 @@
-// What two hundred openings of the sheet's curve page and its dialogs leave behind.
+// Two hundred openings of the sheet, of the dialogs of its curve page and of the fonts.
 
 #include "CurvePageHost.h"
-#include "support/GdiCount.h"
-
-#include <psapi.h>
+#include "Openings.h"
 
 using namespace CurvePage;
 using namespace DialogHands;
 
 namespace
 {
-
 class CurveEndurance : public CurvePageTest
 {
-protected:
-    static SIZE_T Memory()
-    {
-        PROCESS_MEMORY_COUNTERS counters = {};
-        ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
-        return counters.PagefileUsage;
-    }
-    void ExpectNothingLeft(const std::function<void()>& once)
-    {
-        for (int i = 0; i < 5; ++i)
-            once();
-        HostWindow::Pump();
-        const int nObjects = GdiCount::All();
-        const int nWindows = CountWindows();
-        const SIZE_T nMemory = Memory();
-        for (int i = 0; i < 200; ++i)
-            once();
-        HostWindow::Pump();
-        EXPECT_EQ(GdiCount::All(), nObjects);
-        EXPECT_EQ(CountWindows(), nWindows);
-        EXPECT_LT(Memory(), nMemory + 2'000'000) << "10 kB an opening would be a leak";
-    }
 };
-
 } // namespace
 
-TEST_F(CurveEndurance, TheSheetOnACurve)
+TEST_F(CurveEndurance, TheSheetAndItsPages)
 {
-    ExpectNothingLeft([this] {
+    Openings::ExpectNothingLeft([this] {
         OpenAnd([](HWND hPage) {
             Click(hPage, visible);
             Click(hPage, visible);
             Click(hPage, apply);
+            const HWND hSheet = ::GetAncestor(hPage, GA_ROOT);
+            OpenTab(hSheet, 0);
+            OpenTab(hSheet, 1);
         });
         Curve(0)->SetLineStyle(0);
         Curve(0)->SetType(gtLine);
@@ -55,7 +32,7 @@ TEST_F(CurveEndurance, TheSheetOnACurve)
 TEST_F(CurveEndurance, TrendAndAverageAndTheirMessageBox)
 {
     OpenAnd([this](HWND hPage) {
-        ExpectNothingLeft([=, this] {
+        Openings::ExpectNothingLeft([=, this] {
             Ask(
                 hPage, linearTrend, kTrend,
                 [this](HWND hDialog) {
@@ -69,4 +46,17 @@ TEST_F(CurveEndurance, TrendAndAverageAndTheirMessageBox)
                 false);
         });
     });
+}
+
+TEST_F(CurveEndurance, TheFontsOfAnAxis)
+{
+    script.When(kSheet, [this](HWND hSheet) {
+        const HWND hPage = OpenTab(hSheet, 1);
+        Openings::ExpectNothingLeft([=, this] {
+            script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
+            DialogHands::Click(hPage, 6001);
+        });
+        ::PostMessageW(hSheet, WM_CLOSE, 0, 0);
+    });
+    Open();
 }

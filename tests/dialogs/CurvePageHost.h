@@ -191,20 +191,6 @@ protected:
         return bytes;
     }
 
-    // All windows of this process, with their children.
-    static int CountWindows()
-    {
-        int nCount = 0;
-        const auto count = [](HWND hWnd, LPARAM lParam) -> BOOL {
-            DWORD nProcess = 0;
-            ::GetWindowThreadProcessId(hWnd, &nProcess);
-            *reinterpret_cast<int*>(lParam) += nProcess == ::GetCurrentProcessId() ? 1 : 0;
-            return TRUE;
-        };
-        ::EnumChildWindows(::GetDesktopWindow(), count, reinterpret_cast<LPARAM>(&nCount));
-        return nCount;
-    }
-
     ModalScript script;
 };
 

@@ -337,24 +337,6 @@ TEST_F(CurvePageFields, EnterAndEscapeDoNothing)
     EXPECT_EQ(LabelOf(0), L"T1");
 }
 
-TEST_F(CurvePageFields, TabWalksThroughTheControlsInTheirOrder)
-{
-    script.When(kSheet, [this](HWND hSheet) {
-        const HWND hPage = PageOf(hSheet);
-        ::SetFocus(::GetDlgItem(hPage, label));
-        PostKey(VK_TAB);
-        script.When(kSheet, [this, hPage](HWND) {
-            EXPECT_EQ(::GetFocus(), ::GetDlgItem(hPage, lineStyle));
-            PostKey(VK_TAB);
-            script.When(kSheet, [hPage](HWND hStill) {
-                EXPECT_EQ(::GetFocus(), ::GetDlgItem(hPage, lineSize));
-                ::PostMessageW(hStill, WM_CLOSE, 0, 0);
-            });
-        });
-    });
-    Open();
-}
-
 TEST_F(CurvePageFields, ADoubleClickOnThePageDoesNothing)
 {
     OpenAnd([](HWND hPage) {

@@ -1,7 +1,8 @@
 // The dialog of a label, by its popup menu.
 
 #include "CurvePageHost.h"
-#include "support/GdiCount.h"
+#include "KeyWalk.h"
+#include "Openings.h"
 
 using namespace DialogHands;
 
@@ -233,6 +234,17 @@ TEST_F(LabelDialog, EnterPressesOkAndEscapeCancel)
     EXPECT_EQ(Of(&ISGraphLabel::GetBorder), 0);
 }
 
+TEST_F(LabelDialog, TabFollowsTheTemplate)
+{
+    for (const bool bBack : {false, true}) {
+        Begin([this, bBack](HWND hDialog) {
+            KeyWalk::Round(script, kLabel, hDialog,
+                           {ok, cancel, border, alignment, color, font, curve, transparent}, bBack,
+                           [](HWND hStill) { ::PostMessageW(hStill, WM_CLOSE, 0, 0); });
+        });
+    }
+}
+
 TEST_F(LabelDialog, AChosenFontAndItsColourTakeEffectAtOnceAndSurviveCancel)
 {
     text->SetTextColor(0x112233);
@@ -305,19 +317,11 @@ TEST_F(LabelDialog, AHostThatDestroysTheParentUnderTheFontsIsSurvived)
 
 TEST_F(LabelDialog, TwoHundredOpeningsLeaveNothing)
 {
-    const auto once = [this] {
+    Openings::ExpectNothingLeft([this] {
         Begin([](HWND hDialog) {
             Click(hDialog, border);
             Click(hDialog, ok);
         });
         HostWindow::Pump();
-    };
-    for (int i = 0; i < 3; ++i)
-        once();
-    const int nObjects = GdiCount::All();
-    const int nWindows = CountWindows();
-    for (int i = 0; i < 200; ++i)
-        once();
-    EXPECT_EQ(GdiCount::All(), nObjects);
-    EXPECT_EQ(CountWindows(), nWindows);
+    });
 }

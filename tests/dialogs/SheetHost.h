@@ -2,14 +2,16 @@
 // The property sheet of a graph of the DLL, opened as a user does, and the hands to drive it:
 // numbers of pages and controls are typed out, as a host's robot would have them.
 
-#include "dialogs/ModalDriver.h"
 #include "frontdoor/InteractionHost.h"
+#include "support/DialogHands.h"
 #include "support/MessageBoxes.h"
+#include "support/ModalScript.h"
 
 #include <commctrl.h>
 
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace Id
@@ -72,7 +74,22 @@ class SheetHost : public FrontDoorInteraction
 {
 protected:
     enum Tab { Chart, Axis, Curve_ };
-    using Step = ModalDriver::Step;
+    static constexpr const wchar_t* kSheet = L"XGraph-属性";
+    static constexpr const wchar_t* kBox = L"Vantoplex"; // of every message box
+
+    using Texts = std::vector<std::wstring>;
+
+    // What is done while the sheet takes input, or while a dialog of it does.
+    struct Step {
+        template <class Action>
+        requires std::is_invocable_v<Action> Step(Action act) : action([act](HWND) mutable { act(); }) {}
+        Step(const wchar_t* pszDialog, ModalScript::Action act)
+            : caption(pszDialog), action(std::move(act))
+        {
+        }
+        std::wstring caption = kSheet;
+        ModalScript::Action action;
+    };
 
     void SetUp() override
     {
@@ -87,10 +104,20 @@ protected:
     POINT OnXAxis(int nAxis = 0) { return Middle(RectOf(XAxis(nAxis).Get())); }
     POINT OnCurve() { return At(5, 5); }
 
-    // Double-clicks there and drives the sheet.
-    void Open(POINT at, std::vector<Step> steps)
+    // Double-clicks there and works what has opened. True if the steps closed all of it; what they
+    // leave open is cancelled.
+    bool Open(POINT at, std::vector<Step> steps)
     {
-        ModalDriver::Run([&] { BareDoubleClick(at); }, std::move(steps));
+        return Work([&] { BareDoubleClick(at); }, std::move(steps));
+    }
+    static bool Work(const std::function<void()>& open, std::vector<Step> steps)
+    {
+        ModalScript script;
+        for (Step& step : steps)
+            script.When(step.caption, std::move(step.action));
+        script.CancelWhatIsLeft();
+        open();
+        return !script.HasCancelled();
     }
     void BareDoubleClick(POINT at)
     {
@@ -99,14 +126,7 @@ protected:
         Release(at);
     }
 
-    static HWND Sheet()
-    {
-        for (const HWND hWnd : ModalDriver::Dialogs()) {
-            if (::GetDlgItem(hWnd, Id::tabs) != nullptr)
-                return hWnd;
-        }
-        return nullptr;
-    }
+    static HWND Sheet() { return ModalScript::Find(kSheet, true); }
     static HWND Tabs() { return ::GetDlgItem(Sheet(), Id::tabs); }
     // A page is known by a control that no other one has.
     static HWND Page(Tab tab)
@@ -120,64 +140,28 @@ protected:
         return nullptr;
     }
     static int CurrentTab() { return static_cast<int>(::SendMessageW(Tabs(), TCM_GETCURSEL, 0, 0)); }
-    // A click of the mouse on the tab.
-    static void ClickTab(Tab tab)
-    {
-        RECT rect = {};
-        ::SendMessageW(Tabs(), TCM_GETITEMRECT, tab, reinterpret_cast<LPARAM>(&rect));
-        const LPARAM at = MAKELPARAM((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-        ::SendMessageW(Tabs(), WM_LBUTTONDOWN, MK_LBUTTON, at);
-        ::SendMessageW(Tabs(), WM_LBUTTONUP, 0, at);
-    }
+    static void ClickTab(Tab tab) { DialogHands::OpenTab(Sheet(), tab); }
     // The page that is seen, and its controls.
-    static HWND Shown()
-    {
-        for (const Tab tab : {Chart, Axis, Curve_}) {
-            if (::IsWindowVisible(Page(tab)))
-                return Page(tab);
-        }
-        return nullptr;
-    }
+    static HWND Shown() { return DialogHands::PageOf(Sheet()); }
     static HWND Item(int id) { return ::GetDlgItem(Shown(), id); }
-    static bool Enabled(int id) { return ::IsWindowEnabled(Item(id)) != FALSE; }
+    static bool Enabled(int id) { return DialogHands::IsEnabled(Shown(), id); }
     static void Press(int id) { ::SendMessageW(Item(id), BM_CLICK, 0, 0); }
     using FrontDoorInteraction::Press;
-    static bool Checked(int id) { return ::SendMessageW(Item(id), BM_GETCHECK, 0, 0) == BST_CHECKED; }
-    static std::wstring TextOf(HWND hWnd)
-    {
-        WCHAR text[300] = {};
-        ::GetWindowTextW(hWnd, text, 300);
-        return text;
-    }
-    static std::wstring Shows(int id) { return TextOf(Item(id)); }
+    static bool Checked(int id) { return DialogHands::IsChecked(Shown(), id); }
+    static std::wstring Shows(int id) { return DialogHands::TextOf(Shown(), id); }
     // Replaces the text at once, as a paste does: one change is told.
     static void Enter(int id, const wchar_t* text)
     {
         ::SendMessageW(Item(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
     }
-    static int Row(int id) { return static_cast<int>(::SendMessageW(Item(id), CB_GETCURSEL, 0, 0)); }
-    static int Rows(int id) { return static_cast<int>(::SendMessageW(Item(id), CB_GETCOUNT, 0, 0)); }
-    static std::wstring RowText(int id, int row)
-    {
-        WCHAR text[300] = {};
-        ::SendMessageW(Item(id), CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-    // By the arrow keys, as far as the row lies from the chosen one.
+    static int Row(int id) { return DialogHands::RowOf(Shown(), id); }
+    static Texts Rows(int id) { return DialogHands::RowsOf(Shown(), id); }
     static void Choose(int id, int row)
     {
-        const HWND list = Item(id);
-        ::SetFocus(list);
-        for (int tries = 0; Row(id) != row && tries < 50; ++tries)
-            ::SendMessageW(list, WM_KEYDOWN, Row(id) < row ? VK_DOWN : VK_UP, 0);
+        DialogHands::Choose(Shown(), id, row);
         EXPECT_EQ(Row(id), row);
     }
     // For messages.
     static std::string Narrow(const std::wstring& text) { return {text.begin(), text.end()}; }
-    static void PostKey(HWND hWnd, WPARAM key)
-    {
-        ::PostMessageW(hWnd, WM_KEYDOWN, key, 1);
-        ::PostMessageW(hWnd, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
-    }
     static void CloseBox() { ::PostMessageW(Sheet(), WM_SYSCOMMAND, SC_CLOSE, 0); }
 };

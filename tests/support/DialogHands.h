@@ -62,10 +62,14 @@ inline void Click(HWND hDialog, int nID)
     Click(::GetDlgItem(hDialog, nID));
 }
 // A key through the queue, as the keyboard's, into the window that has the focus.
+inline void PostKey(HWND hWnd, WPARAM nKey)
+{
+    ::PostMessageW(hWnd, WM_KEYDOWN, nKey, 1);
+    ::PostMessageW(hWnd, WM_KEYUP, nKey, static_cast<LPARAM>(0xC0000001));
+}
 inline void PostKey(WPARAM nKey)
 {
-    ::PostMessageW(::GetFocus(), WM_KEYDOWN, nKey, 1);
-    ::PostMessageW(::GetFocus(), WM_KEYUP, nKey, static_cast<LPARAM>(0xC0000001));
+    PostKey(::GetFocus(), nKey);
 }
 // Puts a text in an edit in the place of what stands there, at one stroke as from the
 // clipboard.
@@ -75,6 +79,14 @@ inline void Paste(HWND hDialog, int nID, const wchar_t* pszText)
     ::SetFocus(hEdit);
     ::SendMessageW(hEdit, EM_SETSEL, 0, -1);
     ::SendMessageW(hEdit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(pszText));
+}
+// Whether the edit has the focus and all of its text is selected, ready to be typed over.
+inline bool IsOffered(HWND hDialog, int nID)
+{
+    const HWND hEdit = ::GetDlgItem(hDialog, nID);
+    DWORD nFrom = 1, nTo = 0;
+    ::SendMessageW(hEdit, EM_GETSEL, reinterpret_cast<WPARAM>(&nFrom), reinterpret_cast<LPARAM>(&nTo));
+    return ::GetFocus() == hEdit && nFrom == 0 && nTo == TextOf(hEdit).size();
 }
 // Chooses a row by the keys of the list, which tells its dialog at each step.
 inline void Choose(HWND hDialog, int nID, int nRow)

@@ -4,7 +4,8 @@
 // another dialog; the steps that follow then run inside of it.
 //
 // A window that a step waits for and that never comes, and one that is left when all steps have
-// run, fails the test and is closed, so that no test hangs.
+// run, fails the test and is closed, so that no test hangs. After CancelWhatIsLeft a window may be
+// left: it is cancelled at once.
 
 #include <windows.h>
 
@@ -42,24 +43,19 @@ public:
     // For the popup menu that is open.
     void WhenMenu(Action action) { m_steps.push_back({kMenu, std::move(action)}); }
 
+    void CancelWhatIsLeft() { m_bCancels = true; }
+    [[nodiscard]] bool HasCancelled() const { return m_hCancelled != nullptr; }
+
     static constexpr const wchar_t* kMenu = L"a popup menu";
 
-    // The dialog of this thread that takes input; null if there is none.
-    [[nodiscard]] static HWND Find(const std::wstring& caption)
+    // The dialog of this thread that takes input, or with `bOwner` also one that waits for a dialog
+    // of its own; null if there is none.
+    [[nodiscard]] static HWND Find(const std::wstring& caption, bool bOwner = false)
     {
-        Search search{&caption, nullptr};
-        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalScript::Test,
-                            reinterpret_cast<LPARAM>(&search));
-        return search.hFound;
+        return Find(Search{&caption, bOwner, nullptr});
     }
     // Any window at all that a modal loop would belong to.
-    [[nodiscard]] static HWND FindAny()
-    {
-        Search search{nullptr, nullptr};
-        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalScript::Test,
-                            reinterpret_cast<LPARAM>(&search));
-        return search.hFound;
-    }
+    [[nodiscard]] static HWND FindAny() { return Find(Search{nullptr, false, nullptr}); }
 
 private:
     struct Step {
@@ -68,6 +64,7 @@ private:
     };
     struct Search {
         const std::wstring* pCaption;
+        bool bOwner;
         HWND hFound;
     };
     static constexpr int kPatience = 1500; // ticks without a step that could run
@@ -78,13 +75,19 @@ private:
         return pCurrent;
     }
 
+    static HWND Find(Search search)
+    {
+        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalScript::Test,
+                            reinterpret_cast<LPARAM>(&search));
+        return search.hFound;
+    }
     static BOOL CALLBACK Test(HWND hWnd, LPARAM lParam)
     {
         auto& search = *reinterpret_cast<Search*>(lParam);
         wchar_t className[16] = {};
         ::GetClassNameW(hWnd, className, 16);
         const bool bMenu = std::wstring(className) == L"#32768";
-        if (!::IsWindowVisible(hWnd) || !::IsWindowEnabled(hWnd) ||
+        if (!::IsWindowVisible(hWnd) || (!search.bOwner && !::IsWindowEnabled(hWnd)) ||
             (!bMenu && std::wstring(className) != L"#32770"))
             return TRUE;
         wchar_t text[128] = {};
@@ -112,12 +115,18 @@ private:
             step.action(hWnd);
             return;
         }
-        if (FindAny() == nullptr || ++m_nWaited < (m_steps.empty() ? kPatience / 3 : kPatience))
+        const HWND hLeft = FindAny();
+        if (m_bCancels && m_steps.empty() && hLeft != nullptr && hLeft != m_hCancelled) {
+            m_hCancelled = hLeft;
+            ::PostMessageW(hLeft, WM_COMMAND, IDCANCEL, 0);
+            return;
+        }
+        if (hLeft == nullptr || ++m_nWaited < (m_steps.empty() ? kPatience / 3 : kPatience))
             return;
         ADD_FAILURE() << "a window is left open, while waited for: " << NextName();
         m_steps.clear();
         m_nWaited = kPatience - 20;
-        ::PostMessageW(FindAny(), WM_CLOSE, 0, 0);
+        ::PostMessageW(hLeft, WM_CLOSE, 0, 0);
     }
 
     [[nodiscard]] std::string NextName() const
@@ -133,4 +142,6 @@ private:
     UINT_PTR m_nTimer = 0;
     std::deque<Step> m_steps;
     int m_nWaited = 0;
+    bool m_bCancels = false;
+    HWND m_hCancelled = nullptr;
 };
