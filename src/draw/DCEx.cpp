@@ -320,26 +320,6 @@ CSize CDCEx::GetTextExtent(const CString& str)
     return CSize(rect.Width(), height);
 }
 
-COLORREF CDCEx::SetBkColor(COLORREF crColor)
-{
-    return CDC::SetBkColor(crColor);
-}
-
-COLORREF CDCEx::SetTextColor(COLORREF crColor)
-{
-    return CDC::SetTextColor(crColor);
-}
-
-BOOL CDCEx::PtVisible(int x, int y) const
-{
-    return ::PtVisible(m_hDC, x, y);
-}
-
-BOOL CDCEx::RectVisible(LPCRECT lpRect) const
-{
-    return ::RectVisible(m_hDC, lpRect);
-}
-
 TVisibleArea CDCEx::Visible() const
 {
     TVisibleArea visible = VisibleOf(m_hDC);
@@ -388,20 +368,6 @@ BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
 }
 
-BOOL CDCEx::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                       LPINT lpDxWidths)
-{
-    return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
-}
-
-CSize CDCEx::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
-                           LPINT lpnTabStopPositions, int nTabOrigin)
-{
-    const LONG size =
-        ::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin);
-    return CSize(LOWORD(size), HIWORD(size));
-}
-
 int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
     // Hosts choose format flags; the one that would write into the text is not for them.
@@ -411,22 +377,4 @@ int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
         return ::DrawText(m_hDC, lpszString, nCount, &size, nFormat | DT_CALCRECT);
     }
     return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
-}
-
-int CDCEx::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
-                      LPDRAWTEXTPARAMS lpDTParams)
-{
-    return ::DrawTextEx(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
-}
-
-BOOL CDCEx::GrayString(CBrush* pBrush, GRAYSTRINGPROC lpfnOutput, LPARAM lpData, int nCount, int x,
-                       int y, int nWidth, int nHeight)
-{
-    const HBRUSH brush = pBrush ? static_cast<HBRUSH>(*pBrush) : nullptr;
-    return ::GrayString(m_hDC, brush, lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
-}
-
-int CDCEx::Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData)
-{
-    return ::Escape(m_hDC, nEscape, nCount, lpszInData, lpOutData);
 }

@@ -62,25 +62,9 @@ public:
     // In the callers' units.
     [[nodiscard]] TVisibleArea Visible() const;
 
-    COLORREF SetBkColor(COLORREF crColor) override;
-    COLORREF SetTextColor(COLORREF crColor) override;
-
-    // These nine go to the drawing handle directly; no attribute context is involved.
-    using CDC::PtVisible;
-    BOOL PtVisible(int x, int y) const override;
-    BOOL RectVisible(LPCRECT lpRect) const override;
     using CDC::TextOut;
     BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount) override;
-    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                    LPINT lpDxWidths) override;
-    CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
-                        LPINT lpnTabStopPositions, int nTabOrigin) override;
     int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) override;
-    int DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
-                   LPDRAWTEXTPARAMS lpDTParams) override;
-    BOOL GrayString(CBrush* pBrush, GRAYSTRINGPROC lpfnOutput, LPARAM lpData, int nCount, int x, int y,
-                    int nWidth, int nHeight) override;
-    int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) override;
 
 private:
     BOOL FarLineTo(CPoint from, CPoint unscaledTo, CPoint to);

@@ -3,8 +3,8 @@
 #include "objects/XGraphAxis.h"
 
 #include "base/Colors.h"
+#include "draw/CurveKey.h"
 #include "draw/DCEx.h"
-#include "draw/Markers.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 #include "objects/AxisTicks.h"
@@ -13,14 +13,11 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
-#include <utility>
 
 namespace
 {
 
 constexpr UINT kSolidFill = 6;
-constexpr int kLargestKey = 32767; // more than any plot; the platform's cost grows with the size
 
 // The background mode, put back at the end.
 class CModeKeeper
@@ -51,13 +48,6 @@ void FillRange(CDCEx* pDC, const TColorRange& range, const CRect& rect)
     const CPenSelector pen(range.crMinColor, 1, pDC, PS_SOLID);
     const CBrushSelector brush(nHatch, range.crMinColor, pDC);
     pDC->Rectangle(&rect);
-}
-
-bool IsDark(COLORREF color)
-{
-    const int nBlue = GetBValue(color);
-    return std::max({static_cast<int>(GetRValue(color)), static_cast<int>(GetGValue(color)),
-                     nBlue / 2}) < 129;
 }
 
 } // namespace
@@ -150,6 +140,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
     int nAlong = IsVertical() ? 0 : nSize;
     int nAcross = 0;
     int nKeys = 0;
+    CCurveKeys keys(pDC, nSize);
     const int nCurves = PlotHost::CurveCount(*m_pGraph);
     for (int i = 0; i < nCurves; ++i) {
         const CXGraphDataSerie& curve = PlotHost::Curve(*m_pGraph, i);
@@ -166,7 +157,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
                                     : Wrap::Subtract(Wrap::Subtract(m_nOriginX, nSize / 2), nAcross),
                                 Wrap::Add(m_rcArea.top, nAlong));
             const int nKey = curve.m_nMarkerType != 0 ? curve.m_nMarker : i;
-            DrawCurveKey(pDC, corner, nKey, nSize, curve.m_crColor, curve.m_nMarkerType == 1);
+            keys.Draw(corner, nKey, curve.m_crColor, curve.m_nMarkerType == 1);
         }
         nAcross = Wrap::Add(nAcross, nSize);
         if (++nKeys % nPerLine == 0) {
@@ -180,22 +171,7 @@ int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
 void CXGraphAxis::DrawCurveKey(CDCEx* pDC, CPoint point, int nKey, int nSize, COLORREF crColor,
                                bool bSymbol)
 {
-    nSize = std::clamp(nSize, -kLargestKey, kLargestKey);
-    if (bSymbol) {
-        if (m_pGraph != nullptr && nKey >= 0 && std::cmp_less(nKey, std::size(kMarkerPainters)))
-            kMarkerPainters[nKey](point, nSize, crColor, false, pDC);
-        return;
-    }
-    CRect rect(point.x, point.y, Wrap::Add(point.x, nSize), Wrap::Add(point.y, nSize));
-    const COLORREF crFill = pDC->m_bMono ? kBlack : crColor;
-    pDC->FillSolidRect(&rect, crFill);
-    CQuickFont numberFont(L"Arial", nSize, FW_THIN);
-    const CFontSelector font(&numberFont, pDC, true);
-    const COLORREF crOld = pDC->SetTextColor(pDC->m_bMono || IsDark(crColor) ? kWhite : kBlack);
-    CString cNumber;
-    cNumber.Format(L"%d", static_cast<std::int64_t>(nKey) + 1);
-    pDC->DrawText(cNumber, &rect, DT_CENTER);
-    pDC->SetTextColor(crOld);
+    CCurveKeys(pDC, nSize).Draw(point, nKey, crColor, bSymbol);
 }
 
 void CXGraphAxis::DrawAxisArrow(CDCEx* pDC, CPoint point, int nDirection, int nSize)

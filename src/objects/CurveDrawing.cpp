@@ -7,6 +7,7 @@
 #include "objects/XGraphDataSerie.h"
 
 #include "base/Colors.h"
+#include "draw/CurveKey.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "objects/AxisTicks.h"
@@ -249,6 +250,7 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
     const std::int64_t nSize =
         m_nMarkerSize < 0 ? -static_cast<std::int64_t>(m_nMarkerSize) : m_nMarkerSize;
     const TRect reach = ReachOf(plot, nSize + 2);
+    CCurveKeys keys(pDC, m_nMarkerSize);
     std::optional<CPoint> last;
     for (std::int64_t i = 0; i < m_nCount; i += nStep) {
         const TDataPoint& point = m_pData[i];
@@ -258,7 +260,7 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
         if ((last && *last == corner) || corner.x < reach.left || corner.x > reach.right ||
             corner.y < reach.top || corner.y > reach.bottom)
             continue;
-        yAxis.DrawCurveKey(pDC, corner, nKey, m_nMarkerSize, crKey, m_nMarkerType == 1);
+        keys.Draw(corner, nKey, crKey, m_nMarkerType == 1);
         last = corner;
     }
 }
