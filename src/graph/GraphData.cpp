@@ -1,8 +1,9 @@
 // Data entry: curves and their axes, removal and selection.
 
-#include "graph/DataExtent.h"
 #include "graph/XGraph.h"
+#include "objects/DataExtent.h"
 
+#include <optional>
 #include <utility>
 
 namespace
@@ -39,6 +40,11 @@ void AppendAxis(CCheckedVector<CXGraphAxis>& axes, CXGraph* pGraph, EAxisKind ki
     axes.push_back(axis);
 }
 
+TDataExtent ExtentOf(const CXGraphDataSerie& curve)
+{
+    return DataExtent::Widen(DataExtent::kNothing, curve.Points());
+}
+
 } // namespace
 
 CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve, int nXAxis, int nYAxis,
@@ -47,6 +53,7 @@ CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve,
     if (pValues == nullptr || nCount <= 0)
         return nullptr;
 
+    std::optional<TDataExtent> extent; // where the copying has found it already
     if (std::cmp_equal(nCurve, m_Curves.size())) {
         CXGraphDataSerie curve;
         curve.m_nXAxis = nXAxis;
@@ -54,7 +61,7 @@ CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve,
         curve.m_nIndex = nCurve;
         curve.m_crColor = CXGraphDataSerie::CreationColor(nCurve);
         if (bAutoDelete)
-            curve.CopyData(pValues, nCount);
+            extent = curve.CopyData(pValues, nCount);
         else
             curve.ReplaceData(pValues, nCount, false);
         m_Curves.push_back(std::move(curve));
@@ -72,20 +79,22 @@ CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve,
 
     CXGraphDataSerie* pCurve = &m_Curves[nCurve];
     pCurve->m_pGraph = this;
-    Autoscale(nXAxis, nYAxis, nCurve);
+    WidenAxes(nXAxis, nYAxis, extent ? *extent : ExtentOf(*pCurve));
     Invalidate();
     return pCurve;
 }
 
 bool CXGraph::Autoscale(int nXAxis, int nYAxis, int nCurve)
 {
+    return WidenAxes(nXAxis, nYAxis, ExtentOf(m_Curves[nCurve]));
+}
+
+bool CXGraph::WidenAxes(int nXAxis, int nYAxis, const TDataExtent& data)
+{
     CXGraphAxis& xAxis = m_XAxes[nXAxis];
     CXGraphAxis& yAxis = m_YAxes[nYAxis];
-    const CXGraphDataSerie& curve = m_Curves[nCurve];
-
-    TDataExtent extent{xAxis.m_fMin, xAxis.m_fMax, yAxis.m_fMin, yAxis.m_fMax};
-    if (curve.m_nCount > 0)
-        extent = DataExtent::Widen(extent, {curve.m_pData, static_cast<std::size_t>(curve.m_nCount)});
+    const TDataExtent extent =
+        DataExtent::Widen({xAxis.m_fMin, xAxis.m_fMax, yAxis.m_fMin, yAxis.m_fMax}, data);
     xAxis.SetRange(extent.fMinX, extent.fMaxX);
     return yAxis.SetRange(extent.fMinY, extent.fMaxY);
 }

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <unordered_set>
+#include <utility>
 
 namespace
 {
@@ -33,7 +34,7 @@ void ReadElements(CArchive& ar, CCheckedVector<Element>& elements, UINT nSmalles
         Element element;
         element.Serialize(ar);
         element.m_pGraph = pGraph;
-        elements.push_back(element);
+        elements.push_back(std::move(element)); // with its array, which may be large
     }
 }
 

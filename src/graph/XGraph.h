@@ -24,6 +24,7 @@
 #include "graph/tools/ObjectTracker.h"
 #include "graph/tools/PointDrag.h"
 #include "graph/tools/ZoomBand.h"
+#include "objects/DataExtent.h"
 #include "objects/XGraphAxis.h"
 #include "objects/XGraphDataSerie.h"
 #include "objects/XGraphLabel.h"
@@ -249,6 +250,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // By the extent of a curve's points.
+    bool WidenAxes(int nXAxis, int nYAxis, const TDataExtent& data);
+
     void PaintFrame(CDCEx* pDC);
     void LayoutAxes(CDCEx* pDC, const CRect& rcGraph);
     void DrawCurves(CDCEx* pDC);

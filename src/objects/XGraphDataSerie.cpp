@@ -4,6 +4,7 @@
 #include "objects/XGraphDataSerie.h"
 
 #include "objects/IndexSearch.h"
+#include "objects/PointCopy.h"
 
 #include <algorithm>
 #include <array>
@@ -12,24 +13,12 @@
 
 IMPLEMENT_SERIAL(CXGraphDataSerie, CXGraphObject, 1)
 
-namespace
-{
-
-std::unique_ptr<TDataPoint[]> CopyOf(std::span<const TDataPoint> points)
-{
-    auto copy = std::make_unique_for_overwrite<TDataPoint[]>(points.size());
-    std::copy(points.begin(), points.end(), copy.get());
-    return copy;
-}
-
-} // namespace
-
 CXGraphDataSerie::CXGraphDataSerie(const CXGraphDataSerie& other)
     : CXGraphObject(other), TCurveFields(other)
 {
     if (m_bAutoDelete && m_pData != nullptr) {
         m_pData = nullptr; // not ours, should the copy fail
-        Adopt(CopyOf(other.Points()).release(), other.m_nCount);
+        CopyData(other.m_pData, static_cast<int>(other.Points().size()));
     }
 }
 
@@ -87,20 +76,23 @@ void CXGraphDataSerie::FreeData() noexcept
     m_pPrivateCopy = nullptr;
 }
 
-void CXGraphDataSerie::Adopt(TDataPoint* pCopy, int nCount) noexcept
+void CXGraphDataSerie::Adopt(TDataPoint* pCopy, int nCount, bool bAscending) noexcept
 {
     m_pData = pCopy;
     m_nCount = nCount;
     m_bAutoDelete = true;
     m_pPrivateCopy = pCopy;
-    m_bAscending = IndexSearch::IsAscending(Points());
+    m_bAscending = bAscending;
 }
 
-void CXGraphDataSerie::CopyData(const TDataPoint* pData, int nCount)
+TDataExtent CXGraphDataSerie::CopyData(const TDataPoint* pData, int nCount)
 {
-    auto copy = CopyOf({pData, static_cast<std::size_t>(nCount)});
+    const auto nPoints = static_cast<std::size_t>(nCount);
+    auto copy = std::make_unique_for_overwrite<TDataPoint[]>(nPoints);
+    const TPointFacts facts = PointCopy::Copy({pData, nPoints}, copy.get());
     ReplaceData(nullptr, 0, false);
-    Adopt(copy.release(), nCount);
+    Adopt(copy.release(), nCount, facts.bAscending);
+    return facts.extent;
 }
 
 void CXGraphDataSerie::ReplaceData(TDataPoint* pData, int nCount, bool bAutoDelete) noexcept
@@ -190,7 +182,8 @@ void CXGraphDataSerie::LoadFields(CArchive& ar)
     for (int i = 0; i < nCount; i += nPart)
         ar.ReadExactly(&data[i], static_cast<UINT>(std::min(nPart, nCount - i) * sizeof(TDataPoint)));
     ReplaceData(nullptr, 0, false);
-    Adopt(data.release(), nCount);
+    const bool bAscending = IndexSearch::IsAscending({data.get(), static_cast<std::size_t>(nCount)});
+    Adopt(data.release(), nCount, bAscending);
 
     ar >> m_nReserved1 >> m_nReserved2 >> m_nXAxis >> m_nYAxis >> m_nIndex >> m_nLineSize >>
         m_nFillStyle;

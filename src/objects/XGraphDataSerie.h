@@ -4,6 +4,7 @@
 
 #include "base/Vocabulary.h"
 #include "framework/windowing/Strings.h"
+#include "objects/DataExtent.h"
 #include "objects/PolynomialSolver.h"
 #include "objects/SegmentHit.h"
 #include "objects/XGraphObject.h"
@@ -56,9 +57,9 @@ public:
     // Colour of a new curve by its position.
     [[nodiscard]] static COLORREF CreationColor(int nPosition) noexcept;
 
-    // Gives the curve a private copy of the points and ownership of it. A copy that it made
-    // before is freed.
-    void CopyData(const TDataPoint* pData, int nCount);
+    // Gives the curve a private copy of the points and ownership of it, and returns their extent.
+    // A copy that it made before is freed.
+    TDataExtent CopyData(const TDataPoint* pData, int nCount);
     // Takes the caller's array without copying it; with bAutoDelete it is freed with the
     // curve. A private copy held before is freed, a caller's array never.
     void ReplaceData(TDataPoint* pData, int nCount, bool bAutoDelete) noexcept;
@@ -104,7 +105,7 @@ private:
     [[nodiscard]] int PenReach() const noexcept;
     void StoreFields(CArchive& ar) const;
     void LoadFields(CArchive& ar);
-    void Adopt(TDataPoint* pCopy, int nCount) noexcept;
+    void Adopt(TDataPoint* pCopy, int nCount, bool bAscending) noexcept;
     void FreeData() noexcept;
 
     const TDataPoint* m_pPrivateCopy = nullptr; // the array that this curve made, if m_pData is it

@@ -9,6 +9,7 @@
 #include "framework/windowing/File.h"
 #include "objects/XGraphBitmap.h"
 #include "objects/XGraphDataNotation.h"
+#include "support/CountedMemory.h"
 #include "windowing/TempFile.h"
 
 using namespace FileBytes;
@@ -227,6 +228,21 @@ TEST_F(GraphFile, AFileInTheReadersFormLoadsItemForItem)
     EXPECT_TRUE(ObjectAt<CXGraphLabel>(4)->m_cText == L"two\nlines");
     EXPECT_EQ(ObjectAt(4)->m_pGraph, &graph);
     Paint();
+}
+
+TEST_F(GraphFile, ACurveKeepsTheArrayThatItWasReadInto)
+{
+    TCurve curve;
+    for (int i = 0; i < 50000; ++i)
+        curve.points.push_back({static_cast<double>(i), 1.0});
+    const CTempFile file(Flags(2) + CBytes().Add(1).Raw(Bytes(curve)).Add(0).Add(0).m_bytes);
+    const CountedMemory memory;
+    ASSERT_TRUE(graph.Load(file.Path()));
+    const std::size_t nArray = curve.points.size() * sizeof(TDataPoint);
+    EXPECT_GE(memory.Bytes(), nArray);
+    EXPECT_LT(memory.Bytes(), nArray * 3 / 2);
+    EXPECT_TRUE(graph.m_Curves[0].IsAscending());
+    EXPECT_EQ(graph.m_Curves[0].m_pData[49999].fXVal, 49999);
 }
 
 TEST_F(GraphFile, ReadMeasuresComeOnTopOfThosePresent)

@@ -1,9 +1,12 @@
 #include "support/FailingMemory.h"
 
+#include "support/CountedMemory.h"
+
 #include <cstdlib>
 
 void* operator new(std::size_t size)
 {
+    CountedMemory::Note(size);
     void* const memory = FailingMemory::Take() ? std::malloc(size > 0 ? size : 1) : nullptr;
     if (!memory)
         throw std::bad_alloc();

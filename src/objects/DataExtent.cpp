@@ -1,4 +1,4 @@
-#include "graph/DataExtent.h"
+#include "objects/DataExtent.h"
 
 #include <emmintrin.h>
 
@@ -79,6 +79,19 @@ TDataExtent Widen(TDataExtent start, std::span<const TDataPoint> points) noexcep
             FirstZero(high[0], start.fMaxX, points, &TDataPoint::fXVal),
             FirstZero(low[1], start.fMinY, points, &TDataPoint::fYVal),
             FirstZero(high[1], start.fMaxY, points, &TDataPoint::fYVal)};
+}
+
+TDataExtent Widen(TDataExtent start, const TDataExtent& other) noexcept
+{
+    if (other.fMaxX > start.fMaxX)
+        start.fMaxX = other.fMaxX;
+    if (other.fMinX < start.fMinX)
+        start.fMinX = other.fMinX;
+    if (other.fMaxY > start.fMaxY)
+        start.fMaxY = other.fMaxY;
+    if (other.fMinY < start.fMinY)
+        start.fMinY = other.fMinY;
+    return start;
 }
 
 } // namespace DataExtent

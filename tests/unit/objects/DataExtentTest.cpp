@@ -1,4 +1,4 @@
-#include "graph/DataExtent.h"
+#include "objects/DataExtent.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +41,7 @@ TEST(DataExtent, AnExistingExtentOnlyGrows)
 
 TEST(DataExtent, NoPointsChangeNothing)
 {
-    ExpectSame(DataExtent::Widen({1, 2, 3, 4}, {}), {1, 2, 3, 4});
+    ExpectSame(DataExtent::Widen({1, 2, 3, 4}, std::vector<TDataPoint>()), {1, 2, 3, 4});
 }
 
 TEST(DataExtent, ValuesThatAreNoNumberWidenNothing)

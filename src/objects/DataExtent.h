@@ -3,6 +3,7 @@
 
 #include "base/Vocabulary.h"
 
+#include <limits>
 #include <span>
 
 struct TDataExtent {
@@ -21,5 +22,13 @@ namespace DataExtent
 
 // The same, point by point: what Widen has to agree with, to the last bit.
 [[nodiscard]] TDataExtent WidenPlain(TDataExtent start, std::span<const TDataPoint> points) noexcept;
+
+// The extent of no points: to widen it by some is to find theirs.
+inline constexpr TDataExtent kNothing{
+    std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+    std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+
+// Widens an extent by that of other points, as widening it by the points themselves would.
+[[nodiscard]] TDataExtent Widen(TDataExtent start, const TDataExtent& other) noexcept;
 
 } // namespace DataExtent
