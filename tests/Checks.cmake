@@ -76,6 +76,19 @@ foreach(standard 17 20)
   add_test(NAME kit-compiles-as-cpp${standard} COMMAND ${CMAKE_CXX_COMPILER} -std=c++${standard} -Wall -Wextra -Werror
     ${kit_includes} -fsyntax-only -include vantoplex.hpp -x c++ /dev/null)
 endforeach()
+# The other compiler, where it is installed, alone and with Visual C++'s extensions.
+find_program(CLANG NAMES clang++-14 clang++)
+if(CLANG)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=include/c++ OUTPUT_VARIABLE of_mingw
+                  OUTPUT_STRIP_TRAILING_WHITESPACE)
+  foreach(mode "" -fms-extensions)
+    foreach(standard 17 20)
+      add_test(NAME kit-compiles-with-clang${mode}${standard} COMMAND ${CLANG} --target=x86_64-w64-mingw32 ${mode}
+        -std=c++${standard} -Wall -Wextra -Werror -nostdinc++ -isystem ${of_mingw} -isystem ${of_mingw}/x86_64-w64-mingw32
+        ${kit_includes} -fsyntax-only -include vantoplex.hpp -x c++ /dev/null)
+    endforeach()
+  endforeach()
+endif()
 add_test(NAME kit-compiles-as-c COMMAND ${CMAKE_C_COMPILER} -std=c11 -Wall -Wextra -Werror -pedantic
   ${kit_includes} -fsyntax-only -x c ${PROJECT_SOURCE_DIR}/kit/languages/vantoplex_c.h)
 

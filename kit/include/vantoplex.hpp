@@ -1,6 +1,7 @@
 #pragma once
 // Vantoplex for C++17 and later: owners for the interfaces, charts that own their windows, texts
-// and points as C++ has them. Header-only; needs vantoplex.h beside it and ole32, oleaut32, user32.
+// and points as C++ has them. Header-only; needs vantoplex.h and vantoplex_png.hpp beside it and
+// ole32, oleaut32, user32, gdi32.
 //
 //     vantoplex::Graph graph(window);
 //     graph.Plot(points, L"sine");
@@ -15,6 +16,7 @@
 // false, or an empty result.
 
 #include "vantoplex.h"
+#include "vantoplex_png.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -254,9 +256,62 @@ public:
         Repaint();
     }
     void Repaint() const noexcept { m_chart->Invalidate(TRUE); }
+    // A PNG file of the chart as it is painted now. False if it isn't visible or the file can't be written.
+    bool SavePng(const std::wstring& path) const { return SUCCEEDED(vantoplex::SavePng(Window(), path.c_str())); }
 
 protected:
     Pointer<Interface> m_chart;
+};
+
+} // namespace detail
+
+namespace detail
+{
+
+// What the interface gives back of an axis.
+class AxisSettings
+{
+public:
+    explicit AxisSettings(ISGraphAxis& axis)
+    {
+        axis.GetAxisType(&m_type);
+        axis.GetShowMarker(&m_showMarker);
+        axis.GetDateTime(&m_dateTime);
+        axis.GetShowGrid(&m_showGrid);
+        axis.GetArcSize(&m_arcSize);
+        axis.GetMarkerSize(&m_markerSize);
+        axis.GetTickSize(&m_tickSize);
+        axis.GetGridStyle(&m_gridStyle);
+        axis.GetGridColor(&m_gridColor);
+        axis.GetColor(&m_color);
+        axis.GetVisible(&m_visible);
+        axis.GetLabel(m_label.Receive());
+        axis.GetDisplayFmt(m_format.Receive());
+    }
+    void PutInto(ISGraphAxis& axis) const
+    {
+        axis.SetAxisType(m_type);
+        axis.SetShowMarker(m_showMarker);
+        axis.SetDateTime(m_dateTime);
+        axis.SetShowGrid(m_showGrid);
+        axis.SetArcSize(m_arcSize);
+        axis.SetMarkerSize(m_markerSize);
+        axis.SetTickSize(m_tickSize);
+        axis.SetGridStyle(m_gridStyle);
+        axis.SetGridColor(m_gridColor);
+        axis.SetColor(m_color);
+        axis.SetVisible(m_visible);
+        axis.SetLabel(m_label.Get());
+        axis.SetDisplayFmt(m_format.Get());
+    }
+
+private:
+    EAxisType m_type = atLinear;
+    long m_showMarker = TRUE, m_dateTime = FALSE, m_showGrid = TRUE, m_visible = TRUE;
+    int m_arcSize = 0, m_markerSize = 0, m_tickSize = 0;
+    unsigned int m_gridStyle = 0;
+    unsigned long m_gridColor = 0, m_color = 0;
+    Text m_label, m_format;
 };
 
 } // namespace detail
@@ -412,8 +467,83 @@ public:
                     std::wstring(name.View()) + L" trend", axes);
     }
 
+    // Gives the last X axis this range, exactly, under whatever data: a window that moves over live
+    // data. The axis is made anew: its settings are kept, but not its markers, colour ranges and
+    // fonts, and views of it are stale. Later axes are in the way: false for any but the last.
+    bool ShowX(double lower, double upper)
+    {
+        const int axis = XAxisCount() - 1;
+        if (axis < 0 || !(lower < upper))
+            return false;
+        UpdateWindow(Window()); // the new axis takes the width of its steps from a frame
+        const detail::AxisSettings settings(*XAxis(axis).Get());
+        m_chart->DeleteXAxis(axis);
+        // No message is handled before the axis is there again, so no frame misses it.
+        Widen({axis, 0}, lower, upper, true);
+        settings.PutInto(*XAxis(axis).Get());
+        XAxis(axis)->SetAutoScale(0);
+        Repaint();
+        return true;
+    }
+
+    // The points that a curve holds.
+    std::vector<TDataPoint> PointsOf(int curve) const
+    {
+        long count = 0;
+        const auto view = Curve(curve);
+        if (!view || view->GetCount(&count) != S_OK || count < 1)
+            return {};
+        TDataPoint* points = nullptr;
+        view->GetSimpleMovingAverage(&points, 1); // an average of one value is the value
+        std::vector<TDataPoint> copy(points, points ? points + count : points);
+        CoTaskMemFree(points);
+        return copy;
+    }
+
+    // Where a point lay in the last frame, by a curve's axes: pixels of the graph's window, of what
+    // lies outside the plot the nearest.
+    POINT PixelOf(int curve, TDataPoint point) const
+    {
+        Axes axes;
+        const auto view = Curve(curve);
+        if (!view)
+            return {};
+        view->GetXAxis(&axes.x);
+        view->GetYAxis(&axes.y);
+        const RECT area = detail::ClientOf(Window());
+        return {PixelAlong(XAxis(axes.x), 0, area.right, point.fXVal), PixelAlong(YAxis(axes.y), 0, area.bottom, point.fYVal)};
+    }
+
+    // Selects a visible curve as a click on it does, which is the selection that the trend commands
+    // work on; the parent gets the click's messages. False where no click meets it: it is hidden,
+    // outside the plot, or covered by a later one.
+    bool Choose(int curve)
+    {
+        if (!HasCurve(curve))
+            return false;
+        Unselect();
+        UpdateWindow(Window());
+        const std::vector<TDataPoint> points = PointsOf(curve);
+        const std::size_t step = points.size() / 50 + 1;
+        for (std::size_t i = 0; i < points.size(); i += step) {
+            ClickAt(PixelOf(curve, points[i]));
+            if (IsChosen(curve))
+                return true;
+        }
+        return false;
+    }
+
+    // The command that adds a curve's linear or cubic trend, as a person's menu sends it.
+    bool SendTrend(int curve, Trend trend)
+    {
+        if (trend == Trend::Polynomial || !Choose(curve))
+            return false;
+        return m_chart->SendMessage(WM_COMMAND, trend == Trend::Linear ? VPX_COMMAND_LINEAR_TREND : VPX_COMMAND_CUBIC_TREND,
+                                    0) == S_OK;
+    }
+
     // One of VpxCommand. The two trend commands and the cursor end the process in some states: use
-    // AddTrend; the cursor is entered without stored measures.
+    // AddTrend or SendTrend; the cursor is entered without stored measures.
     bool Send(VpxCommand command)
     {
         if (command == VPX_COMMAND_LINEAR_TREND || command == VPX_COMMAND_CUBIC_TREND)
@@ -475,6 +605,54 @@ private:
         if (!name.empty())
             Curve(curve)->SetLabel(Text(name).Get());
         return curve;
+    }
+    // GetValueForPos goes one way along an axis.
+    static int PixelAlong(const Pointer<ISGraphAxis>& axis, int first, int last, double value) noexcept
+    {
+        double atFirst = 0;
+        double atLast = 0;
+        axis->GetValueForPos(first, &atFirst);
+        axis->GetValueForPos(last, &atLast);
+        const bool rising = atLast > atFirst;
+        while (last - first > 1) {
+            const int middle = first + (last - first) / 2;
+            double here = 0;
+            axis->GetValueForPos(middle, &here);
+            ((here < value) == rising ? first : last) = middle;
+        }
+        axis->GetValueForPos(first, &atFirst);
+        axis->GetValueForPos(last, &atLast);
+        return (atFirst < value ? value - atFirst : atFirst - value) < (atLast < value ? value - atLast : atLast - value)
+                   ? first
+                   : last;
+    }
+    // A click beside a selected axis would put a marker there.
+    void Unselect()
+    {
+        m_chart->NoOp();
+        m_chart->SetInteraction(TRUE);
+        for (int i = 0; i < XAxisCount(); ++i)
+            XAxis(i)->SetSelected(FALSE);
+        for (int i = 0; i < YAxisCount(); ++i)
+            YAxis(i)->SetSelected(FALSE);
+    }
+    void ClickAt(POINT place) const noexcept
+    {
+        const LPARAM where = MAKELPARAM(place.x, place.y);
+        m_chart->SendMessage(WM_MOUSEMOVE, 0, where);
+        m_chart->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
+        m_chart->SendMessage(WM_LBUTTONUP, 0, where);
+    }
+    // Where curves cross, the last of them is the one that the click chose.
+    bool IsChosen(int curve) const noexcept
+    {
+        for (int i = CurveCount() - 1; i >= curve; --i) {
+            long selected = FALSE;
+            Curve(i)->GetSelected(&selected);
+            if (selected)
+                return i == curve;
+        }
+        return false;
     }
     bool Widen(Axes axes, double lower, double upper, bool alongX)
     {

@@ -156,6 +156,105 @@ TEST_F(ComfortTest, DeletingACurveTakesItsMeasuresAndSnapAlong)
     EXPECT_EQ(graph.CurveCount(), 1);
 }
 
+TEST_F(ComfortTest, TheLastXAxisTakesAnExactRangeAndKeepsItsSettings)
+{
+    vantoplex::Graph graph = MakeGraph();
+    graph.Plot(m_points, L"data");
+    const auto before = graph.XAxis(0);
+    before->SetLabel(vantoplex::Text(L"seconds").Get());
+    before->SetDisplayFmt(vantoplex::Text(L"%.3f").Get());
+    before->SetColor(RGB(1, 2, 3));
+    before->SetGridColor(RGB(4, 5, 6));
+    before->SetTickSize(7);
+    before->SetShowGrid(FALSE);
+    Paint(graph);
+    ASSERT_TRUE(graph.ShowX(1.25, 2.5));
+    Paint(graph);
+
+    const auto axis = graph.XAxis(0);
+    RECT line{};
+    axis->GetRect(&line);
+    EXPECT_NEAR(ValueAt(axis, line.left), 1.25, 0.02);
+    vantoplex::Text label;
+    vantoplex::Text format;
+    axis->GetLabel(label.Receive());
+    axis->GetDisplayFmt(format.Receive());
+    EXPECT_EQ(label.View(), L"seconds");
+    EXPECT_EQ(format.View(), L"%.3f");
+    unsigned long color = 0;
+    unsigned long gridColor = 0;
+    int tick = 0;
+    long grid = TRUE;
+    axis->GetColor(&color);
+    axis->GetGridColor(&gridColor);
+    axis->GetTickSize(&tick);
+    axis->GetShowGrid(&grid);
+    EXPECT_EQ(color, RGB(1, 2, 3));
+    EXPECT_EQ(gridColor, RGB(4, 5, 6));
+    EXPECT_EQ(tick, 7);
+    EXPECT_EQ(grid, FALSE);
+    EXPECT_EQ(graph.CurveCount(), 1);
+    EXPECT_FALSE(graph.ShowX(2, 2));
+}
+
+TEST_F(ComfortTest, PointsAreReadBackAndFoundAtTheirPixels)
+{
+    vantoplex::Graph graph = MakeGraph();
+    graph.Plot(m_points);
+    Paint(graph);
+    const std::vector<TDataPoint> points = graph.PointsOf(0);
+    ASSERT_EQ(points.size(), m_points.size());
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        EXPECT_EQ(points[i].fXVal, m_points[i].fXVal);
+        EXPECT_EQ(points[i].fYVal, m_points[i].fYVal);
+        const POINT place = graph.PixelOf(0, points[i]);
+        EXPECT_NEAR(ValueAt(graph.XAxis(0), place.x), points[i].fXVal, 0.02);
+        EXPECT_NEAR(ValueAt(graph.YAxis(0), place.y), points[i].fYVal, 0.02);
+    }
+    EXPECT_TRUE(graph.PointsOf(1).empty());
+}
+
+TEST_F(ComfortTest, AChosenCurveIsOneThatTheTrendCommandsAccept)
+{
+    vantoplex::Graph graph = MakeGraph();
+    graph.Plot(m_points, L"chosen");
+    graph.Plot(std::vector<TDataPoint>{{0, 4}, {3, 1}}, L"other");
+    graph.YAxis(0)->SetSelected(TRUE);
+    ASSERT_TRUE(graph.SendTrend(0, vantoplex::Trend::Linear));
+    EXPECT_EQ(graph.CurveCount(), 3);
+    long markers = -1;
+    graph.YAxis(0)->GetAxisMarkerCount(&markers);
+    EXPECT_EQ(markers, 0);
+    EXPECT_FALSE(graph.SendTrend(7, vantoplex::Trend::Linear));
+    graph.Curve(1)->SetVisible(FALSE);
+    EXPECT_FALSE(graph.SendTrend(1, vantoplex::Trend::Cubic));
+    EXPECT_EQ(graph.CurveCount(), 3);
+}
+
+TEST_F(ComfortTest, AVisibleChartIsWrittenAsAPngFile)
+{
+    vantoplex::Graph graph = MakeGraph();
+    graph.Plot(m_points);
+    const std::wstring file = FolderOfTests() + L"comfort-test.png";
+    DeleteFileW(file.c_str());
+    ASSERT_TRUE(graph.SavePng(file));
+    const HANDLE read = CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    BYTE head[24] = {};
+    DWORD count = 0;
+    ReadFile(read, head, sizeof head, &count, nullptr);
+    CloseHandle(read);
+    DeleteFileW(file.c_str());
+    RECT client{};
+    GetClientRect(graph.Window(), &client);
+    EXPECT_EQ(std::string(head + 1, head + 4), "PNG");
+    EXPECT_EQ(head[18] * 256 + head[19], client.right);
+    EXPECT_EQ(head[22] * 256 + head[23], client.bottom);
+
+    ShowWindow(m_parent, SW_HIDE);
+    EXPECT_FALSE(graph.SavePng(file));
+    EXPECT_EQ(GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST_F(ComfortTest, TheBusinessChartRefusesNumbersOutsideItsLists)
 {
     vantoplex::BusinessChart chart(m_parent, VPX_CHART_BAR, nullptr, 2, &m_library);
