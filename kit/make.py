@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """make.py            makes what the kit generates and the tree keeps: the constants inside
-                   Vantoplex.idl, kit/languages/, docs/reference/
+                   Vantoplex.idl, kit/languages/, docs/reference/, docs/recipes/
 make.py check      names what is stale or undocumented; exit code 1 if anything is
 make.py header WIDL_HEADER OUTPUT
                    the header for hosts from the one that widl made
@@ -17,6 +17,7 @@ import constants
 import header
 import idl
 import languages
+import recipes
 import reference
 import typelib
 
@@ -34,6 +35,8 @@ def outputs():
                   for name, body in languages.files(library, groups).items()})
     files.update({ROOT / "docs" / "reference" / name: body
                   for name, body in reference.files(library, groups).items()})
+    files.update({ROOT / "docs" / "recipes" / name: body
+                  for name, body in recipes.files(ROOT / "hosts" / "recipes").items()})
     return library, files
 
 
@@ -52,9 +55,9 @@ def check():
     faults += [f"undocumented: {e.name}.{v.name}" for e in library.enumerations for v in e.values if not v.text]
     faults += [f"stale, run kit/make.py: {path.relative_to(ROOT)}" for path, text in files.items()
                if not path.exists() or path.read_text() != text]
-    for folder in (ROOT / "kit" / "languages", ROOT / "docs" / "reference"):
+    for folder in (ROOT / "kit" / "languages", ROOT / "docs" / "reference", ROOT / "docs" / "recipes"):
         faults += [f"made by nobody: {path.relative_to(ROOT)}" for path in folder.glob("*")
-                   if path not in files and path.name not in reference.WRITTEN_BY_HAND]
+                   if path not in files and path.name not in reference.WRITTEN_BY_HAND and path.suffix != ".png"]
     print("\n".join(faults) or "the kit is whole")
     return 1 if faults else 0
 

@@ -97,6 +97,8 @@ def fill(stage, build, release, record):
     copy(build / "typelib" / "Vantoplex.tlb", stage / "typelib" / "Vantoplex.tlb")
     copy(ROOT / "src" / "resources" / "Vantoplex.idl", stage / "typelib" / "Vantoplex.idl")
     copy_folder(ROOT / "docs", stage / "docs")
+    copy_folder(ROOT / "hosts" / "recipes", stage / "recipes", "*.cpp")
+    copy(ROOT / "hosts" / "recipes" / "recipe.h", stage / "recipes" / "recipe.h")
     copy(ROOT / "CHANGELOG.md", stage / "CHANGELOG.md")
     copy(ROOT / "LICENSE", stage / "LICENSE.txt")
     readme = (ROOT / "packaging" / "README.md").read_text()

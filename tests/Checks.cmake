@@ -100,3 +100,9 @@ foreach(case reproducible installs refusals)
     ${CMAKE_CURRENT_SOURCE_DIR}/package/package-test.sh ${CMAKE_BINARY_DIR} $<TARGET_FILE:vantoplex-package-host> ${case})
   set_tests_properties(package-${case} PROPERTIES TIMEOUT 300)
 endforeach()
+
+# Every recipe draws the picture of its page.
+add_test(NAME recipes-draw-their-pictures COMMAND ${CMAKE_COMMAND} -E env VANTOPLEX_BUILD=${CMAKE_BINARY_DIR}/..
+  ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/recipes/check_recipes.py ${PROJECT_SOURCE_DIR}
+  $<TARGET_FILE:vantoplex-recipes> ${CMAKE_BINARY_DIR}/recipes)
+set_tests_properties(recipes-draw-their-pictures PROPERTIES TIMEOUT 300)
