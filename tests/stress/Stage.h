@@ -1,0 +1,41 @@
+#pragma once
+// Two windows of a host and the charts in them. A step makes, releases or bereaves a chart, or
+// lets one act; the host calls back from its message loop and from every modal loop.
+
+#include "Actor.h"
+
+#include "net/Dialogs.h"
+
+#include <array>
+#include <memory>
+
+class Stage
+{
+public:
+    Stage(const Server& server, Log& log);
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage();
+
+    // Depends on the seed, the step's number and what the stage holds.
+    void Step(std::uint64_t seed, int nStep);
+
+private:
+    void Make(Random& random, std::size_t nActor);
+    void Bereave(Random& random);
+    void Pump();
+    void CallBack();
+    static void CALLBACK OnTimer(HWND hWnd, UINT message, UINT_PTR nTimer, DWORD nTime);
+
+    static Stage* s_pCurrent;
+
+    const Server& m_server;
+    Log& m_log;
+    Dialogs m_dialogs;
+    std::array<std::unique_ptr<HostWindow>, 2> m_hosts;
+    std::array<std::unique_ptr<Actor>, 4> m_actors;
+    std::array<std::size_t, 4> m_hostOf = {};
+    Random m_callBacks{0, 0};
+    bool m_bInside = false; // a call back makes no further one
+    UINT_PTR m_nTimer;
+};
