@@ -79,11 +79,11 @@ void GraphActor::Plot(Random& random, Log& log)
     const int nY = random.Int(0, std::min(Count(&ISGraph::GetYAxisCount), mostAxes - 1));
     if (nCurve >= mostCurves)
         return;
-    m_lent.push_back(Points(random));
+    s_lent.push_back(Points(random));
     const int bOwned = random.Int(0, 1);
     log.Say("SetData of %llu points, curve %d, axes %d %d, owned %d",
-            static_cast<unsigned long long>(m_lent.back().size()), nCurve, nX, nY, bOwned);
-    m_graph->SetData(nullptr, m_lent.back().data(), static_cast<long>(m_lent.back().size()), nCurve, nX,
+            static_cast<unsigned long long>(s_lent.back().size()), nCurve, nX, nY, bOwned);
+    m_graph->SetData(nullptr, s_lent.back().data(), static_cast<long>(s_lent.back().size()), nCurve, nX,
                      nY, bOwned);
     m_xOf.resize(static_cast<std::size_t>(nCurve));
     m_xOf.push_back(nX);
@@ -96,10 +96,10 @@ void GraphActor::Replace(Random& random, Log& log)
     if (Curves() == 0)
         return;
     const int nCurve = random.Int(0, Curves() - 1);
-    m_lent.push_back(Points(random));
+    s_lent.push_back(Points(random));
     log.Say("SetData replaces curve %d by %llu points", nCurve,
-            static_cast<unsigned long long>(m_lent.back().size()));
-    m_graph->SetData(nullptr, m_lent.back().data(), static_cast<long>(m_lent.back().size()), nCurve, 0,
+            static_cast<unsigned long long>(s_lent.back().size()));
+    m_graph->SetData(nullptr, s_lent.back().data(), static_cast<long>(s_lent.back().size()), nCurve, 0,
                      0, 0);
     m_xOf[static_cast<std::size_t>(nCurve)] = 0;
 }

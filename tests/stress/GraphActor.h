@@ -58,7 +58,8 @@ private:
     const Server& m_server;
     Holder<ISGraph> m_graph;
     HWND m_hWnd = nullptr;
-    std::deque<std::vector<TDataPoint>> m_lent; // arrays of the host, alive to the end
+    // Arrays of the host. They outlive all graphs: a window paints on when its object is released.
+    inline static std::deque<std::vector<TDataPoint>> s_lent;
     std::vector<int> m_xOf;                     // X axis of each curve
     bool m_bHadCursor = false;
 };
