@@ -50,7 +50,7 @@ def python(library, groups):
 
 
 def rust(library, groups):
-    out = [f"//! {NOTE}", "#![allow(non_upper_case_globals)]", ""]
+    out = [f"//! {NOTE}", "#![allow(non_snake_case, non_upper_case_globals)]", ""]
     for group in all_groups(library, groups):
         out += [f"// {group.name}: {group.comment}"]
         for v in group.values:

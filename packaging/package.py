@@ -64,6 +64,18 @@ def copy_folder(source, target, pattern="*"):
             copy(file, target / file.relative_to(source))
 
 
+def copy_samples(stage):
+    """The samples, with the paths that they mention as they are in the package."""
+    for file in sorted((ROOT / "hosts" / "samples").glob("*.*")):
+        text = file.read_text()
+        for ours, theirs in (("../../kit/", "../"), ("../../docs/", "../docs/"), ("kit/languages", "languages"),
+                             ("hosts/samples/", "samples/")):
+            text = text.replace(ours, theirs)
+        target = stage / "samples" / file.name
+        target.parent.mkdir(exist_ok=True)
+        target.write_text(text)
+
+
 def split_programs(build, stage, symbols, tools):
     """The programs without their debug information, and that apart: it names folders of the build,
     and a link to it would hold its sum."""
@@ -99,6 +111,7 @@ def fill(stage, build, release, record):
     copy_folder(ROOT / "docs", stage / "docs")
     copy_folder(ROOT / "hosts" / "recipes", stage / "recipes", "*.cpp")
     copy(ROOT / "hosts" / "recipes" / "recipe.h", stage / "recipes" / "recipe.h")
+    copy_samples(stage)
     copy(ROOT / "CHANGELOG.md", stage / "CHANGELOG.md")
     copy(ROOT / "LICENSE", stage / "LICENSE.txt")
     readme = (ROOT / "packaging" / "README.md").read_text()

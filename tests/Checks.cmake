@@ -106,3 +106,8 @@ add_test(NAME recipes-draw-their-pictures COMMAND ${CMAKE_COMMAND} -E env VANTOP
   ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/recipes/check_recipes.py ${PROJECT_SOURCE_DIR}
   $<TARGET_FILE:vantoplex-recipes> ${CMAKE_BINARY_DIR}/recipes)
 set_tests_properties(recipes-draw-their-pictures PROPERTIES TIMEOUT 300)
+
+# The samples that need nothing but what is here; scripts/languages.sh runs those of more languages.
+add_test(NAME samples-run COMMAND ${CMAKE_COMMAND} -E env VANTOPLEX_BUILD=${CMAKE_BINARY_DIR}/..
+  ${PROJECT_SOURCE_DIR}/scripts/languages.sh c python jscript)
+set_tests_properties(samples-run PROPERTIES TIMEOUT 300)

@@ -1,5 +1,5 @@
 //! Made from kit/constants.toml and Vantoplex.idl by kit/make.py: do not edit.
-#![allow(non_upper_case_globals)]
+#![allow(non_snake_case, non_upper_case_globals)]
 
 // EAxisType: Scale of an axis.
 /// Logarithmic.
