@@ -45,8 +45,11 @@ public:
     [[nodiscard]] bool KeepsOrder() const noexcept;
 
     [[nodiscard]] bool IsLinearHorizontal() const noexcept { return !m_bLog && !m_bVertical; }
+    [[nodiscard]] bool IsLogHorizontal() const noexcept { return m_bLog && !m_bVertical; }
     [[nodiscard]] double Factor() const noexcept { return m_fFactor; }
     [[nodiscard]] double Start() const noexcept { return m_fMin; }
+    [[nodiscard]] double Span() const noexcept { return m_fSpan; }
+    [[nodiscard]] double Length() const noexcept { return m_fLength; }
     [[nodiscard]] double Origin() const noexcept { return m_fOrigin; }
 
 private:

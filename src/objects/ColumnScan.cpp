@@ -1,5 +1,7 @@
 #include "objects/ColumnScan.h"
 
+#include "objects/WideScan.h"
+
 #include <algorithm>
 #include <bit>
 #include <emmintrin.h>
@@ -33,9 +35,25 @@ std::size_t CColumnScan::FirstOutside(std::size_t from, TColumns columns) const 
     return index;
 }
 
-// Four points a turn, by the very operations of the mapping. Ends in front of the four that
-// hold the answer.
+// By the very operations of the mapping, several points a turn. Ends at most four in front of the
+// answer.
 std::size_t CColumnScan::FirstOutsideLinear(std::size_t from, TColumns columns) const noexcept
+{
+    // Most runs are shorter than it takes the wide registers to pay.
+    constexpr std::size_t nNear = 32;
+    const std::size_t end = m_points.size();
+    const std::size_t close = from + std::min(nNear, end - from);
+    from = SkipFours(from, close, columns);
+    if (from + 4 <= close)
+        return from;
+    if (WideScan::IsAvailable())
+        from = WideScan::SkipColumns(
+            m_points, from, {m_x.Start(), m_x.Factor(), m_x.Origin(), columns.nFirst, columns.nLast});
+    return SkipFours(from, end, columns);
+}
+
+// Past the whole fours, up to an end, that lie in the columns.
+std::size_t CColumnScan::SkipFours(std::size_t from, std::size_t to, TColumns columns) const noexcept
 {
     const __m128d start = _mm_set1_pd(m_x.Start());
     const __m128d factor = _mm_set1_pd(m_x.Factor());
@@ -47,7 +65,7 @@ std::size_t CColumnScan::FirstOutsideLinear(std::size_t from, TColumns columns) 
             _mm_unpacklo_pd(_mm_loadu_pd(&pair[0].fXVal), _mm_loadu_pd(&pair[1].fXVal));
         return _mm_cvttpd_epi32(_mm_add_pd(_mm_mul_pd(factor, _mm_sub_pd(values, start)), origin));
     };
-    for (; from + 4 <= m_points.size(); from += 4) {
+    for (; from + 4 <= to; from += 4) {
         const TDataPoint* four = &m_points[from];
         const __m128i column = _mm_unpacklo_epi64(pixels(four), pixels(four + 2));
         const __m128i outside =

@@ -38,6 +38,8 @@ public:
 
 private:
     [[nodiscard]] std::size_t FirstOutsideLinear(std::size_t from, TColumns columns) const noexcept;
+    [[nodiscard]] std::size_t SkipFours(std::size_t from, std::size_t to,
+                                        TColumns columns) const noexcept;
 
     std::span<const TDataPoint> m_points;
     const AxisMapping::CMapper& m_x;

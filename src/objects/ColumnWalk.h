@@ -7,10 +7,12 @@
 //
 // WalkVisibleSegments visits the same segments in the same order but leaves out those that
 // lie wholly left or wholly right of the columns of interest. What it leaves out it doesn't
-// map; in ascending points it finds each column's first point by search.
+// map; in ascending points it finds each column's first point by search, and on a logarithmic scale
+// it maps few.
 
 #include "base/Geometry.h"
 #include "objects/ColumnScan.h"
+#include "objects/LogColumns.h"
 
 namespace ColumnWalk
 {
@@ -85,6 +87,9 @@ template <class Visit> TEnds WalkVisibleSegments(const TCurve& curve, TColumns v
 {
     const TPoint first = curve.PixelAt(0);
     const std::size_t count = curve.points.size();
+    if (curve.x.IsLogHorizontal())
+        return {first, Details::Walk(curve, CLogColumns(curve.points, curve.x, curve.bAscending), count,
+                                     visible, visit)};
     if (!curve.bAscending || !curve.x.KeepsOrder())
         return {first, Details::Walk(curve, CColumnScan(curve.points, curve.x), count, visible, visit)};
 

@@ -1,10 +1,12 @@
 #include "objects/IndexSearch.h"
 
 #include "base/Trunc.h"
+#include "objects/WideScan.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 namespace IndexSearch
 {
@@ -40,12 +42,18 @@ int FindIndexForX(std::span<const TDataPoint> points, double x) noexcept
     int index = GuessIndex(points, x);
     if (points[index].fXVal > x) {
         const auto isPast = [x](double value) { return value > x; };
+        if (WideScan::IsAvailable())
+            index =
+                static_cast<int>(WideScan::SkipDownAbove(points, static_cast<std::size_t>(index), x));
         while (index >= Block && HoldsInBlock(&points[index - Block + 1], isPast))
             index -= Block;
         while (index > 0 && isPast(points[index].fXVal))
             --index;
     } else {
         const auto isNotPast = [x](double value) { return x >= value; };
+        if (WideScan::IsAvailable())
+            index = static_cast<int>(WideScan::SkipWithin(points, static_cast<std::size_t>(index),
+                                                          -std::numeric_limits<double>::infinity(), x));
         while (count - index >= Block && HoldsInBlock(&points[index], isNotPast))
             index += Block;
         while (index < count && isNotPast(points[index].fXVal))

@@ -208,4 +208,105 @@ TEST(ColumnWalk, AnyColumnsOfInterestEqualThePlainWalk)
         walker.ExpectSame(visible);
 }
 
+constexpr TScale kLogScale{.fMin = 0.01, .fMax = 1000, .nLength = 400, .nOrigin = 100, .bLog = true};
+
+// Even on the screen, so that each column has as many points.
+std::vector<TDataPoint> GrowingPoints(int count, double from, double factor)
+{
+    std::vector<TDataPoint> points;
+    for (int i = 0; i < count; ++i, from *= factor)
+        points.push_back({from, 0.5 + 0.4 * std::sin(i * 0.7)});
+    return points;
+}
+
+TEST(ColumnWalk, LogarithmicCurvesEqualThePlainWalk)
+{
+    for (const double factor : {1.00001, 1.0007, 1.01, 1.3, 9.0})
+        CWalker(GrowingPoints(20000, 1e-4, factor), kLogScale).ExpectSame(kPlot);
+    for (const double step : {1e-4, 0.013, 1.0, 61.0})
+        CWalker(EvenPoints(20000, -200 * step, step), kLogScale).ExpectSame(kPlot);
+}
+
+TEST(ColumnWalk, LogarithmicCurvesOnTheEdgesOfColumnsEqualThePlainWalk)
+{
+    // Every value whose place is a whole pixel, and its neighbours to both sides.
+    std::vector<TDataPoint> points;
+    for (int pixel = -40; pixel <= 440; ++pixel) {
+        double value = std::pow(10.0, -2 + pixel / 400.0 * 5);
+        for (int i = 0; i < 20; ++i)
+            value = std::nextafter(value, 0.0);
+        for (int i = 0; i < 41; ++i, value = std::nextafter(value, kInfinity))
+            points.push_back({value, 0.001 * i});
+    }
+    const CWalker walker(points, kLogScale);
+    for (const TColumns visible : {kPlot, TColumns{INT32_MIN, INT32_MAX}, TColumns{-5, 3},
+                                   TColumns{200, 200}, TColumns{INT32_MIN, 99}})
+        walker.ExpectSame(visible);
+}
+
+TEST(ColumnWalk, ZoomedAndShiftedLogarithmicCurvesEqualThePlainWalk)
+{
+    const auto points = GrowingPoints(30000, 1e-3, 1.0005);
+    for (const int origin : {-700, -1, 0, 1, 100}) {
+        for (const double high : {0.011, 0.02, 1.0, 1e9, 1e300})
+            CWalker(points,
+                    {.fMin = 0.01, .fMax = high, .nLength = 400, .nOrigin = origin, .bLog = true})
+                .ExpectSame({origin, origin + 400});
+    }
+}
+
+TEST(ColumnWalk, RandomLogarithmicCurvesEqualThePlainWalk)
+{
+    std::mt19937 random(12);
+    const double specials[] = {kInfinity, -kInfinity, std::nan(""), 1e308, -1.0, 5e-324, 0.0, -0.0};
+    for (int round = 0; round < 3000; ++round) {
+        std::vector<TDataPoint> points(1 + random() % 300);
+        const double spread = 1 + random() % 6;
+        for (TDataPoint& point : points) {
+            point.fXVal = std::pow(10.0, (random() % 2001 / 1000.0 - 1) * spread);
+            if (random() % 3 == 0)
+                point.fXVal = 1 + random() % 3; // many alike
+            point.fYVal = random() % 1001 / 1000.0;
+            if (random() % 50 == 0)
+                point.fXVal = specials[random() % 8];
+        }
+        if (round % 2 == 0)
+            std::sort(points.begin(), points.end(),
+                      [](const TDataPoint& a, const TDataPoint& b) { return a.fXVal < b.fXVal; });
+        CWalker(points, kLogScale).ExpectSame(kPlot);
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST(ColumnWalk, ABandHoldsOnlyValuesOfItsColumns)
+{
+    std::mt19937 random(7);
+    for (int round = 0; round < 20000; ++round) {
+        const TScale scale{.fMin = std::pow(10.0, static_cast<int>(random() % 600) - 300.0),
+                           .fMax = std::pow(10.0, static_cast<int>(random() % 600) - 300.0),
+                           .nLength = static_cast<std::int32_t>(random() % 3000),
+                           .nOrigin = static_cast<std::int32_t>(random() % 200) - 100,
+                           .bLog = true};
+        const CMapper x(scale);
+        const auto first = static_cast<std::int32_t>(random() % 1000) - 300;
+        const TColumns columns{random() % 5 == 0 ? INT32_MIN : first,
+                               random() % 5 == 0 ? INT32_MAX : first + static_cast<int>(random() % 3)};
+        const ColumnWalk::TBand band = ColumnWalk::SureBand(x, columns);
+        if (!(band.fLow <= band.fHigh))
+            continue;
+        const double low = std::isfinite(band.fLow) ? band.fLow : -5.0;
+        for (const double value : {low, std::nextafter(low, kInfinity), low / 2 + band.fHigh / 2,
+                                   std::nextafter(band.fHigh, 0.0), band.fHigh}) {
+            ASSERT_TRUE(columns.Contains(x.Pixel(value))) << value << " on " << x.Pixel(value) << " of "
+                                                          << columns.nFirst << " to " << columns.nLast;
+        }
+    }
+    // Wide enough to be of use: most of a column.
+    const CMapper x(kLogScale);
+    const ColumnWalk::TBand band = ColumnWalk::SureBand(x, {300, 300});
+    EXPECT_NEAR(x.Place(band.fLow), 300, 1e-6);
+    EXPECT_NEAR(x.Place(band.fHigh), 301, 1e-6);
+}
+
 } // namespace
