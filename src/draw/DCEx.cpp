@@ -100,6 +100,16 @@ void CDCEx::InitScale(HDC hTarget)
     m_bScaleReady = true;
 }
 
+void CDCEx::TakeScreen(const CBitmap& buffer)
+{
+    BITMAP look = {};
+    if (::GetObject(buffer.GetSafeHandle(), sizeof look, &look) == 0 || look.bmBitsPixel <= 8)
+        return;
+    m_fScaleX = m_fScaleY = 1.0f;
+    m_bMono = false;
+    m_bScaleReady = m_bScreen = true;
+}
+
 void CDCEx::NeedScale()
 {
     if (!m_bScaleReady)

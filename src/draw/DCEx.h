@@ -29,6 +29,11 @@ public:
     // Takes the factors between the screen of the thread's main window (of the desktop, if
     // there is none) and the target, and m_bMono from the target.
     void InitScale(HDC hTarget);
+    // What InitScale finds for a buffer of the screen of more than 256 colours, without asking: the
+    // answers cost as much as a hundred lines. Of any other buffer they are asked as ever.
+    void TakeScreen(const CBitmap& buffer);
+    // Whether TakeScreen knew the buffer and nothing scales: text then has its size on the screen.
+    [[nodiscard]] bool IsScreen() const noexcept { return m_bScreen && !m_bScaling; }
     // InitScale on the own handle, unless it has run.
     void NeedScale();
     void ScalePoint(int& x, int& y);
@@ -74,6 +79,7 @@ private:
                                     UINT nFormat) const;
     [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;
 
+    bool m_bScreen = false;
     // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.
     CPoint m_ptUnscaledPen;
 };

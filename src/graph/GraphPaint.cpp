@@ -44,18 +44,6 @@ COLORREF Shade(const CDCEx* pDC, COLORREF color)
     return pDC->m_bMono ? kWhite : color;
 }
 
-// What InitScale finds for a buffer of the screen of more than 256 colours, without asking: the
-// answers cost as much as a hundred lines. Of any other buffer they are asked as ever.
-void TakeScreen(CDCEx& dc, const CBitmap& buffer)
-{
-    BITMAP look = {};
-    if (::GetObject(buffer.GetSafeHandle(), sizeof look, &look) == 0 || look.bmBitsPixel <= 8)
-        return;
-    dc.m_fScaleX = dc.m_fScaleY = 1.0f;
-    dc.m_bMono = false;
-    dc.m_bScaleReady = true;
-}
-
 // Fills a rectangle, but for the part that the caller fills right after where that lies wholly
 // inside: big fills are what a frame costs most.
 void FillAround(CDCEx* pDC, const CRect& outer, const CRect& inner, COLORREF color)
@@ -125,7 +113,7 @@ void CXGraph::OnPaint()
         buffer.emplace(&dcPaint, 0, false); // the frame covers all of it
     AttachedCanvas canvas(buffer ? buffer->GetSafeHdc() : dcPaint.GetSafeHdc());
     if (buffer)
-        TakeScreen(canvas.m_dc, buffer->m_Bitmap);
+        canvas.m_dc.TakeScreen(buffer->m_Bitmap);
     PaintFrame(&canvas.m_dc);
 }
 

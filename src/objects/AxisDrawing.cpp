@@ -10,6 +10,8 @@
 namespace
 {
 
+constexpr std::size_t kUsualTicks = 64;
+
 // Pixels between ticks along the axis; no ticks at all where the step is none.
 double PlaceStep(const CXGraphAxis& axis, int nFarEnd)
 {
@@ -47,6 +49,7 @@ std::vector<TTick> LinearTicks(const CXGraphAxis& axis, double fPlaceStep)
                                .fPlaceStep = bVertical ? -fPlaceStep : fPlaceStep,
                                .bIncludeEnd = bVertical};
     std::vector<TTick> ticks;
+    ticks.reserve(kUsualTicks);
     TickWalk::Walk(walk, [&](double fValue, double fPlace) { ticks.push_back({fValue, fPlace}); });
     return ticks;
 }
@@ -55,6 +58,7 @@ std::vector<TTick> LogTicks(const CXGraphAxis& axis)
 {
     const AxisMapping::CMapper mapper(axis.GetScale(true));
     std::vector<TTick> ticks;
+    ticks.reserve(kUsualTicks);
     LogDecades::WalkTicks(axis.m_fCurMin, axis.m_fCurMax, [&](double fValue, bool bDecade) {
         ticks.push_back({fValue, static_cast<double>(mapper.Pixel(fValue)), bDecade});
     });

@@ -10,29 +10,57 @@
 #include "objects/DateTimeSteps.h"
 #include "objects/LogDecades.h"
 #include "objects/PlotHost.h"
+#include "objects/TickLabels.h"
 #include "objects/TickSteps.h"
 
 #include <algorithm>
 
+CKeptLabels* CXGraphAxis::KeptLabels(const CDCEx* pDC)
+{
+    LOGFONTW look = {};
+    if (!pDC->IsScreen() || m_LabelFont.GetLogFont(&look) == 0)
+        return nullptr;
+    m_KeptLabels.Follow(look, m_cDisplayFmt, m_bDateTime);
+    return &m_KeptLabels;
+}
+
+CSize CXGraphAxis::GetLabelSize(CDCEx* pDC, double fValue)
+{
+    CKeptLabels* const kept = KeptLabels(pDC);
+    if (const CKeptLabels::Label known = kept ? kept->Find(fValue) : nullptr)
+        return known->size;
+    const CFontSelector font(&m_LabelFont, pDC, false);
+    const CTickLabels::Made made = CTickLabels::Make(LabelText(fValue), fValue);
+    made->size = pDC->GetTextExtent(made->cText);
+    if (kept)
+        kept->Keep(made);
+    return made->size;
+}
+
 int CXGraphAxis::GetMaxLabelWidth(CDCEx* pDC)
 {
-    const CFontSelector font(&m_LabelFont, pDC, false);
-    const int nLower = pDC->GetTextExtent(LabelText(m_fCurMin)).cx;
-    const int nUpper = pDC->GetTextExtent(LabelText(m_fCurMax)).cx;
+    const int nLower = GetLabelSize(pDC, m_fCurMin).cx;
+    const int nUpper = GetLabelSize(pDC, m_fCurMax).cx;
     return Wrap::Add(std::max(nLower, nUpper), m_nTickSize);
 }
 
 int CXGraphAxis::GetLabelHeight(CDCEx* pDC)
 {
     // Of the whole range's bound, where the width takes the visible ones.
-    const CFontSelector font(&m_LabelFont, pDC, false);
-    return Wrap::Add(pDC->GetTextExtent(LabelText(m_fMin)).cy, m_nTickSize);
+    return Wrap::Add(GetLabelSize(pDC, m_fMin).cy, m_nTickSize);
 }
 
 CSize CXGraphAxis::GetTitleSize(CDCEx* pDC)
 {
+    LOGFONTW look = {};
+    const bool bKeep = pDC->IsScreen() && m_TitleFont.GetLogFont(&look) != 0;
+    if (const CSize* known = bKeep ? m_KeptTitle.Find(look, m_cLabel) : nullptr)
+        return *known;
     const CFontSelector font(&m_TitleFont, pDC, false);
-    return pDC->GetTextExtent(m_cLabel);
+    const CSize size = pDC->GetTextExtent(m_cLabel);
+    if (bKeep)
+        m_KeptTitle.Keep(look, m_cLabel, size);
+    return size;
 }
 
 int CXGraphAxis::RoomForTicks() const

@@ -172,8 +172,10 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
                            [&](std::span<const TPoint> points) { DrawPolyline(pDC, points, bJoin); });
     CChain chain(polygon, reach);
 
-    if (m_bFillBeneath)
+    if (m_bFillBeneath) {
+        polygon.reserve(lines.kUsualPoints);
         chain.Append(curve.PixelAt(0));
+    }
     if (m_nType == gtScatter)
         DrawDot(pDC, reach, curve.PixelAt(0), LineSize());
     const auto ends = WalkVisibleSegments(curve, {reach.left, reach.right}, [&](TPoint from, TPoint to) {

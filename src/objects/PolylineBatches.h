@@ -14,9 +14,13 @@ template <class Emit> class CPolylineBatches
 {
 public:
     static constexpr std::size_t kMostPoints = 16384;
+    static constexpr std::size_t kUsualPoints = 1024; // about one a column
 
     // `reach` is the plot, grown by what a pen adds to a line; its edges are part of it.
-    CPolylineBatches(TRect reach, Emit emit) : m_reach(reach), m_emit(std::move(emit)) {}
+    CPolylineBatches(TRect reach, Emit emit) : m_reach(reach), m_emit(std::move(emit))
+    {
+        m_points.reserve(kUsualPoints);
+    }
 
     void Add(TPoint from, TPoint to)
     {

@@ -58,9 +58,18 @@ double LargestGlyph(HDC hDC) noexcept
 
 } // namespace
 
+CTickLabels::Made CTickLabels::Make(CString cText, double fValue)
+{
+    auto made = std::make_shared<TAxisLabel>();
+    made->fValue = fValue;
+    made->strShape = ShapeOf(cText);
+    made->cText = std::move(cText);
+    return made;
+}
+
 CTickLabels::CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat)
     : m_axis(axis), m_pDC(pDC), m_nFormat(nFormat), m_font(&axis.m_LabelFont, pDC, true),
-      m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible())
+      m_kept(axis.KeptLabels(pDC)), m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible())
 {
 }
 
@@ -104,12 +113,10 @@ void CTickLabels::Pile(double fValue, const Place& place)
     if (!MayShow(place(CSize()).TopLeft()))
         return;
     TLabel label;
-    label.cText = m_axis.LabelText(m_cFormat, fValue);
-    label.strShape = ShapeOf(label.cText);
-    label.size = Measure(label.cText, label.strShape);
-    label.rect = place(label.size);
+    label.label = LabelOf(fValue);
+    label.rect = place(label.label->size);
     // The line under a letter may lie below the rectangle.
-    if (!m_visible.Meets(label.rect, label.size.cy))
+    if (!m_visible.Meets(label.rect, label.label->size.cy))
         return;
     while (!m_pile.empty() && Covers(label, m_pile.back()))
         m_pile.pop_back();
@@ -118,10 +125,21 @@ void CTickLabels::Pile(double fValue, const Place& place)
     m_pile.push_back(std::move(label));
 }
 
+CKeptLabels::Label CTickLabels::LabelOf(double fValue)
+{
+    if (CKeptLabels::Label known = m_kept ? m_kept->Find(fValue) : nullptr)
+        return known;
+    const Made made = Make(m_axis.LabelText(m_cFormat, fValue), fValue);
+    made->size = Measure(made->cText, made->strShape);
+    if (m_kept)
+        m_kept->Keep(made);
+    return made;
+}
+
 void CTickLabels::Draw()
 {
     for (TLabel& label : m_pile)
-        m_pDC->DrawText(label.cText, &label.rect, m_nFormat);
+        m_pDC->DrawText(label.label->cText, &label.rect, m_nFormat);
     m_pile.clear();
 }
 
@@ -149,10 +167,13 @@ bool CTickLabels::Covers(const TLabel& later, const TLabel& earlier)
 {
     if (!IsUpright())
         return false;
-    if (later.rect == earlier.rect && later.strShape == earlier.strShape && HasDigitsInside())
+    const std::wstring& strLater = later.label->strShape;
+    const std::wstring& strEarlier = earlier.label->strShape;
+    if (later.rect == earlier.rect && strLater == strEarlier && HasDigitsInside())
         return true;
-    return !m_pDC->m_bScaling && IsPlain(later.strShape) && IsPlain(earlier.strShape) &&
-           later.rect.Width() <= later.size.cx && later.rect.Height() <= later.size.cy &&
+    const CSize size = later.label->size;
+    return !m_pDC->m_bScaling && IsPlain(strLater) && IsPlain(strEarlier) &&
+           later.rect.Width() <= size.cx && later.rect.Height() <= size.cy &&
            later.rect.left <= earlier.rect.left && later.rect.top <= earlier.rect.top &&
            later.rect.right >= earlier.rect.right && later.rect.bottom >= earlier.rect.bottom;
 }

@@ -6,9 +6,11 @@
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "draw/VisibleArea.h"
+#include "objects/KeptLabels.h"
 #include "objects/XGraphAxis.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +20,10 @@ class CTickLabels
 public:
     // Gives the rectangle, in screen units, of a label of a size.
     using Place = std::function<CRect(CSize)>;
+
+    // A label with its text, its size still to be measured.
+    using Made = std::shared_ptr<TAxisLabel>;
+    [[nodiscard]] static Made Make(CString cText, double fValue);
 
     // The axis's label font is selected, scaled, as long as this lives.
     CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat);
@@ -34,13 +40,12 @@ private:
         CSize size;
     };
     struct TLabel {
-        CString cText;
-        std::wstring strShape;
-        CSize size;
+        CKeptLabels::Label label;
         CRect rect;
     };
 
     [[nodiscard]] bool MayShow(CPoint place);
+    [[nodiscard]] CKeptLabels::Label LabelOf(double fValue);
     [[nodiscard]] CSize Measure(const CString& cText, const std::wstring& strShape);
     [[nodiscard]] bool Covers(const TLabel& later, const TLabel& earlier);
     [[nodiscard]] bool IsUpright();
@@ -51,6 +56,7 @@ private:
     CDCEx* m_pDC;
     UINT m_nFormat;
     CFontSelector m_font;
+    CKeptLabels* m_kept;    // the axis's own, if the canvas is one to keep them for
     CString m_cFormat;      // m_cDisplayFmt, as far as it can show
     TVisibleArea m_visible; // in screen units
     // Asked of the platform when first needed, which in most frames is never.

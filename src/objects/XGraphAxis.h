@@ -14,6 +14,7 @@
 #include "framework/windowing/GdiObjects.h"
 #include "framework/windowing/Strings.h"
 #include "objects/AxisMapping.h"
+#include "objects/KeptLabels.h"
 #include "objects/XGraphObject.h"
 
 enum EAxisKind : int { akXAxis = 0, akYAxis = 1 };
@@ -107,6 +108,9 @@ public:
     int GetMaxLabelWidth(CDCEx* pDC); // of the labels at the visible bounds, plus m_nTickSize
     int GetLabelHeight(CDCEx* pDC);   // of the label at m_fMin, plus m_nTickSize
     CSize GetTitleSize(CDCEx* pDC);
+    // The labels that this axis keeps for a buffer of the screen, fit for its present font and format;
+    // null for any other canvas, which measures for itself.
+    CKeptLabels* KeptLabels(const CDCEx* pDC);
     [[nodiscard]] CString FormatValue(double fValue) const;
     // The text of a tick label: that of the value, as far as any screen could show it.
     [[nodiscard]] CString LabelText(double fValue) const { return LabelText(m_cDisplayFmt, fValue); }
@@ -148,6 +152,7 @@ protected:
     CPoint MapPoint(const TDataPoint& point, bool bLog);
 
 private:
+    CSize GetLabelSize(CDCEx* pDC, double fValue);
     void CopyFields(const CXGraphAxis& other);
     void WidenBounds(double& fMin, double& fMax) const;
     void ComputeStep();
@@ -156,4 +161,7 @@ private:
     void DrawAxisMarker(CDCEx* pDC, const TAxisMarker& marker, int nPixel);
     void Store(CArchive& ar) const;
     void Load(CArchive& ar);
+
+    CKeptLabels m_KeptLabels; // neither of them is copied
+    CKeptTitle m_KeptTitle;
 };

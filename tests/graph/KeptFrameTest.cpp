@@ -1,0 +1,176 @@
+// What is kept between frames changes no pixel: random graphs are painted by what an earlier frame
+// left, once more by the same, from nothing, and straight to the window, where nothing is kept; and
+// points are found on the screen by search, by scan, and one by one.
+
+#include "GraphHost.h"
+#include "support/CountedMemory.h"
+#include "support/ImportSlot.h"
+
+#include <cmath>
+#include <random>
+
+extern "C" decltype(&::GetTextExtentPoint32W) __imp_GetTextExtentPoint32W;
+
+namespace
+{
+
+int s_measured = 0;
+decltype(&::GetTextExtentPoint32W) s_measure = nullptr;
+
+BOOL WINAPI CountedExtent(HDC hDC, LPCWSTR text, int nLength, LPSIZE size)
+{
+    ++s_measured;
+    return s_measure(hDC, text, nLength, size);
+}
+
+class KeptFrame : public GraphTest
+{
+protected:
+    KeptFrame()
+    {
+        for (int i = 0; i < 3000; ++i)
+            m_points.push_back({0.01 + i * i * 1e-6, 5 + 4 * std::sin(i * 0.01)});
+        for (int i = 0; i < 3; ++i)
+            graph.SetData(m_points.data(), static_cast<long>(m_points.size()), i, i % 2, i % 2, i != 1);
+        graph.m_Curves[2].m_bFillBeneath = true;
+        graph.m_Curves[2].m_nFillCurve = CXGraphDataSerie::kFillToBottom;
+    }
+    template <class Value> Value OneOf(std::initializer_list<Value> values)
+    {
+        return values.begin()[m_random() % values.size()];
+    }
+    double Share() { return (m_random() % 1001) / 1000.0; }
+    bool Sometimes() { return m_random() % 4 == 0; }
+
+    // A few settings of an axis, such as hosts and users change between two frames.
+    void Change(CXGraphAxis& axis)
+    {
+        axis.m_cDisplayFmt = OneOf({L"%5.1f", L"%g", L"%.3e", L"%08.2f", L"x", L"%d.%m. %H:%M"});
+        axis.m_bDateTime = Sometimes();
+        axis.m_AxisType = Sometimes() ? atLog : atLinear;
+        axis.m_cLabel = OneOf({L" ", L"", L"a title", L"two\nlines"});
+        axis.m_bAutoScale = !Sometimes();
+        axis.m_bShowGrid = !Sometimes();
+        axis.m_bShowMarker = !Sometimes();
+        axis.m_bVisible = !Sometimes();
+        axis.m_nTickSize = OneOf({5, 0, 12});
+        LOGFONTW look = {};
+        axis.m_LabelFont.GetLogFont(&look);
+        look.lfHeight = OneOf({13, 13, 9, 22});
+        look.lfWeight = OneOf({400, 700});
+        axis.SetLabelFont(look);
+        look.lfHeight = OneOf({14, 20});
+        axis.SetTitleFont(look);
+        const double fLow = 0.001 + 3 * Share();
+        axis.SetCurrentRange(fLow, fLow + 0.1 + 9 * Share(), Sometimes() ? 0.5 : 0.0);
+    }
+    void Change()
+    {
+        for (CXGraphAxis& axis : graph.m_XAxes)
+            Change(axis);
+        for (CXGraphAxis& axis : graph.m_YAxes)
+            Change(axis);
+        for (CXGraphDataSerie& curve : graph.m_Curves) {
+            curve.m_bShowMarker = Sometimes();
+            curve.m_nMarkerType = OneOf({0, 1, 2});
+            curve.m_nType = Sometimes() ? gtScatter : gtLine;
+            curve.m_nLineSize = OneOf({1, 1, 2, 5});
+            curve.m_nLineStyle = Sometimes() ? PS_DOT : PS_SOLID;
+        }
+        graph.m_bShowLegend = !Sometimes();
+    }
+    // A frame of the axes as they were; painting rounds their ranges.
+    Picture FrameOf(const CCheckedVector<CXGraphAxis>& xAxes, const CCheckedVector<CXGraphAxis>& yAxes)
+    {
+        for (std::size_t i = 0; i < xAxes.size(); ++i)
+            graph.m_XAxes[i] = xAxes[i];
+        for (std::size_t i = 0; i < yAxes.size(); ++i)
+            graph.m_YAxes[i] = yAxes[i];
+        return Shoot();
+    }
+
+    std::vector<TDataPoint> m_points;
+    std::mt19937 m_random{2026};
+};
+
+} // namespace
+
+TEST_F(KeptFrame, RandomGraphsShowNoDifference)
+{
+    for (int round = 0; round < 60; ++round) {
+        Change();
+        const CCheckedVector<CXGraphAxis> xAxes = graph.m_XAxes;
+        const CCheckedVector<CXGraphAxis> yAxes = graph.m_YAxes;
+        const Picture kept = FrameOf(xAxes, yAxes);
+        EXPECT_EQ(FrameOf(xAxes, yAxes).CountDifferences(kept), 0) << "again, round " << round;
+
+        graph.m_bDoubleBuffer = false;
+        EXPECT_EQ(FrameOf(xAxes, yAxes).CountDifferences(kept), 0) << "unbuffered, round " << round;
+        graph.m_bDoubleBuffer = true;
+
+        graph.m_XAxes.clear();
+        graph.m_YAxes.clear();
+        graph.m_XAxes = xAxes;
+        graph.m_YAxes = yAxes;
+        EXPECT_EQ(Shoot().CountDifferences(kept), 0) << "from nothing, round " << round;
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(KeptFrame, ACopyShowsWhatTheCallersArrayShows)
+{
+    for (int round = 0; round < 30; ++round) {
+        Change();
+        const CCheckedVector<CXGraphAxis> xAxes = graph.m_XAxes;
+        const CCheckedVector<CXGraphAxis> yAxes = graph.m_YAxes;
+        const Picture before = FrameOf(xAxes, yAxes);
+        for (CXGraphDataSerie& curve : graph.m_Curves) {
+            if (curve.IsAscending())
+                curve.ReplaceData(m_points.data(), static_cast<int>(m_points.size()), false);
+            else
+                curve.CopyData(m_points.data(), static_cast<int>(m_points.size()));
+        }
+        EXPECT_EQ(FrameOf(xAxes, yAxes).CountDifferences(before), 0) << "round " << round;
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(KeptFrame, ASecondFrameMeasuresNoLabelAgain)
+{
+    graph.m_bShowLegend = false;
+    // Rounding may move a bound by a bit in each frame, and that is another label then.
+    for (CXGraphAxis& axis : graph.m_XAxes) {
+        axis.m_cLabel = L"title";
+        axis.m_bAutoScale = false;
+    }
+    for (CXGraphAxis& axis : graph.m_YAxes)
+        axis.m_bAutoScale = false;
+    Paint();
+    const ImportSlot slot(__imp_GetTextExtentPoint32W, &CountedExtent);
+    s_measure = slot.Original();
+    s_measured = 0;
+    Paint();
+    Paint();
+    EXPECT_EQ(s_measured, 0);
+    graph.m_XAxes[0].m_cDisplayFmt = L"%.4f";
+    Paint();
+    EXPECT_GT(s_measured, 0);
+}
+
+TEST_F(KeptFrame, WhatAFrameTakesFromTheHeapDoesNotGrowWithTheScreenfulOfPoints)
+{
+    const auto taken = [this] {
+        Paint();
+        const CountedMemory memory;
+        Paint();
+        return memory.Calls();
+    };
+    const std::size_t nMany = taken();
+    for (CXGraphDataSerie& curve : graph.m_Curves)
+        curve.CopyData(m_points.data(), 10);
+    const std::size_t nFew = taken();
+    EXPECT_LE(nMany, nFew + 8);
+    EXPECT_LE(nMany, 60u);
+}
