@@ -14,7 +14,7 @@ void __verbose_terminate_handler()
 {
     std::abort();
 }
-}
+} // namespace __gnu_cxx
 
 extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
 
