@@ -65,7 +65,7 @@ static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam
     }
     SysFreeString(file);
     if (message == WM_CHAR && wParam == 'p')
-        graph->SendMessage(WM_COMMAND, 40007, 0); // the graph's print command
+        graph->SendMessage(WM_COMMAND, VPX_COMMAND_PRINT, 0);
     if (message == WM_DESTROY)
         PostQuitMessage(0);
     return DefWindowProcW(window, message, wParam, lParam);

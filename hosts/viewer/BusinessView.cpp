@@ -13,11 +13,11 @@ int NumberOf(ChartKind kind) noexcept
 {
     switch (kind) {
     case ChartKind::Pie:
-        return 1;
+        return VPX_CHART_PIE;
     case ChartKind::Line:
-        return 2;
+        return VPX_CHART_LINE;
     default:
-        return 0;
+        return VPX_CHART_BAR;
     }
 }
 
@@ -50,10 +50,8 @@ void BusinessView::SetLooks(const Options& options)
     Check(m_chart->SetGraphTitleColor(RGB(0x20, 0x30, 0x50)));
     Check(m_chart->SetGraphSubtitleColor(RGB(0x50, 0x60, 0x80)));
     if (options.gradient) {
-        constexpr int gradientFill = 11;
-        constexpr int fromTopToBottom = 21;
-        Check(m_chart->SetGraphFillType(gradientFill));
-        Check(m_chart->SetGradientFillType(fromTopToBottom));
+        Check(m_chart->SetGraphFillType(VPX_BACKGROUND_GRADIENT));
+        Check(m_chart->SetGradientFillType(VPX_GRADIENT_VERTICAL));
         Check(m_chart->SetGraphGradientColors(RGB(0xFF, 0xFF, 0xFF), RGB(0xB8, 0xCC, 0xE8)));
     }
 }
@@ -100,7 +98,8 @@ void BusinessView::AddSlices(const CategoryPlan& plan)
 void BusinessView::Animate(std::u16string_view word)
 {
     const Animation* animation = FindAnimation(m_kind, word);
-    Check(m_chart->SetGraphAnimation(animation ? TRUE : FALSE, animation ? animation->number : 0));
+    Check(m_chart->SetGraphAnimation(animation ? VPX_ANIMATE_ON : VPX_ANIMATE_OFF,
+                                     animation ? animation->number : 0));
     Check(m_chart->Invalidate(TRUE));
 }
 

@@ -16,14 +16,14 @@ GraphControl::GraphControl(ISGraph& graph) : m_graph(graph), m_rounding(Rounding
 bool GraphControl::Send(unsigned command)
 {
     switch (command) {
-    case GraphCommand::LinearTrend:
+    case VPX_COMMAND_LINEAR_TREND:
         return Analyse(Analysis::LinearTrend, 0);
-    case GraphCommand::CubicTrend:
+    case VPX_COMMAND_CUBIC_TREND:
         return Analyse(Analysis::CubicTrend, 0);
-    case GraphCommand::Measure:
+    case VPX_COMMAND_MEASURE:
         m_mayHaveMeasures = true;
         break;
-    case GraphCommand::Cursor:
+    case VPX_COMMAND_CURSOR:
         BindCursor();
         break;
     default:
@@ -31,10 +31,10 @@ bool GraphControl::Send(unsigned command)
     }
     const std::vector<LONG> rounding = Rounding();
     const bool done = m_graph.SendMessage(WM_COMMAND, command, 0) == S_OK;
-    if (command == GraphCommand::Cursor) {
+    if (command == VPX_COMMAND_CURSOR) {
         // It takes the rounding from all axes, as panning does, though it moves none of them.
         SetRounding(rounding);
-    } else if (command == GraphCommand::ResetZoom) {
+    } else if (command == VPX_COMMAND_RESET_ZOOM) {
         SetRounding(m_rounding);
         FitDateLabels();
     }
@@ -134,7 +134,7 @@ int GraphControl::Operation() const
 
 void GraphControl::SetOperation(int operation)
 {
-    if (const unsigned command = GraphCommand::Of(operation); command != 0) {
+    if (const unsigned command = CommandOf(operation); command != 0) {
         Send(command);
     }
 }

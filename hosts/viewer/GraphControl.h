@@ -16,7 +16,7 @@ public:
     // The graph has its axes already.
     explicit GraphControl(ISGraph& graph);
 
-    // One of GraphCommand. Trends work on the curve in question. False if nothing could be done.
+    // One of VpxCommand. Trends work on the curve in question. False if nothing could be done.
     bool Send(unsigned command);
     bool Analyse(Analysis analysis, int parameter);
     // To be called when the view has changed.

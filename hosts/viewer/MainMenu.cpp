@@ -28,24 +28,24 @@ constexpr std::array fileItems = {Item{OpenCsv, L"&Open CSV...\tCtrl+O"},
                                   Item{SaveGraph, L"&Save graph file...\tCtrl+S"},
                                   Item{ExportPng, L"&Export PNG...\tCtrl+E"},
                                   line,
-                                  Item{GraphCommand::Print, L"&Print...\tCtrl+P"},
+                                  Item{VPX_COMMAND_PRINT, L"&Print...\tCtrl+P"},
                                   line,
                                   Item{Exit, L"E&xit"}};
 constexpr std::array editItems = {Item{CopyBitmap, L"&Copy picture\tCtrl+C"},
                                   Item{CopyMetafile, L"Copy as &metafile\tCtrl+Shift+C"},
                                   line,
-                                  Item{GraphCommand::InsertLabel, L"Insert &label"},
+                                  Item{VPX_COMMAND_INSERT_LABEL, L"Insert &label"},
                                   Item{DeleteMeasures, L"&Delete measures"},
-                                  Item{GraphCommand::Properties, L"&Properties..."}};
+                                  Item{VPX_COMMAND_PROPERTIES, L"&Properties..."}};
 constexpr std::array modeItems = {
-    Item{GraphCommand::Select, L"&Select"},   Item{GraphCommand::Zoom, L"&Zoom"},
-    Item{GraphCommand::Pan, L"&Pan"},         Item{GraphCommand::Cursor, L"&Cursor"},
-    Item{GraphCommand::Measure, L"&Measure"}, Item{GraphCommand::Edit, L"&Edit points"}};
-constexpr std::array viewItems = {Item{GraphCommand::ZoomBack, L"Zoom &back"},
-                                  Item{GraphCommand::ResetZoom, L"&Reset zoom"}, line,
+    Item{VPX_COMMAND_SELECT, L"&Select"},   Item{VPX_COMMAND_ZOOM, L"&Zoom"},
+    Item{VPX_COMMAND_PAN, L"&Pan"},         Item{VPX_COMMAND_CURSOR, L"&Cursor"},
+    Item{VPX_COMMAND_MEASURE, L"&Measure"}, Item{VPX_COMMAND_EDIT, L"&Edit points"}};
+constexpr std::array viewItems = {Item{VPX_COMMAND_ZOOM_BACK, L"Zoom &back"},
+                                  Item{VPX_COMMAND_RESET_ZOOM, L"&Reset zoom"}, line,
                                   Item{Legend, L"&Legend"}, Item{Snap, L"Cursor s&naps to curves"}};
-constexpr std::array trendItems = {Item{GraphCommand::LinearTrend, L"&Linear trend"},
-                                   Item{GraphCommand::CubicTrend, L"&Cubic trend"},
+constexpr std::array trendItems = {Item{VPX_COMMAND_LINEAR_TREND, L"&Linear trend"},
+                                   Item{VPX_COMMAND_CUBIC_TREND, L"&Cubic trend"},
                                    Item{FirstDegree, L"Polynomial of degree &2"},
                                    Item{FirstDegree + 1, L"Polynomial of degree &3"},
                                    Item{FirstDegree + 2, L"Polynomial of degree &4"},
@@ -197,11 +197,11 @@ HMENU MakeGraphPopup()
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     Append(menu, std::span(viewItems).first(2));
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-    AppendMenuW(menu, MF_STRING, GraphCommand::InsertLabel, L"&Insert label");
+    AppendMenuW(menu, MF_STRING, VPX_COMMAND_INSERT_LABEL, L"&Insert label");
     AppendPopup(menu, MakeAnalysisMenu(), L"&Analysis");
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-    AppendMenuW(menu, MF_STRING, GraphCommand::Print, L"P&rint...");
-    AppendMenuW(menu, MF_STRING, GraphCommand::Properties, L"Pr&operties...");
+    AppendMenuW(menu, MF_STRING, VPX_COMMAND_PRINT, L"P&rint...");
+    AppendMenuW(menu, MF_STRING, VPX_COMMAND_PROPERTIES, L"Pr&operties...");
     return menu;
 }
 
@@ -215,13 +215,14 @@ void UpdateMenu(HMENU menu, const MenuState& state)
                              std::span<const Item>(trendItems), std::span<const Item>(spanItems)}) {
         Enable(menu, items, graph);
     }
-    for (const unsigned command : {OpenGraph, SaveGraph, DeleteMeasures, GraphCommand::Print,
-                                   GraphCommand::InsertLabel, GraphCommand::Properties}) {
+    for (const unsigned command :
+         std::initializer_list<unsigned>{OpenGraph, SaveGraph, DeleteMeasures, VPX_COMMAND_PRINT,
+                                         VPX_COMMAND_INSERT_LABEL, VPX_COMMAND_PROPERTIES}) {
         EnableMenuItem(menu, command, graph ? MF_ENABLED : MF_GRAYED);
     }
     Enable(menu, pieItems, state.kind == ChartKind::Pie3d);
     for (const Item& item : modeItems) {
-        Check(menu, item.command, graph && item.command == GraphCommand::Of(state.operation));
+        Check(menu, item.command, graph && item.command == CommandOf(state.operation));
     }
     Check(menu, Legend, state.legend);
     Check(menu, Snap, state.snap);
@@ -252,7 +253,7 @@ HACCEL MakeAccelerators()
     std::array<ACCEL, 7> keys = {{{FVIRTKEY | FCONTROL, 'O', OpenCsv},
                                   {FVIRTKEY | FCONTROL, 'S', SaveGraph},
                                   {FVIRTKEY | FCONTROL, 'E', ExportPng},
-                                  {FVIRTKEY | FCONTROL, 'P', GraphCommand::Print},
+                                  {FVIRTKEY | FCONTROL, 'P', VPX_COMMAND_PRINT},
                                   {FVIRTKEY | FCONTROL, 'C', CopyBitmap},
                                   {FVIRTKEY | FCONTROL | FSHIFT, 'C', CopyMetafile},
                                   {FVIRTKEY, VK_F1, Keys}}};

@@ -17,7 +17,6 @@ namespace
 constexpr wchar_t className[] = L"VantoplexViewer";
 constexpr UINT chartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
 constexpr UINT_PTR tickTimer = 1;
-constexpr unsigned passedOn = 40012; // a command of the graph that comes back as a message
 
 struct FrameStyle {
     DWORD style;
@@ -208,7 +207,8 @@ bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
     default:
         break;
     }
-    const bool ofChart = (message >= XG_YAXISCLICK && message <= XG_POINTCHANGED) || message == passedOn;
+    const bool ofChart =
+        (message >= XG_YAXISCLICK && message <= XG_POINTCHANGED) || message == VPX_MESSAGE_PASSED_ON;
     return ofChart && m_events->OnChartMessage(message, wParam);
 }
 

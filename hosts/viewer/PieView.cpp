@@ -13,11 +13,11 @@ int NumberOf(PieStyle style) noexcept
 {
     switch (style) {
     case PieStyle::Doughnut:
-        return 1;
+        return VPX_PIE_DOUGHNUT;
     case PieStyle::Flat:
-        return 2;
+        return VPX_PIE_FLAT;
     default:
-        return 0;
+        return VPX_PIE_SOLID;
     }
 }
 
@@ -57,7 +57,8 @@ void PieView::SetLooks(const Options& options)
     if (options.order == PieOrder::AsRead) {
         Check(m_pie->SortToOrginalOrder());
     } else {
-        Check(m_pie->sortPiechartElements(options.order == PieOrder::Descending));
+        Check(m_pie->sortPiechartElements(
+            options.order == PieOrder::Descending ? VPX_PIE_ORDER_DESCENDING : VPX_PIE_ORDER_ASCENDING));
     }
     m_depth = options.depth;
     Check(m_pie->SetDepth(static_cast<float>(m_depth)));

@@ -21,19 +21,19 @@ namespace
 using Word = std::pair<std::u16string_view, unsigned>;
 
 constexpr std::array<Word, 25> commands = {{
-    {u"select", GraphCommand::Select},
-    {u"zoom", GraphCommand::Zoom},
-    {u"pan", GraphCommand::Pan},
-    {u"cursor", GraphCommand::Cursor},
-    {u"measure", GraphCommand::Measure},
-    {u"edit", GraphCommand::Edit},
-    {u"label", GraphCommand::InsertLabel},
-    {u"zoom-back", GraphCommand::ZoomBack},
-    {u"reset-zoom", GraphCommand::ResetZoom},
+    {u"select", VPX_COMMAND_SELECT},
+    {u"zoom", VPX_COMMAND_ZOOM},
+    {u"pan", VPX_COMMAND_PAN},
+    {u"cursor", VPX_COMMAND_CURSOR},
+    {u"measure", VPX_COMMAND_MEASURE},
+    {u"edit", VPX_COMMAND_EDIT},
+    {u"label", VPX_COMMAND_INSERT_LABEL},
+    {u"zoom-back", VPX_COMMAND_ZOOM_BACK},
+    {u"reset-zoom", VPX_COMMAND_RESET_ZOOM},
     {u"delete-measures", MenuCommand::DeleteMeasures},
-    {u"properties", GraphCommand::Properties},
-    {u"linear-trend", GraphCommand::LinearTrend},
-    {u"cubic-trend", GraphCommand::CubicTrend},
+    {u"properties", VPX_COMMAND_PROPERTIES},
+    {u"linear-trend", VPX_COMMAND_LINEAR_TREND},
+    {u"cubic-trend", VPX_COMMAND_CUBIC_TREND},
     {u"polynomial", MenuCommand::FirstDegree},
     {u"simple-average", MenuCommand::FirstAverage},
     {u"exponential-average", MenuCommand::FirstAverage + 1},
@@ -175,7 +175,7 @@ void ScriptRunner::RunCommand(const Step& step)
 {
     const unsigned command =
         step.text.empty() ? static_cast<unsigned>(step.number) : Look(commands, step.text);
-    const bool graphOnly = command >= GraphCommand::Select;
+    const bool graphOnly = command >= VPX_COMMAND_SELECT;
     if (graphOnly) {
         (void)Graph(step);
     }

@@ -217,14 +217,13 @@ bool Session::RunGraph(unsigned command)
         m_span = static_cast<int>(command - FirstSpan);
     } else if (IsIn(command, FirstCurve, LastCurve)) {
         m_control->ChooseCurve(static_cast<int>(command - FirstCurve));
-    } else if (command == GraphCommand::LinearTrend) {
+    } else if (command == VPX_COMMAND_LINEAR_TREND) {
         Analyse(Analysis::LinearTrend, 0);
-    } else if (command == GraphCommand::CubicTrend) {
+    } else if (command == VPX_COMMAND_CUBIC_TREND) {
         Analyse(Analysis::CubicTrend, 0);
-    } else if (IsIn(command, GraphCommand::Select, GraphCommand::Measure)) {
+    } else if (IsIn(command, VPX_COMMAND_SELECT, VPX_COMMAND_MEASURE)) {
         m_control->Send(command);
-        m_isReset =
-            command == GraphCommand::ResetZoom || (m_isReset && command != GraphCommand::ZoomBack);
+        m_isReset = command == VPX_COMMAND_RESET_ZOOM || (m_isReset && command != VPX_COMMAND_ZOOM_BACK);
         m_window.SetStatus(MainWindow::StatusPart::Text, OperationHint(m_control->Operation()));
         ShowState();
     } else {

@@ -20,17 +20,17 @@ struct Button {
 };
 
 constexpr std::array<Button, 11> buttons = {{
-    {GraphCommand::Select, L"Select", 0},
-    {GraphCommand::Zoom, L"Zoom", 1},
-    {GraphCommand::Pan, L"Pan", 3},
-    {GraphCommand::Cursor, L"Cursor", 4},
-    {GraphCommand::Measure, L"Measure", 8},
-    {GraphCommand::Edit, L"Edit points", 7},
+    {VPX_COMMAND_SELECT, L"Select", 0},
+    {VPX_COMMAND_ZOOM, L"Zoom", 1},
+    {VPX_COMMAND_PAN, L"Pan", 3},
+    {VPX_COMMAND_CURSOR, L"Cursor", 4},
+    {VPX_COMMAND_MEASURE, L"Measure", 8},
+    {VPX_COMMAND_EDIT, L"Edit points", 7},
     {0, nullptr, noOperation},
-    {GraphCommand::ZoomBack, L"Zoom back", noOperation},
-    {GraphCommand::ResetZoom, L"Reset zoom", noOperation},
+    {VPX_COMMAND_ZOOM_BACK, L"Zoom back", noOperation},
+    {VPX_COMMAND_RESET_ZOOM, L"Reset zoom", noOperation},
     {0, nullptr, noOperation},
-    {GraphCommand::InsertLabel, L"Insert label", noOperation},
+    {VPX_COMMAND_INSERT_LABEL, L"Insert label", noOperation},
 }};
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "viewer-program/ViewerRun.h"
 
+#include <vantoplex.h>
+
 #include <gtest/gtest.h>
 
 #include <commctrl.h>
@@ -108,8 +110,9 @@ TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
     const struct {
         unsigned command;
         const wchar_t* hint;
-    } modes[] = {{40002, L"Zoom:"},    {40004, L"Pan:"},         {40011, L"Cursor:"},
-                 {40015, L"Measure:"}, {40014, L"Edit points:"}, {40000, L"Select:"}};
+    } modes[] = {{VPX_COMMAND_ZOOM, L"Zoom:"},        {VPX_COMMAND_PAN, L"Pan:"},
+                 {VPX_COMMAND_CURSOR, L"Cursor:"},    {VPX_COMMAND_MEASURE, L"Measure:"},
+                 {VPX_COMMAND_EDIT, L"Edit points:"}, {VPX_COMMAND_SELECT, L"Select:"}};
     for (const auto& mode : modes) {
         SendMessageW(frame, WM_COMMAND, mode.command, 0);
         EXPECT_EQ(0u, StatusOf(frame).find(mode.hint)) << mode.command;
@@ -128,7 +131,7 @@ TEST(ViewerWindow, TheStatusBarSaysThatAResetViewIsWhole)
     const auto zoomLength = [&] { return LOWORD(SendMessageW(status, SB_GETTEXTLENGTHW, 1, 0)); };
 
     EXPECT_EQ(std::wstring(L"zoom 0").size(), zoomLength());
-    SendMessageW(frame, WM_COMMAND, 40003, 0);
+    SendMessageW(frame, WM_COMMAND, VPX_COMMAND_RESET_ZOOM, 0);
     EXPECT_EQ(std::wstring(L"whole").size(), zoomLength());
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());
@@ -148,16 +151,17 @@ TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
         return SendMessageW(buttons, TB_ISBUTTONENABLED, command, 0) != 0;
     };
 
-    EXPECT_TRUE(isPressed(40000));
-    for (const WPARAM mode : {40002u, 40004u, 40011u, 40015u, 40014u}) {
+    EXPECT_TRUE(isPressed(VPX_COMMAND_SELECT));
+    for (const VpxCommand mode : {VPX_COMMAND_ZOOM, VPX_COMMAND_PAN, VPX_COMMAND_CURSOR,
+                                  VPX_COMMAND_MEASURE, VPX_COMMAND_EDIT}) {
         SendMessageW(frame, WM_COMMAND, mode, 0);
         EXPECT_TRUE(isPressed(mode)) << mode;
-        EXPECT_FALSE(isPressed(40000)) << mode;
+        EXPECT_FALSE(isPressed(VPX_COMMAND_SELECT)) << mode;
         EXPECT_TRUE(isEnabled(mode)) << mode;
     }
     SendMessageW(frame, WM_COMMAND, 1062, 0); // the bar chart
-    EXPECT_FALSE(isPressed(40014));
-    EXPECT_FALSE(isEnabled(40002));
+    EXPECT_FALSE(isPressed(VPX_COMMAND_EDIT));
+    EXPECT_FALSE(isEnabled(VPX_COMMAND_ZOOM));
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());
 }
@@ -170,7 +174,7 @@ TEST(ViewerWindow, AFileThatGrowsIsFollowed)
     ASSERT_NE(nullptr, frame);
     constexpr unsigned follow = 1006;
     SendMessageW(frame, WM_COMMAND, follow, 0);
-    SendMessageW(frame, WM_COMMAND, 40011, 0);
+    SendMessageW(frame, WM_COMMAND, VPX_COMMAND_CURSOR, 0);
 
     std::FILE* file = _wfopen(data.Path().c_str(), L"ab");
     ASSERT_NE(nullptr, file);
@@ -184,7 +188,7 @@ TEST(ViewerWindow, AFileThatGrowsIsFollowed)
     EXPECT_TRUE(shown) << std::string(StatusOf(frame).begin(), StatusOf(frame).end());
     // The operation outlives the new chart.
     const HWND buttons = FindWindowExW(frame, nullptr, L"ToolbarWindow32", nullptr);
-    EXPECT_NE(0, SendMessageW(buttons, TB_ISBUTTONCHECKED, 40011, 0));
+    EXPECT_NE(0, SendMessageW(buttons, TB_ISBUTTONCHECKED, VPX_COMMAND_CURSOR, 0));
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());
 }
