@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr int kCount = 1'000'000;
+constexpr int Count = 1'000'000;
 
 void Print(const char* pszCase, double time)
 {
@@ -22,10 +22,10 @@ void Print(const char* pszCase, double time)
 void BenchAnalysis(int nRuns)
 {
     std::printf("%-34s %10s\n", "analysis of 1000000 points", "ms");
-    std::vector<TDataPoint> points = NoisyWaves(kCount);
+    std::vector<TDataPoint> points = NoisyWaves(Count);
     Scene scene;
     CXGraph& graph = *scene.m_graph;
-    graph.SetData(points.data(), kCount, 0, 0, 0, true);
+    graph.SetData(points.data(), Count, 0, 0, 0, true);
 
     CXGraphDataSerie& curve = graph.m_Curves[0];
     const auto time = [&](const char* pszCase, auto analyse) {

@@ -9,9 +9,9 @@
 namespace
 {
 
-constexpr double kPeriod = 50.0; // milliseconds from tick to tick
-constexpr int kSegments = 20;
-constexpr int kSeries = 5;
+constexpr double Period = 50.0; // milliseconds from tick to tick
+constexpr int Segments = 20;
+constexpr int Series = 5;
 
 struct TCase {
     const char* pszName;
@@ -19,7 +19,7 @@ struct TCase {
     int type; // of animation; 0 for the still frame
 };
 
-constexpr TCase kCases[] = {
+constexpr TCase Cases[] = {
     {"bars, still", 0, 0},        {"bars, all grow", 0, 20},        {"bars, groups grow", 0, 21},
     {"bars, series grow", 0, 22}, {"bars, groups fade", 0, 25},     {"bars, series fade", 0, 26},
     {"lines, still", 2, 0},       {"lines, drawn together", 2, 30}, {"lines, drawn in turn", 2, 31},
@@ -28,15 +28,15 @@ constexpr TCase kCases[] = {
 
 void Fill(CGraphObject& chart)
 {
-    for (int segment = 0; segment < kSegments; ++segment) {
+    for (int segment = 0; segment < Segments; ++segment) {
         chart.Add2DBarGraphSegment(L"name");
         chart.Add2DLineGraphSegment(L"name");
-        chart.Add2DPieGraphSegment(100.0 / kSegments, RGB(10 * segment, 100, 200), L"name");
+        chart.Add2DPieGraphSegment(100.0 / Segments, RGB(10 * segment, 100, 200), L"name");
     }
-    for (int series = 1; series <= kSeries; ++series) {
+    for (int series = 1; series <= Series; ++series) {
         chart.Add2DBarGraphSeries(L"name", RGB(50 * series, 100, 50));
         chart.Add2DLineGraphSeries(L"name", RGB(50 * series, 100, 50));
-        for (int segment = 1; segment <= kSegments; ++segment) {
+        for (int segment = 1; segment <= Segments; ++segment) {
             chart.Set2DBarGraphValue(segment, series, 40 + (segment * 7 + series * 13) % 50);
             chart.Set2DLineGraphValue(segment, series, 40 + (segment * 7 + series * 13) % 50);
         }
@@ -99,11 +99,11 @@ void BenchChart2d(int nRuns)
                                          nullptr, nullptr, nullptr, nullptr);
     std::printf("%-34s %10s %8s %10s %8s\n", "business chart, 20 x 5", "solid, ms", "of 50 ms",
                 "gradient", "of 50 ms");
-    for (const TCase& which : kCases) {
+    for (const TCase& which : Cases) {
         const double solid = TimeCase(hHost, which, false, nRuns);
         const double gradient = TimeCase(hHost, which, true, nRuns);
         std::printf("%-34s %10.3f %7.1f%% %10.3f %7.1f%%\n", which.pszName, solid,
-                    100.0 * solid / kPeriod, gradient, 100.0 * gradient / kPeriod);
+                    100.0 * solid / Period, gradient, 100.0 * gradient / Period);
         std::fflush(stdout);
     }
     std::printf("%-34s %10s %10s %10s\n", "bars, many", "entry, ms", "tick, ms", "paint, ms");

@@ -12,17 +12,17 @@
 namespace
 {
 
-constexpr int kCurves = 10;
-constexpr int kCount = 1'000'000;
-constexpr int kMoves = 50; // of one run, over the width of the plot
+constexpr int Curves = 10;
+constexpr int Count = 1'000'000;
+constexpr int Moves = 50; // of one run, over the width of the plot
 
 // x ascends, evenly or by ever longer steps.
 std::vector<TDataPoint> Points(bool bEven)
 {
-    std::vector<TDataPoint> points = NoisyWaves(kCount);
+    std::vector<TDataPoint> points = NoisyWaves(Count);
     if (!bEven) {
-        for (int i = 0; i < kCount; ++i)
-            points[i].fXVal = static_cast<double>(i) * i / kCount;
+        for (int i = 0; i < Count; ++i)
+            points[i].fXVal = static_cast<double>(i) * i / Count;
     }
     return points;
 }
@@ -33,13 +33,13 @@ double TimeMoves(CXGraph& graph, int nRuns, const std::function<void(CPoint)>& m
     int nAt = 0;
     return Stopwatch::Median(nRuns,
                              [&] {
-                                 for (int i = 0; i < kMoves; ++i) {
+                                 for (int i = 0; i < Moves; ++i) {
                                      nAt = (nAt + 7) % plot.Width();
                                      move({plot.left + nAt, plot.top + 5 + nAt % 20});
                                  }
                                  ::GdiFlush();
                              }) /
-           kMoves;
+           Moves;
 }
 
 void TimeCase(const char* pszCase, bool bOwned, bool bEven, int nRuns)
@@ -47,8 +47,8 @@ void TimeCase(const char* pszCase, bool bOwned, bool bEven, int nRuns)
     std::vector<TDataPoint> points = Points(bEven);
     Scene scene;
     CXGraph& graph = *scene.m_graph;
-    for (int i = 0; i < kCurves; ++i)
-        graph.SetData(points.data(), kCount, i, 0, 0, bOwned);
+    for (int i = 0; i < Curves; ++i)
+        graph.SetData(points.data(), Count, i, 0, 0, bOwned);
     scene.Repaint();
     graph.Cursor();
     scene.Repaint();
@@ -59,7 +59,7 @@ void TimeCase(const char* pszCase, bool bOwned, bool bEven, int nRuns)
     scene.Repaint();
     const double lines = TimeMoves(graph, nRuns, mouse);
     const double search = TimeMoves(graph, nRuns, [&](CPoint at) {
-        for (int i = 0; i < kCurves; ++i) {
+        for (int i = 0; i < Curves; ++i) {
             graph.m_ptCurrent = at;
             graph.GetCursorAbsolute(i);
         }

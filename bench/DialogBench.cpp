@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr double kFrame = 1000.0 / 60; // milliseconds
+constexpr double FrameTime = 1000.0 / 60; // milliseconds
 
 // A dialog tells its owner when it is shown and has nothing more to do: it is then drawn whole,
 // and closed.
@@ -87,6 +87,7 @@ void BenchDialogs(int nRuns)
     for (std::size_t i = 0; i < times.size(); ++i)
         std::printf("%-46s %8.3f %8.3f\n", names[i], times[i].low, times[i].median);
     std::printf("%-46s %8.2f %8.2f\n", "the sheet beyond the empty dialog, in frames",
-                (times[2].low - times[0].low) / kFrame, (times[2].median - times[0].median) / kFrame);
+                (times[2].low - times[0].low) / FrameTime,
+                (times[2].median - times[0].median) / FrameTime);
     Goals::Expect("sheet to its controls with nothing behind them", times[2].low / times[1].low, 1.5);
 }

@@ -11,23 +11,23 @@ namespace Floors
 namespace
 {
 
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
+constexpr int Width = 800;
+constexpr int Height = 600;
 
 // The data's extent as the benchmark makes it: x from 0 up by 1, y about -1.1 to 1.1.
-constexpr double kLow = -1.1;
-constexpr double kHigh = 1.1;
+constexpr double Low = -1.1;
+constexpr double High = 1.1;
 
 } // namespace
 
 std::uint32_t MapAll(std::span<const TDataPoint> points)
 {
-    const double kx = kWidth / points.back().fXVal;
-    const double ky = kHeight / (kHigh - kLow);
+    const double kx = Width / points.back().fXVal;
+    const double ky = Height / (High - Low);
     std::uint32_t sum = 0;
     for (const TDataPoint& point : points) {
         const std::int32_t x = Trunc(kx * point.fXVal + 0.0);
-        const std::int32_t y = Trunc(kHeight - ky * (point.fYVal - kLow));
+        const std::int32_t y = Trunc(Height - ky * (point.fYVal - Low));
         sum += static_cast<std::uint32_t>(x) ^ static_cast<std::uint32_t>(y);
     }
     return sum;
@@ -35,9 +35,9 @@ std::uint32_t MapAll(std::span<const TDataPoint> points)
 
 std::uint32_t FindColumns(std::span<const TDataPoint> points)
 {
-    const double kx = kWidth / points.back().fXVal;
+    const double kx = Width / points.back().fXVal;
     std::uint32_t sum = 0;
-    for (int column = 0; column < kWidth; ++column) {
+    for (int column = 0; column < Width; ++column) {
         const auto first =
             std::partition_point(points.begin(), points.end(), [&](const TDataPoint& point) {
                 return Trunc(kx * point.fXVal + 0.0) < column;

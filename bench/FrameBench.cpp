@@ -101,13 +101,13 @@ void TimeCount(int nCount, int nRuns, TMedians& medians)
 
 void TimeOthers(int nRuns, double one)
 {
-    constexpr int kCurves = 100, kCount = 10'000;
-    std::vector<TDataPoint> points = NoisyWaves(kCount);
+    constexpr int curves = 100, count = 10'000;
+    std::vector<TDataPoint> points = NoisyWaves(count);
     Scene scene;
-    for (int i = 0; i < kCurves; ++i)
-        scene.m_graph->SetData(points.data(), kCount, i, 0, 0, true);
+    for (int i = 0; i < curves; ++i)
+        scene.m_graph->SetData(points.data(), count, i, 0, 0, true);
     const TFrame many = TimeFrame(scene, nRuns);
-    PrintRow("100 lines of 10000, owned", kCurves * kCount, many);
+    PrintRow("100 lines of 10000, owned", curves * count, many);
     Goals::Expect("100 curves of 1e4 to one", many.idle.median / one, 3.0);
     Scene dots;
     points = NoisyWaves(100'000);

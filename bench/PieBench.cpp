@@ -12,17 +12,17 @@
 namespace
 {
 
-constexpr TRect rcWindow{0, 0, 800, 600};
+constexpr TRect Window{0, 0, 800, 600};
 
 // A visible host with a pie in it.
 class CPieScene
 {
 public:
     CPieScene()
-        : m_hHost(::CreateWindowExW(0, L"STATIC", L"Host", WS_POPUP | WS_VISIBLE, 0, 0, rcWindow.right,
-                                    rcWindow.bottom, nullptr, nullptr, nullptr, nullptr))
+        : m_hHost(::CreateWindowExW(0, L"STATIC", L"Host", WS_POPUP | WS_VISIBLE, 0, 0, Window.right,
+                                    Window.bottom, nullptr, nullptr, nullptr, nullptr))
     {
-        m_pie.Create(L"Title", CRect(rcWindow), CWnd::FromHandle(m_hHost), 1);
+        m_pie.Create(L"Title", CRect(Window), CWnd::FromHandle(m_hHost), 1);
         m_pie.SetBackgrndColor(0xFFC0D0E0);
     }
     CPieScene(const CPieScene&) = delete;
@@ -63,12 +63,11 @@ public:
     void Floor(int nSlices)
     {
         CClientDC dc(&m_pie);
-        const GdiPlus::CBitmap picture = GdiPlus::NewBitmap({rcWindow.right, rcWindow.bottom});
-        const GdiPlus::CLineBrush brush =
-            GdiPlus::NewLineBrush({0, 0}, {rcWindow.right, rcWindow.bottom}, m_pie.m_crBackgroundLight,
-                                  m_pie.m_crBackgroundDark);
+        const GdiPlus::CBitmap picture = GdiPlus::NewBitmap({Window.right, Window.bottom});
+        const GdiPlus::CLineBrush brush = GdiPlus::NewLineBrush(
+            {0, 0}, {Window.right, Window.bottom}, m_pie.m_crBackgroundLight, m_pie.m_crBackgroundDark);
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture);
-        graphics.FillRectangle(brush.Get(), GdiPlus::ToFloats(rcWindow));
+        graphics.FillRectangle(brush.Get(), GdiPlus::ToFloats(Window));
         for (int i = 0; i < nSlices; ++i) {
             const float sweep = 360.0f / static_cast<float>(nSlices);
             graphics.FillPie(brush.Get(), {60, 120, 400, 400}, static_cast<float>(i) * sweep, sweep);
@@ -91,46 +90,46 @@ void Print(const char* pszCase, int nElements, double time, double floor)
 
 void TimeStyles(int nRuns)
 {
-    constexpr int kElements = 12;
+    constexpr int elements = 12;
     CPieScene scene;
-    scene.Fill(kElements);
+    scene.Fill(elements);
     const double gradient = Stopwatch::Median(nRuns, [&] { scene.Floor(0); });
-    const double floor = Stopwatch::Median(nRuns, [&] { scene.Floor(kElements); });
+    const double floor = Stopwatch::Median(nRuns, [&] { scene.Floor(elements); });
     std::printf("%-34s %9s %10s %8s\n", "case", "elements", "ms", "floor");
     Print("floor: bare gradient", 0, gradient, floor);
-    Print("floor: gradient and bare slices", kElements, floor, floor);
+    Print("floor: gradient and bare slices", elements, floor, floor);
     const char* const names[] = {"doughnut", "flat pie with cuts", "3D pie, tilted by 60"};
     scene.m_pie.SetInclineAngle(60);
     for (int style = 0; style < 3; ++style) {
         scene.m_pie.SetPieChartStyle(style);
         const double time = Stopwatch::Median(nRuns, [&] { scene.Change(); });
-        Print(names[style], kElements, time, floor);
+        Print(names[style], elements, time, floor);
         Goals::Expect(std::string(names[style]) + " to gradient and slices", time / floor, 1.3);
     }
-    Print("3D pie, unchanged", kElements, Stopwatch::Median(nRuns, [&] { scene.Repaint(); }), floor);
-    Print("3D pie, click and its paint", kElements, Stopwatch::Median(nRuns, [&] { scene.Click(); }),
+    Print("3D pie, unchanged", elements, Stopwatch::Median(nRuns, [&] { scene.Repaint(); }), floor);
+    Print("3D pie, click and its paint", elements, Stopwatch::Median(nRuns, [&] { scene.Click(); }),
           floor);
-    Print("3D pie, click without its paint", kElements,
+    Print("3D pie, click without its paint", elements,
           Stopwatch::Median(nRuns, [&] { scene.m_pie.HitTest(CPoint(400, 320)); }), floor);
 }
 
 void TimeTable(int nRuns)
 {
-    constexpr int kElements = 10'000;
+    constexpr int elements = 10'000;
     CPieScene scene;
     const double floor = Stopwatch::Median(nRuns, [&] { scene.Floor(12); });
     const double start = Stopwatch::Milliseconds();
-    scene.Fill(kElements);
-    Print("3D pie, insertion of a table", kElements, Stopwatch::Milliseconds() - start, floor);
+    scene.Fill(elements);
+    Print("3D pie, insertion of a table", elements, Stopwatch::Milliseconds() - start, floor);
     const double first = Stopwatch::Milliseconds();
     scene.m_pie.UpdateWindow();
-    Print("3D pie, first paint of a table", kElements, Stopwatch::Milliseconds() - first, floor);
+    Print("3D pie, first paint of a table", elements, Stopwatch::Milliseconds() - first, floor);
     const double changed = Stopwatch::Milliseconds();
     scene.Change();
-    Print("3D pie, table, a value changed", kElements, Stopwatch::Milliseconds() - changed, floor);
-    Print("3D pie, table, unchanged", kElements, Stopwatch::Median(nRuns, [&] { scene.Repaint(); }),
+    Print("3D pie, table, a value changed", elements, Stopwatch::Milliseconds() - changed, floor);
+    Print("3D pie, table, unchanged", elements, Stopwatch::Median(nRuns, [&] { scene.Repaint(); }),
           floor);
-    Print("3D pie, step of scrolling a table", kElements,
+    Print("3D pie, step of scrolling a table", elements,
           Stopwatch::Median(nRuns,
                             [&] {
                                 scene.m_pie.SendMessage(

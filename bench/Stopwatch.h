@@ -40,10 +40,10 @@ struct TTimes {
                                                  const std::vector<std::function<void()>>& cases,
                                                  const std::function<void()>& between = {})
 {
-    constexpr double kLimit = 4000.0;
+    constexpr double limit = 4000.0;
     std::vector<std::vector<double>> times(cases.size());
     const double start = Milliseconds();
-    for (int nRun = -1; nRun < nRuns && (nRun < 3 || Milliseconds() - start < kLimit); ++nRun) {
+    for (int nRun = -1; nRun < nRuns && (nRun < 3 || Milliseconds() - start < limit); ++nRun) {
         for (std::size_t i = 0; i < cases.size(); ++i) {
             if (between)
                 between();

@@ -11,15 +11,15 @@ namespace Viewer
 namespace
 {
 
-constexpr double daysOfYear = 365.2425;
-constexpr double epoch1970 = 25569.0;
-constexpr double lastUnsignedSecond = epoch1970 + 4294967295.0 / 86400.0;
+constexpr double DaysOfYear = 365.2425;
+constexpr double Epoch1970 = 25569.0;
+constexpr double LastUnsignedSecond = Epoch1970 + 4294967295.0 / 86400.0;
 // From this span on, ticks stand on whole years and their labels name nothing else.
-constexpr double yearsAlone = 8 * daysOfYear;
-constexpr int partsOfRange = 10; // an axis without a step of its own divides its range so
+constexpr double YearsAlone = 8 * DaysOfYear;
+constexpr int PartsOfRange = 10; // an axis without a step of its own divides its range so
 
 // A graph of usual height has this many ticks at most.
-constexpr double mostTicks = 30.0;
+constexpr double MostTicks = 30.0;
 
 } // namespace
 
@@ -30,9 +30,9 @@ std::u16string NumberFormatFor(double low, double high)
     if (!(span > 0) || !std::isfinite(span)) {
         return u"%g";
     }
-    const double decimals = std::ceil(-std::log10(span / mostTicks));
+    const double decimals = std::ceil(-std::log10(span / MostTicks));
     if (largest >= 1e7 || decimals > 6) {
-        const double digits = std::ceil(std::log10(largest) - std::log10(span / mostTicks));
+        const double digits = std::ceil(std::log10(largest) - std::log10(span / MostTicks));
         return u"%." + ToText(static_cast<std::size_t>(std::clamp(digits, 1.0, 14.0))) + u"e";
     }
     return u"%." + ToText(static_cast<std::size_t>(std::max(decimals, 0.0))) + u"f";
@@ -41,10 +41,10 @@ std::u16string NumberFormatFor(double low, double high)
 std::u16string DateFormatFor(double low, double high)
 {
     const double days = high - low;
-    if (days >= yearsAlone) {
+    if (days >= YearsAlone) {
         return u"%Y";
     }
-    if (days >= daysOfYear) {
+    if (days >= DaysOfYear) {
         return u"%Y-%m";
     }
     if (days >= 10) {
@@ -58,33 +58,33 @@ std::u16string DateFormatFor(double low, double high)
 
 bool GraphRoundsDatesWell(double low, double high) noexcept
 {
-    if (high - low >= yearsAlone) {
+    if (high - low >= YearsAlone) {
         return false;
     }
     // Rounding outward moves a bound by up to its distance to the next tick, at most the span.
     const double room = std::max(high - low, 1.0);
-    return low - room >= epoch1970 && high + room <= lastUnsignedSecond;
+    return low - room >= Epoch1970 && high + room <= LastUnsignedSecond;
 }
 
 DateRange RoundDateRange(double low, double high)
 {
     const double days = high - low;
-    if (days < yearsAlone) {
-        const double step = std::max(std::ceil(days / partsOfRange), 1.0);
+    if (days < YearsAlone) {
+        const double step = std::max(std::ceil(days / PartsOfRange), 1.0);
         const double start = std::floor(low);
-        const bool fits = start + step * partsOfRange >= high;
-        return {start, start + (fits ? step : step + 1) * partsOfRange};
+        const bool fits = start + step * PartsOfRange >= high;
+        return {start, start + (fits ? step : step + 1) * PartsOfRange};
     }
     constexpr double intoTheYear = 2;
     const int first = OleToDate(low - intoTheYear).year;
     const int last = OleToDate(high).year + 1;
-    const int step = (last - first + partsOfRange - 1) / partsOfRange;
+    const int step = (last - first + PartsOfRange - 1) / PartsOfRange;
     // What is left over goes to both ends, with the start on a round year if it can be.
-    const int spare = step * partsOfRange - (last - first);
+    const int spare = step * PartsOfRange - (last - first);
     const int rounded = first - first % 5;
     const int start = std::max(first - rounded <= spare ? rounded : first, 100);
     return {DateToOle({start, 1, 1}) + intoTheYear,
-            DateToOle({std::min(start + step * partsOfRange, 9999), 1, 1}) + intoTheYear};
+            DateToOle({std::min(start + step * PartsOfRange, 9999), 1, 1}) + intoTheYear};
 }
 
 } // namespace Viewer

@@ -7,7 +7,7 @@ namespace Viewer
 namespace
 {
 
-constexpr UINT_PTR animationTimer = 50000; // the chart's own
+constexpr UINT_PTR AnimationTimer = 50000; // the chart's own
 
 int NumberOf(ChartKind kind) noexcept
 {
@@ -28,7 +28,7 @@ BusinessView::BusinessView(const ChartServer& server, HWND parent, const RECT& p
     : m_chart(server.MakeChart()), m_kind(options.chart)
 {
     RECT rectangle = place;
-    Check(m_chart->Create(&rectangle, ToWire(parent), chartId));
+    Check(m_chart->Create(&rectangle, ToWire(parent), ChartId));
     m_window = HandleOf(*m_chart.Get());
     Check(m_chart->CreateGraph(NumberOf(m_kind)));
     SetLooks(options);
@@ -105,10 +105,10 @@ void BusinessView::Animate(std::u16string_view word)
 
 void BusinessView::StopAtTick(int tick)
 {
-    KillTimer(m_window, animationTimer);
+    KillTimer(m_window, AnimationTimer);
     UpdateWindow(m_window);
     for (int at = 0; at < tick; ++at) {
-        SendMessageW(m_window, WM_TIMER, animationTimer, 0);
+        SendMessageW(m_window, WM_TIMER, AnimationTimer, 0);
         UpdateWindow(m_window);
     }
 }

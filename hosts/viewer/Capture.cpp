@@ -58,7 +58,7 @@ void Capture::MakeBitmap()
     info.bmiHeader.biWidth = m_width;
     info.bmiHeader.biHeight = -m_height;
     info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = bitsOfPixel;
+    info.bmiHeader.biBitCount = BitsOfPixel;
     m_bitmap.reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
     Need(m_bitmap != nullptr);
 }

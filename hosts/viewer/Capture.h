@@ -28,11 +28,11 @@ public:
     // Rows from the top, three bytes a pixel (blue first), each row filled up to whole 4 bytes.
     [[nodiscard]] int Width() const noexcept { return m_width; }
     [[nodiscard]] int Height() const noexcept { return m_height; }
-    [[nodiscard]] int Stride() const noexcept { return (m_width * bitsOfPixel + 31) / 32 * 4; }
+    [[nodiscard]] int Stride() const noexcept { return (m_width * BitsOfPixel + 31) / 32 * 4; }
     [[nodiscard]] const BYTE* Bits() const noexcept { return static_cast<const BYTE*>(m_bits); }
 
 private:
-    static constexpr int bitsOfPixel = 24;
+    static constexpr int BitsOfPixel = 24;
 
     struct Deleter {
         using pointer = HGDIOBJ;

@@ -15,8 +15,8 @@ namespace Viewer
 namespace
 {
 
-constexpr std::size_t mostCategories = 500;
-constexpr std::size_t mostSeries = 20;
+constexpr std::size_t MostCategories = 500;
+constexpr std::size_t MostSeries = 20;
 
 [[noreturn]] void Refuse(std::u16string text)
 {
@@ -119,8 +119,8 @@ private:
         const std::u16string name = m_category->cells[row].substr(0, m_length);
         const auto [found, isNew] = m_categoryOfName.emplace(name, m_plan.categories.size());
         if (isNew) {
-            if (m_plan.categories.size() == mostCategories) {
-                Refuse(u"more than " + ToText(mostCategories) + u" categories in column " +
+            if (m_plan.categories.size() == MostCategories) {
+                Refuse(u"more than " + ToText(MostCategories) + u" categories in column " +
                        Quote(m_category->name) + u"; choose another one with --x");
             }
             m_plan.categories.push_back(name.empty() ? u"(empty)" : name);
@@ -138,8 +138,8 @@ private:
         }
         const auto [found, isNew] = m_seriesOfName.emplace(name, m_plan.series.size());
         if (isNew) {
-            if (m_plan.series.size() == mostSeries) {
-                Refuse(u"more than " + ToText(mostSeries) + u" series; choose columns with --y");
+            if (m_plan.series.size() == MostSeries) {
+                Refuse(u"more than " + ToText(MostSeries) + u" series; choose columns with --y");
             }
             m_plan.series.push_back({name, {}});
         }

@@ -17,8 +17,8 @@ using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr double secondsOfDay = 86400.0;
-constexpr std::size_t longestNumber = 400;
+constexpr double SecondsOfDay = 86400.0;
+constexpr std::size_t LongestNumber = 400;
 const sys_days oleEpoch{std::chrono::year{1899} / 12 / 30};
 
 // Takes parts off the front of a text; any part that isn't there makes `good` false for good.
@@ -122,9 +122,9 @@ double ReadOffset(Reader& reader)
 
 double ToOle(sys_days day, double seconds)
 {
-    const double shift = std::floor(seconds / secondsOfDay);
+    const double shift = std::floor(seconds / SecondsOfDay);
     const double whole = static_cast<double>((day - oleEpoch).count()) + shift;
-    const double fraction = (seconds - shift * secondsOfDay) / secondsOfDay;
+    const double fraction = (seconds - shift * SecondsOfDay) / SecondsOfDay;
     return whole < 0 ? whole - fraction : whole + fraction;
 }
 
@@ -213,7 +213,7 @@ std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
             return std::nullopt;
         }
     }
-    if (trimmed.empty() || trimmed.size() > longestNumber ||
+    if (trimmed.empty() || trimmed.size() > LongestNumber ||
         trimmed.find_first_not_of(u"0123456789.,eE+-") != trimmed.npos) {
         return std::nullopt;
     }

@@ -10,18 +10,18 @@ namespace
 
 template <class T> using Word = std::pair<std::u16string_view, T>;
 
-constexpr std::array<Word<ChartKind>, 5> kinds = {{{u"graph", ChartKind::Graph},
+constexpr std::array<Word<ChartKind>, 5> Kinds = {{{u"graph", ChartKind::Graph},
                                                    {u"bar", ChartKind::Bar},
                                                    {u"line", ChartKind::Line},
                                                    {u"pie", ChartKind::Pie},
                                                    {u"pie3d", ChartKind::Pie3d}}};
-constexpr std::array<Word<PieStyle>, 3> styles = {
+constexpr std::array<Word<PieStyle>, 3> Styles = {
     {{u"doughnut", PieStyle::Doughnut}, {u"flat", PieStyle::Flat}, {u"3d", PieStyle::Solid}}};
-constexpr std::array<Word<PieOrder>, 3> orders = {{{u"none", PieOrder::AsRead},
+constexpr std::array<Word<PieOrder>, 3> Orders = {{{u"none", PieOrder::AsRead},
                                                    {u"descending", PieOrder::Descending},
                                                    {u"ascending", PieOrder::Ascending}}};
 
-constexpr std::array<Animation, 9> animations = {{
+constexpr std::array<Animation, 9> AllAnimations = {{
     {ChartKind::Bar, 20, u"grow", u"All bars grow"},
     {ChartKind::Bar, 21, u"grow-groups", u"Groups grow in turn"},
     {ChartKind::Bar, 22, u"grow-series", u"Series grow in turn"},
@@ -48,27 +48,27 @@ std::optional<T> Find(const std::array<Word<T>, count>& words, std::u16string_vi
 
 std::optional<ChartKind> FindChartKind(std::u16string_view word) noexcept
 {
-    return Find(kinds, word);
+    return Find(Kinds, word);
 }
 
 std::optional<PieStyle> FindPieStyle(std::u16string_view word) noexcept
 {
-    return Find(styles, word);
+    return Find(Styles, word);
 }
 
 std::optional<PieOrder> FindPieOrder(std::u16string_view word) noexcept
 {
-    return Find(orders, word);
+    return Find(Orders, word);
 }
 
 std::span<const Animation> Animations() noexcept
 {
-    return animations;
+    return AllAnimations;
 }
 
 const Animation* FindAnimation(ChartKind kind, std::u16string_view word) noexcept
 {
-    for (const Animation& animation : animations) {
+    for (const Animation& animation : AllAnimations) {
         if (animation.kind == kind && animation.word == word) {
             return &animation;
         }

@@ -9,7 +9,7 @@
 namespace Viewer
 {
 
-constexpr UINT chartId = 100; // control id of the chart's window
+constexpr UINT ChartId = 100; // control id of the chart's window
 
 class ChartView
 {

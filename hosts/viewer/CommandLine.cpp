@@ -10,8 +10,8 @@ namespace Viewer
 namespace
 {
 
-constexpr int smallestSide = 64;
-constexpr int largestSide = 8192;
+constexpr int SmallestSide = 64;
+constexpr int LargestSide = 8192;
 
 [[noreturn]] void Refuse(std::u16string text)
 {
@@ -37,7 +37,7 @@ std::optional<int> ParseWhole(std::u16string_view text)
 std::optional<int> ParseSide(std::u16string_view text)
 {
     const std::optional<int> value = ParseWhole(text);
-    return value && *value >= smallestSide && *value <= largestSide ? value : std::nullopt;
+    return value && *value >= SmallestSide && *value <= LargestSide ? value : std::nullopt;
 }
 
 void ParseSize(std::u16string_view text, Options& options)
@@ -117,7 +117,7 @@ struct ValueOption {
     Store store;
 };
 
-constexpr std::array valueOptions = {
+constexpr std::array ValueOptions = {
     ValueOption{u"--x", StoreText<&Options::x>},
     ValueOption{u"--y", AppendText<&Options::y>},
     ValueOption{u"--y2", AppendText<&Options::y2>},
@@ -140,7 +140,7 @@ constexpr std::array valueOptions = {
 
 Store FindStore(std::u16string_view name)
 {
-    for (const ValueOption& option : valueOptions) {
+    for (const ValueOption& option : ValueOptions) {
         if (option.name == name) {
             return option.store;
         }

@@ -14,7 +14,7 @@ namespace
 {
 
 // A file of a few bytes per row can name far more cells than it holds.
-constexpr std::size_t mostCells = 20'000'000;
+constexpr std::size_t MostCells = 20'000'000;
 
 bool IsValue(std::u16string_view cell)
 {
@@ -89,9 +89,9 @@ Table MakeTable(CsvContents contents)
     std::vector<std::u16string>& first = contents.rows.front().cells;
     const bool header = !std::all_of(first.begin(), first.end(),
                                      [](const std::u16string& cell) { return IsValue(cell); });
-    if (first.size() > mostCells / contents.rows.size()) {
+    if (first.size() > MostCells / contents.rows.size()) {
         throw Error{ExitCode::BadData, u"the table has " + ToText(contents.rows.size()) + u" rows of " +
-                                           ToText(first.size()) + u" columns; " + ToText(mostCells) +
+                                           ToText(first.size()) + u" columns; " + ToText(MostCells) +
                                            u" cells can be shown at most"};
     }
     table.columns.resize(first.size());

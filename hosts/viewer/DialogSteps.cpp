@@ -13,8 +13,8 @@ namespace Viewer::Dialogs
 namespace
 {
 
-constexpr std::wstring_view dialogClass = L"#32770";
-constexpr std::wstring_view menuClass = L"#32768";
+constexpr std::wstring_view DialogClass = L"#32770";
+constexpr std::wstring_view MenuClass = L"#32768";
 
 std::wstring ClassOf(HWND window)
 {
@@ -126,12 +126,12 @@ void ChooseRow(HWND list, const std::u16string& value)
 
 HWND Open() noexcept
 {
-    return FirstOf(dialogClass);
+    return FirstOf(DialogClass);
 }
 
 HWND OpenMenu() noexcept
 {
-    return FirstOf(menuClass);
+    return FirstOf(MenuClass);
 }
 
 std::vector<HWND> Over(HWND frame)

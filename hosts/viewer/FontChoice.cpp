@@ -12,7 +12,7 @@ namespace Viewer
 namespace
 {
 
-constexpr std::array<std::u16string_view, 11> faces = {
+constexpr std::array<std::u16string_view, 11> Faces = {
     u"Arial",         u"Segoe UI",   u"Tahoma",        u"Microsoft YaHei",  u"Yu Gothic",
     u"Malgun Gothic", u"Nirmala UI", u"Leelawadee UI", u"Noto Sans CJK SC", u"WenQuanYi Micro Hei",
     u"DejaVu Sans"};
@@ -49,10 +49,10 @@ std::u16string FaceFor(std::u16string_view text)
     std::wstring shown = ToWide(text);
     std::erase_if(shown, [](wchar_t unit) { return unit < L' '; });
     const std::unique_ptr<HDC__, FreeContext> context(CreateCompatibleDC(nullptr));
-    const auto found = std::find_if(faces.begin(), faces.end(), [&](std::u16string_view face) {
+    const auto found = std::find_if(Faces.begin(), Faces.end(), [&](std::u16string_view face) {
         return shown.empty() || HasGlyphs(context.get(), face, shown);
     });
-    return std::u16string(found != faces.end() ? *found : faces.front());
+    return std::u16string(found != Faces.end() ? *found : Faces.front());
 }
 
 } // namespace Viewer

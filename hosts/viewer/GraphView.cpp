@@ -26,7 +26,7 @@ GraphView::GraphView(const ChartServer& server, HWND parent, const RECT& place)
     : m_graph(server.MakeGraph())
 {
     RECT rectangle = place;
-    Check(m_graph->Create(Bstr(u"").Get(), &rectangle, ToWire(parent), chartId));
+    Check(m_graph->Create(Bstr(u"").Get(), &rectangle, ToWire(parent), ChartId));
     m_window = HandleOf(*m_graph.Get());
 }
 

@@ -14,7 +14,7 @@ namespace Viewer
 namespace
 {
 
-constexpr LONGLONG largestFile = 256LL << 20;
+constexpr LONGLONG LargestFile = 256LL << 20;
 
 struct HandleCloser {
     void operator()(HANDLE handle) const noexcept { CloseHandle(handle); }
@@ -40,7 +40,7 @@ std::string ReadWholeFile(const std::u16string& path)
     if (!GetFileSizeEx(file.get(), &size)) {
         Refuse(path, SystemText(GetLastError()));
     }
-    if (size.QuadPart > largestFile) {
+    if (size.QuadPart > LargestFile) {
         Refuse(path, u"it has more than 256 MB");
     }
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');

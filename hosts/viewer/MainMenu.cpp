@@ -20,56 +20,56 @@ struct Item {
     const wchar_t* text;
 };
 
-constexpr Item line = {0, nullptr};
+constexpr Item Line = {0, nullptr};
 
-constexpr std::array fileItems = {Item{OpenCsv, L"&Open CSV...\tCtrl+O"},
+constexpr std::array FileItems = {Item{OpenCsv, L"&Open CSV...\tCtrl+O"},
                                   Item{Follow, L"&Follow the file as it grows"},
                                   Item{OpenGraph, L"Open &graph file..."},
                                   Item{SaveGraph, L"&Save graph file...\tCtrl+S"},
                                   Item{ExportPng, L"&Export PNG...\tCtrl+E"},
-                                  line,
+                                  Line,
                                   Item{VPX_COMMAND_PRINT, L"&Print...\tCtrl+P"},
-                                  line,
+                                  Line,
                                   Item{Exit, L"E&xit"}};
-constexpr std::array editItems = {Item{CopyBitmap, L"&Copy picture\tCtrl+C"},
+constexpr std::array EditItems = {Item{CopyBitmap, L"&Copy picture\tCtrl+C"},
                                   Item{CopyMetafile, L"Copy as &metafile\tCtrl+Shift+C"},
-                                  line,
+                                  Line,
                                   Item{VPX_COMMAND_INSERT_LABEL, L"Insert &label"},
                                   Item{DeleteMeasures, L"&Delete measures"},
                                   Item{VPX_COMMAND_PROPERTIES, L"&Properties..."}};
-constexpr std::array modeItems = {
+constexpr std::array ModeItems = {
     Item{VPX_COMMAND_SELECT, L"&Select"},   Item{VPX_COMMAND_ZOOM, L"&Zoom"},
     Item{VPX_COMMAND_PAN, L"&Pan"},         Item{VPX_COMMAND_CURSOR, L"&Cursor"},
     Item{VPX_COMMAND_MEASURE, L"&Measure"}, Item{VPX_COMMAND_EDIT, L"&Edit points"}};
-constexpr std::array viewItems = {Item{VPX_COMMAND_ZOOM_BACK, L"Zoom &back"},
-                                  Item{VPX_COMMAND_RESET_ZOOM, L"&Reset zoom"}, line,
+constexpr std::array ViewItems = {Item{VPX_COMMAND_ZOOM_BACK, L"Zoom &back"},
+                                  Item{VPX_COMMAND_RESET_ZOOM, L"&Reset zoom"}, Line,
                                   Item{Legend, L"&Legend"}, Item{Snap, L"Cursor s&naps to curves"}};
-constexpr std::array trendItems = {Item{VPX_COMMAND_LINEAR_TREND, L"&Linear trend"},
+constexpr std::array TrendItems = {Item{VPX_COMMAND_LINEAR_TREND, L"&Linear trend"},
                                    Item{VPX_COMMAND_CUBIC_TREND, L"&Cubic trend"},
                                    Item{FirstDegree, L"Polynomial of degree &2"},
                                    Item{FirstDegree + 1, L"Polynomial of degree &3"},
                                    Item{FirstDegree + 2, L"Polynomial of degree &4"},
                                    Item{FirstDegree + 3, L"Polynomial of degree &5"},
                                    Item{LastDegree, L"Polynomial of degree &6"},
-                                   line,
+                                   Line,
                                    Item{FirstAverage, L"&Simple moving average"},
                                    Item{FirstAverage + 1, L"&Exponential moving average"},
                                    Item{FirstAverage + 2, L"L&inear moving average"},
                                    Item{LastAverage, L"&Triangular moving average"}};
-constexpr std::array spanItems = {Item{FirstSpan, L"&3 points"},      Item{FirstSpan + 1, L"&5 points"},
+constexpr std::array SpanItems = {Item{FirstSpan, L"&3 points"},      Item{FirstSpan + 1, L"&5 points"},
                                   Item{FirstSpan + 2, L"&7 points"},  Item{FirstSpan + 3, L"&12 points"},
                                   Item{FirstSpan + 4, L"3&0 points"}, Item{FirstSpan + 5, L"100 points"},
                                   Item{LastSpan, L"365 points"}};
-constexpr std::array kindItems = {Item{FirstKind, L"&XY graph"}, Item{FirstKind + 1, L"&Bar chart"},
+constexpr std::array KindItems = {Item{FirstKind, L"&XY graph"}, Item{FirstKind + 1, L"&Bar chart"},
                                   Item{FirstKind + 2, L"&Line chart"},
                                   Item{FirstKind + 3, L"&Pie chart"}, Item{LastKind, L"&3D pie"}};
-constexpr std::array pieItems = {
+constexpr std::array PieItems = {
     Item{FirstStyle, L"&Doughnut"},          Item{FirstStyle + 1, L"&Flat"},
-    Item{LastStyle, L"&Three-dimensional"},  line,
+    Item{LastStyle, L"&Three-dimensional"},  Line,
     Item{FirstOrder, L"&Order of the file"}, Item{FirstOrder + 1, L"&Largest first"},
-    Item{LastOrder, L"&Smallest first"},     line,
+    Item{LastOrder, L"&Smallest first"},     Line,
     Item{TiltMore, L"Tilt &more"},           Item{TiltLess, L"Tilt l&ess"}};
-constexpr std::array helpItems = {Item{Keys, L"&Keys and mouse\tF1"}, Item{About, L"&About"}};
+constexpr std::array HelpItems = {Item{Keys, L"&Keys and mouse\tF1"}, Item{About, L"&About"}};
 
 void Append(HMENU menu, std::span<const Item> items)
 {
@@ -92,8 +92,8 @@ void AppendPopup(HMENU menu, HMENU popup, const wchar_t* text)
 
 HMENU MakeAnalysisMenu()
 {
-    const HMENU menu = MakePopup(trendItems);
-    AppendPopup(menu, MakePopup(spanItems), L"Points a&veraged");
+    const HMENU menu = MakePopup(TrendItems);
+    AppendPopup(menu, MakePopup(SpanItems), L"Points a&veraged");
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     // Filled by UpdateMenu, which finds it by this first item.
     const std::array first = {Item{FirstCurve, L"-"}};
@@ -173,29 +173,29 @@ void Check(HMENU menu, unsigned command, bool checked)
 HMENU MakeMainMenu()
 {
     const HMENU menu = CreateMenu();
-    const HMENU file = MakePopup(fileItems);
+    const HMENU file = MakePopup(FileItems);
     const std::array recent = {Item{FirstRecent, L"-"}}; // filled by UpdateMenu
     InsertMenuW(file, 1, MF_BYPOSITION | MF_POPUP, reinterpret_cast<UINT_PTR>(MakePopup(recent)),
                 L"&Recent files");
     AppendPopup(menu, file, L"&File");
-    AppendPopup(menu, MakePopup(editItems), L"&Edit");
-    AppendPopup(menu, MakePopup(modeItems), L"&Mode");
-    AppendPopup(menu, MakePopup(viewItems), L"&View");
+    AppendPopup(menu, MakePopup(EditItems), L"&Edit");
+    AppendPopup(menu, MakePopup(ModeItems), L"&Mode");
+    AppendPopup(menu, MakePopup(ViewItems), L"&View");
     AppendPopup(menu, MakeAnalysisMenu(), L"&Analysis");
-    const HMENU chart = MakePopup(kindItems);
+    const HMENU chart = MakePopup(KindItems);
     AppendMenuW(chart, MF_SEPARATOR, 0, nullptr);
     AppendPopup(chart, MakeAnimationMenu(), L"&Animation");
-    AppendPopup(chart, MakePopup(pieItems), L"3D pie l&ooks");
+    AppendPopup(chart, MakePopup(PieItems), L"3D pie l&ooks");
     AppendPopup(menu, chart, L"&Chart");
-    AppendPopup(menu, MakePopup(helpItems), L"&Help");
+    AppendPopup(menu, MakePopup(HelpItems), L"&Help");
     return menu;
 }
 
 HMENU MakeGraphPopup()
 {
-    const HMENU menu = MakePopup(modeItems);
+    const HMENU menu = MakePopup(ModeItems);
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-    Append(menu, std::span(viewItems).first(2));
+    Append(menu, std::span(ViewItems).first(2));
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     AppendMenuW(menu, MF_STRING, VPX_COMMAND_INSERT_LABEL, L"&Insert label");
     AppendPopup(menu, MakeAnalysisMenu(), L"&Analysis");
@@ -211,8 +211,8 @@ void UpdateMenu(HMENU menu, const MenuState& state)
     FillPopup(menu, FirstRecent, LastRecent, state.recent);
     Check(menu, Follow, state.follows);
     const bool graph = state.kind == ChartKind::Graph;
-    for (const auto items : {std::span<const Item>(modeItems), std::span<const Item>(viewItems),
-                             std::span<const Item>(trendItems), std::span<const Item>(spanItems)}) {
+    for (const auto items : {std::span<const Item>(ModeItems), std::span<const Item>(ViewItems),
+                             std::span<const Item>(TrendItems), std::span<const Item>(SpanItems)}) {
         Enable(menu, items, graph);
     }
     for (const unsigned command :
@@ -220,17 +220,17 @@ void UpdateMenu(HMENU menu, const MenuState& state)
                                          VPX_COMMAND_INSERT_LABEL, VPX_COMMAND_PROPERTIES}) {
         EnableMenuItem(menu, command, graph ? MF_ENABLED : MF_GRAYED);
     }
-    Enable(menu, pieItems, state.kind == ChartKind::Pie3d);
-    for (const Item& item : modeItems) {
+    Enable(menu, PieItems, state.kind == ChartKind::Pie3d);
+    for (const Item& item : ModeItems) {
         Check(menu, item.command, graph && item.command == CommandOf(state.operation));
     }
     Check(menu, Legend, state.legend);
     Check(menu, Snap, state.snap);
     Check(menu, FirstCurve + static_cast<unsigned>(state.curve), state.curve >= 0);
-    for (const Item& item : spanItems) {
+    for (const Item& item : SpanItems) {
         Check(menu, item.command, item.command - FirstSpan == static_cast<unsigned>(state.span));
     }
-    for (const Item& item : kindItems) {
+    for (const Item& item : KindItems) {
         Check(menu, item.command, item.command - FirstKind == static_cast<unsigned>(state.kind));
     }
     Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Doughnut),

@@ -14,9 +14,9 @@ namespace Viewer
 namespace
 {
 
-constexpr wchar_t className[] = L"VantoplexViewer";
-constexpr UINT chartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
-constexpr UINT_PTR tickTimer = 1;
+constexpr wchar_t ClassName[] = L"VantoplexViewer";
+constexpr UINT ChartClicked = WM_APP; // posted to ourselves: the chart has seen the click by then
+constexpr UINT_PTR TickTimer = 1;
 
 struct FrameStyle {
     DWORD style;
@@ -40,7 +40,7 @@ void RegisterFrameClass(WNDPROC procedure)
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
     description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
-    description.lpszClassName = className;
+    description.lpszClassName = ClassName;
     RegisterClassExW(&description);
 }
 
@@ -63,7 +63,7 @@ MainWindow::MainWindow(FrameKind kind, int width, int height, std::u16string_vie
     const bool picture = kind == FrameKind::ForPicture;
     AdjustWindowRectEx(&frame, style.style, !picture, style.extended);
     const int place = picture ? 0 : CW_USEDEFAULT;
-    CreateWindowExW(style.extended, className, ToWide(title).c_str(), style.style, place, place,
+    CreateWindowExW(style.extended, ClassName, ToWide(title).c_str(), style.style, place, place,
                     frame.right - frame.left, frame.bottom - frame.top, nullptr,
                     picture ? nullptr : MakeMainMenu(), GetModuleHandleW(nullptr), this);
     if (!m_window) {
@@ -108,7 +108,7 @@ void MainWindow::ShowTools(bool graph, int operation)
 void MainWindow::Tick(bool on)
 {
     constexpr UINT interval = 1000;
-    on ? (void)SetTimer(m_window, tickTimer, interval, nullptr) : (void)KillTimer(m_window, tickTimer);
+    on ? (void)SetTimer(m_window, TickTimer, interval, nullptr) : (void)KillTimer(m_window, TickTimer);
 }
 
 LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -192,10 +192,10 @@ bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
         return true;
     case WM_PARENTNOTIFY:
         if (LOWORD(wParam) == WM_LBUTTONDOWN) {
-            PostMessageW(m_window, chartClicked, 0, 0);
+            PostMessageW(m_window, ChartClicked, 0, 0);
         }
         return false;
-    case chartClicked:
+    case ChartClicked:
         m_events->OnChartClicked();
         return true;
     case WM_TIMER:

@@ -21,7 +21,7 @@ namespace Viewer
 namespace
 {
 
-constexpr CLSID pngEncoder = {
+constexpr CLSID PngEncoder = {
     0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 
 [[noreturn]] void Refuse(std::u16string text)
@@ -56,7 +56,7 @@ void SaveAsPng(const Capture& capture, const std::u16string& path)
                             const_cast<BYTE*>(capture.Bits()));
     Gdiplus::Status status = picture.GetLastStatus();
     if (status == Gdiplus::Ok) {
-        status = picture.Save(ToWide(path).c_str(), &pngEncoder, nullptr);
+        status = picture.Save(ToWide(path).c_str(), &PngEncoder, nullptr);
     }
     if (status != Gdiplus::Ok) {
         Refuse(u"can't write " + Quote(path) + u" (GDI+ status " +

@@ -28,7 +28,7 @@ PieView::PieView(const ChartServer& server, HWND parent, const RECT& place, cons
     : m_pie(server.MakePie())
 {
     RECT rectangle = place;
-    Check(m_pie->Create(Bstr(options.title).Get(), &rectangle, ToWire(parent), chartId));
+    Check(m_pie->Create(Bstr(options.title).Get(), &rectangle, ToWire(parent), ChartId));
     m_window = HandleOf(*m_pie.Get());
     Check(m_pie->SetParentWindowColor(GetSysColor(COLOR_WINDOW)));
     std::u16string labels;

@@ -15,8 +15,8 @@ namespace Viewer
 namespace
 {
 
-constexpr std::size_t mostCurves = 100;
-constexpr std::size_t longestTitle = 24; // a title's width is taken from the plot
+constexpr std::size_t MostCurves = 100;
+constexpr std::size_t LongestTitle = 24; // a title's width is taken from the plot
 
 [[noreturn]] void Refuse(std::u16string text)
 {
@@ -158,8 +158,8 @@ private:
 
     void AddCurve(std::u16string label, const Request& request)
     {
-        if (m_plan.curves.size() == mostCurves) {
-            Refuse(u"more than " + ToText(mostCurves) + u" curves; choose columns with --y");
+        if (m_plan.curves.size() == MostCurves) {
+            Refuse(u"more than " + ToText(MostCurves) + u" curves; choose columns with --y");
         }
         m_plan.curves.emplace_back();
         m_plan.curves.back().label = std::move(label);
@@ -268,7 +268,7 @@ private:
 
     static void FinishAxis(Axis& axis)
     {
-        if (axis.title.size() > longestTitle) {
+        if (axis.title.size() > LongestTitle) {
             axis.title.clear();
         }
         axis.format =

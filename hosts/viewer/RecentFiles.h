@@ -8,7 +8,7 @@
 namespace Viewer::RecentFiles
 {
 
-constexpr std::size_t most = 8;
+constexpr std::size_t Most = 8;
 
 // The last one first. Empty where nothing is kept or it can't be read.
 [[nodiscard]] std::vector<std::u16string> List();

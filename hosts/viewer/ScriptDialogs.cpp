@@ -15,7 +15,7 @@ namespace
 {
 
 ScriptRunner* theRunner = nullptr; // a timer without a window has no place for it
-constexpr UINT patience = 20;      // milliseconds between two steps in a dialog
+constexpr UINT Patience = 20;      // milliseconds between two steps in a dialog
 
 } // namespace
 
@@ -24,7 +24,7 @@ ScriptRunner::ScriptRunner(Session& session) : m_session(session)
     // The pointer of the screen must not lie over a dialog.
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
     theRunner = this;
-    m_timer = SetTimer(nullptr, 0, patience, [](HWND, UINT, UINT_PTR, DWORD) {
+    m_timer = SetTimer(nullptr, 0, Patience, [](HWND, UINT, UINT_PTR, DWORD) {
         if (theRunner && theRunner->m_isRunning) {
             theRunner->RunInDialog();
         }

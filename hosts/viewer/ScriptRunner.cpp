@@ -20,7 +20,7 @@ namespace
 
 using Word = std::pair<std::u16string_view, unsigned>;
 
-constexpr std::array<Word, 25> commands = {{
+constexpr std::array<Word, 25> Commands = {{
     {u"select", VPX_COMMAND_SELECT},
     {u"zoom", VPX_COMMAND_ZOOM},
     {u"pan", VPX_COMMAND_PAN},
@@ -48,7 +48,7 @@ constexpr std::array<Word, 25> commands = {{
     {u"pie3d", MenuCommand::LastKind},
 }};
 
-constexpr std::array<Word, 12> keys = {{{u"home", VK_HOME},
+constexpr std::array<Word, 12> Keys = {{{u"home", VK_HOME},
                                         {u"add", VK_ADD},
                                         {u"subtract", VK_SUBTRACT},
                                         {u"left", VK_LEFT},
@@ -110,7 +110,7 @@ void ScriptRunner::RunStep(const Step& step)
         Turn(step.number);
         break;
     case Verb::Key:
-        Press(Look(keys, step.text));
+        Press(Look(Keys, step.text));
         break;
     case Verb::Type:
         Type(step.text);
@@ -174,7 +174,7 @@ bool ScriptRunner::RunMouse(const Step& step)
 void ScriptRunner::RunCommand(const Step& step)
 {
     const unsigned command =
-        step.text.empty() ? static_cast<unsigned>(step.number) : Look(commands, step.text);
+        step.text.empty() ? static_cast<unsigned>(step.number) : Look(Commands, step.text);
     const bool graphOnly = command >= VPX_COMMAND_SELECT;
     if (graphOnly) {
         (void)Graph(step);

@@ -24,7 +24,7 @@ struct VerbForm {
     Wants wants;
 };
 
-constexpr std::array<VerbForm, 23> forms = {{
+constexpr std::array<VerbForm, 23> Forms = {{
     {u"mode", Verb::Mode, Wants::Word},
     {u"command", Verb::Command, Wants::Word},
     {u"click", Verb::Click, Wants::OnePlace},
@@ -50,11 +50,11 @@ constexpr std::array<VerbForm, 23> forms = {{
     {u"dialog", Verb::Dialog, Wants::Text},
 }};
 
-constexpr std::u16string_view modes[] = {u"select", u"zoom", u"pan", u"cursor", u"measure", u"edit"};
-constexpr std::u16string_view keys[] = {u"home", u"add",    u"subtract", u"left",   u"right", u"up",
+constexpr std::u16string_view Modes[] = {u"select", u"zoom", u"pan", u"cursor", u"measure", u"edit"};
+constexpr std::u16string_view Keys[] = {u"home", u"add",    u"subtract", u"left",   u"right", u"up",
                                         u"down", u"delete", u"return",   u"escape", u"space", u"tab"};
-constexpr std::u16string_view pages[] = {u"chart", u"axis", u"curve"};
-constexpr std::u16string_view commands[] = {u"label",          u"zoom-back",
+constexpr std::u16string_view Pages[] = {u"chart", u"axis", u"curve"};
+constexpr std::u16string_view Commands[] = {u"label",          u"zoom-back",
                                             u"reset-zoom",     u"delete-measures",
                                             u"linear-trend",   u"cubic-trend",
                                             u"polynomial",     u"simple-average",
@@ -66,7 +66,7 @@ constexpr std::u16string_view commands[] = {u"label",          u"zoom-back",
                                             u"properties"};
 
 // The buttons that all dialogs have.
-constexpr std::array<std::pair<std::u16string_view, int>, 3> buttons = {
+constexpr std::array<std::pair<std::u16string_view, int>, 3> Buttons = {
     {{u"ok", 1}, {u"cancel", 2}, {u"apply", 5002}}};
 
 class LineParser
@@ -77,9 +77,9 @@ public:
     Step Parse()
     {
         const std::u16string_view word = NextWord();
-        const auto* form = std::find_if(forms.begin(), forms.end(),
+        const auto* form = std::find_if(Forms.begin(), Forms.end(),
                                         [&](const VerbForm& known) { return known.word == word; });
-        if (form == forms.end()) {
+        if (form == Forms.end()) {
             Refuse(u"unknown step " + Quote(word));
         }
         Step step{form->verb, m_line, {}, {}, 0};
@@ -137,10 +137,10 @@ private:
         const auto known = [&](const auto& words) {
             return std::find(std::begin(words), std::end(words), word) != std::end(words);
         };
-        const bool found = step.verb == Verb::Mode   ? known(modes)
-                           : step.verb == Verb::Key  ? known(keys)
-                           : step.verb == Verb::Page ? known(pages)
-                                                     : known(commands);
+        const bool found = step.verb == Verb::Mode   ? known(Modes)
+                           : step.verb == Verb::Key  ? known(Keys)
+                           : step.verb == Verb::Page ? known(Pages)
+                                                     : known(Commands);
         if (!found) {
             Refuse(u"unknown word " + Quote(word));
         }
@@ -151,7 +151,7 @@ private:
     {
         const std::u16string_view word = NextWord();
         Need(!word.empty());
-        for (const auto& [name, number] : buttons) {
+        for (const auto& [name, number] : Buttons) {
             if (name == word) {
                 return number;
             }

@@ -19,7 +19,7 @@ struct Operation {
     std::u16string_view hint;
 };
 
-constexpr std::array<Operation, 6> operations = {{
+constexpr std::array<Operation, 6> Operations = {{
     {0, u"select", u"Select: click an axis, a curve or a label; double-click for its properties"},
     {1, u"zoom", u"Zoom: drag a rectangle"},
     {3, u"pan", u"Pan: drag the view"},
@@ -40,7 +40,7 @@ template <std::size_t size, class... Values> std::u16string Format(const char* f
 
 std::u16string_view OperationName(int operation) noexcept
 {
-    for (const Operation& known : operations) {
+    for (const Operation& known : Operations) {
         if (known.number == operation) {
             return known.name;
         }
@@ -50,7 +50,7 @@ std::u16string_view OperationName(int operation) noexcept
 
 std::u16string_view OperationHint(int operation) noexcept
 {
-    for (const Operation& known : operations) {
+    for (const Operation& known : Operations) {
         if (known.number == operation) {
             return known.hint;
         }

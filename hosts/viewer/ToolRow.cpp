@@ -11,7 +11,7 @@ namespace Viewer
 namespace
 {
 
-constexpr int noOperation = -1;
+constexpr int NoOperation = -1;
 
 struct Button {
     unsigned command; // 0: a gap
@@ -19,18 +19,18 @@ struct Button {
     int operation;
 };
 
-constexpr std::array<Button, 11> buttons = {{
+constexpr std::array<Button, 11> Buttons = {{
     {VPX_COMMAND_SELECT, L"Select", 0},
     {VPX_COMMAND_ZOOM, L"Zoom", 1},
     {VPX_COMMAND_PAN, L"Pan", 3},
     {VPX_COMMAND_CURSOR, L"Cursor", 4},
     {VPX_COMMAND_MEASURE, L"Measure", 8},
     {VPX_COMMAND_EDIT, L"Edit points", 7},
-    {0, nullptr, noOperation},
-    {VPX_COMMAND_ZOOM_BACK, L"Zoom back", noOperation},
-    {VPX_COMMAND_RESET_ZOOM, L"Reset zoom", noOperation},
-    {0, nullptr, noOperation},
-    {VPX_COMMAND_INSERT_LABEL, L"Insert label", noOperation},
+    {0, nullptr, NoOperation},
+    {VPX_COMMAND_ZOOM_BACK, L"Zoom back", NoOperation},
+    {VPX_COMMAND_RESET_ZOOM, L"Reset zoom", NoOperation},
+    {0, nullptr, NoOperation},
+    {VPX_COMMAND_INSERT_LABEL, L"Insert label", NoOperation},
 }};
 
 } // namespace
@@ -43,12 +43,12 @@ ToolRow::ToolRow(HWND parent)
 {
     SendMessageW(m_window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SendMessageW(m_window, TB_SETBITMAPSIZE, 0, MAKELPARAM(0, 0)); // the buttons have texts alone
-    for (const Button& button : buttons) {
+    for (const Button& button : Buttons) {
         TBBUTTON item{};
         item.iBitmap = button.command ? I_IMAGENONE : 0;
         item.idCommand = static_cast<int>(button.command);
         item.fsState = TBSTATE_ENABLED;
-        const bool mode = button.operation != noOperation;
+        const bool mode = button.operation != NoOperation;
         item.fsStyle = static_cast<BYTE>(!button.command ? BTNS_SEP
                                          : mode          ? BTNS_CHECKGROUP | BTNS_AUTOSIZE
                                                          : BTNS_BUTTON | BTNS_AUTOSIZE);
@@ -60,12 +60,12 @@ ToolRow::ToolRow(HWND parent)
 
 void ToolRow::Show(bool graph, int operation)
 {
-    for (const Button& button : buttons) {
+    for (const Button& button : Buttons) {
         if (!button.command) {
             continue;
         }
         SendMessageW(m_window, TB_ENABLEBUTTON, button.command, graph);
-        if (button.operation != noOperation) {
+        if (button.operation != NoOperation) {
             SendMessageW(m_window, TB_CHECKBUTTON, button.command,
                          graph && button.operation == operation);
         }

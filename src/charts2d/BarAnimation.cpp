@@ -3,7 +3,7 @@
 namespace
 {
 
-constexpr std::int32_t holdTicks = 21;
+constexpr std::int32_t HoldTicks = 21;
 
 } // namespace
 
@@ -30,7 +30,7 @@ void CBarAnimation::Animate(std::int32_t segments, std::int32_t series) noexcept
 void CBarAnimation::GrowAll(std::int32_t&, std::int32_t) noexcept
 {
     if (m_nAnimationPercent >= 100) {
-        if (m_nHoldCount < holdTicks) {
+        if (m_nHoldCount < HoldTicks) {
             m_bAnimationHold = 1;
             ++m_nHoldCount;
         } else {
@@ -53,7 +53,7 @@ void CBarAnimation::GrowInTurn(std::int32_t& finished, std::int32_t count) noexc
         }
         if (!m_bAnimationHold) {
             m_nAnimationPercent = 0;
-        } else if (m_nHoldCount >= holdTicks) {
+        } else if (m_nHoldCount >= HoldTicks) {
             finished = 0;
             m_bAnimationHold = 0;
             m_nHoldCount = 0;

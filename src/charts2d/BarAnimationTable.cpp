@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr TBarAnimationRow rows[] = {
+constexpr TBarAnimationRow Rows[] = {
     {CBarAnimation::allGrow, &CBarAnimation::m_nGrowSegment, &TBarCounts::nSegments,
      &CBarAnimation::GrowAll, &CBarComposer::GrowingBars},
     {CBarAnimation::groupsGrow, &CBarAnimation::m_nGrowSegment, &TBarCounts::nSegments,
@@ -27,7 +27,7 @@ constexpr TBarAnimationRow rows[] = {
 const TBarAnimationRow* FindBarAnimation(std::int32_t type) noexcept
 {
     const auto* const found =
-        std::find_if(std::begin(rows), std::end(rows),
+        std::find_if(std::begin(Rows), std::end(Rows),
                      [type](const TBarAnimationRow& row) { return row.nType == type; });
-    return found != std::end(rows) ? found : nullptr;
+    return found != std::end(Rows) ? found : nullptr;
 }

@@ -2,9 +2,9 @@
 
 #include <optional>
 
+#include "base/Wrap.h"
 #include "charts2d/BarGeometry.h"
 #include "charts2d/Rectangles.h"
-#include "charts2d/Wrap32.h"
 
 using EKind = TBarStep::EKind;
 
@@ -53,8 +53,8 @@ void CBarComposer::GroupLabel(std::int32_t segment)
 // The label by equal steps, where series grow or anything fades.
 void CBarComposer::SteppedLabel(std::int32_t segment)
 {
-    using namespace Wrap32;
-    Label(segment, Add(StartX(), Mul(segment, ChartMeasures::GroupStep(m_Picture.Bars.Measures))));
+    using namespace Wrap;
+    Label(segment, Add(StartX(), Multiply(segment, ChartMeasures::GroupStep(m_Picture.Bars.Measures))));
 }
 
 void CBarComposer::AllLabels()
@@ -69,7 +69,7 @@ void CBarComposer::Bar(std::int32_t start, std::int32_t segment, std::int32_t se
     const BarGeometry::TBars& bars = m_Picture.Bars;
     const std::int32_t value = m_Table.Value(Place(segment), Place(series));
     std::int32_t height = BarGeometry::Height(bars, value, m_Picture.nMaximum);
-    if (percent != wholeHeight)
+    if (percent != WholeHeight)
         height = BarGeometry::GrownHeight(height, percent);
     const std::int32_t left = BarGeometry::Left(bars, start, segment, series);
     m_Picture.Steps.push_back({.kind = EKind::bar,
@@ -103,7 +103,7 @@ void CBarComposer::GrowingGroups()
     for (std::int32_t segment = 0; segment < Segments(); ++segment) {
         const bool grows = m_Animation.m_nGrowSegment < SegmentId(segment);
         GroupLabel(segment);
-        Group(StartX(), segment, grows ? m_Animation.m_nAnimationPercent : wholeHeight);
+        Group(StartX(), segment, grows ? m_Animation.m_nAnimationPercent : WholeHeight);
         if (grows)
             return;
     }
@@ -114,7 +114,7 @@ void CBarComposer::GrowingSeries()
     AllLabels();
     for (std::int32_t series = 0; series < Series(); ++series) {
         const bool grows = m_Animation.m_nGrowSeries < SeriesId(series);
-        WholeSeries(series, grows ? m_Animation.m_nAnimationPercent : wholeHeight);
+        WholeSeries(series, grows ? m_Animation.m_nAnimationPercent : WholeHeight);
         if (grows)
             return;
     }
@@ -130,13 +130,13 @@ void CBarComposer::FadingGroups()
 
     SteppedLabel(fading);
     const std::size_t begin = BeginFade();
-    Group(m_Picture.Bars.nFixedStartX, fading, wholeHeight);
+    Group(m_Picture.Bars.nFixedStartX, fading, WholeHeight);
     Mark(EKind::blend);
     EndFade(begin);
     for (std::int32_t segment = 0; segment < Segments(); ++segment) {
         if (SegmentId(segment) < SegmentId(fading)) {
             SteppedLabel(segment);
-            Group(m_Picture.Bars.nFixedStartX, segment, wholeHeight);
+            Group(m_Picture.Bars.nFixedStartX, segment, WholeHeight);
         }
     }
 }
@@ -152,12 +152,12 @@ void CBarComposer::FadingSeries()
 
     const std::size_t begin = BeginFade();
     for (std::int32_t segment = 0; segment < Segments(); ++segment) {
-        Bar(m_Picture.Bars.nFixedStartX, segment, fading, wholeHeight);
+        Bar(m_Picture.Bars.nFixedStartX, segment, fading, WholeHeight);
         Mark(EKind::blend);
     }
     EndFade(begin);
     for (std::int32_t series = 0; series < Series(); ++series) {
         if (SeriesId(series) < SeriesId(fading))
-            WholeSeries(series, wholeHeight);
+            WholeSeries(series, WholeHeight);
     }
 }

@@ -19,7 +19,7 @@ public:
     {
     }
 
-    void WholeBars() { AllBars(wholeHeight); }
+    void WholeBars() { AllBars(WholeHeight); }
     void GrowingBars() { AllBars(m_Animation.m_nAnimationPercent); }
     // Groups behind the one that grows do not exist yet, nor do their labels.
     void GrowingGroups();
@@ -31,7 +31,7 @@ public:
     void FadingSeries();
 
 private:
-    static constexpr std::int32_t wholeHeight = -1; // in place of a percent: the bar is not growing
+    static constexpr std::int32_t WholeHeight = -1; // in place of a percent: the bar is not growing
 
     [[nodiscard]] std::int32_t Segments() const noexcept { return m_Table.SegmentCount(); }
     [[nodiscard]] std::int32_t Series() const noexcept { return m_Table.SeriesCount(); }

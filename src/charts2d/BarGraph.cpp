@@ -26,7 +26,7 @@ void C2DBarGraph::Resize(TSize size)
 
 void C2DBarGraph::Draw(HDC hDC)
 {
-    SeriesPainter::DrawAxes(hDC, ChartMeasures::barFactors, m_ptGraph, m_szGraph, m_Data);
+    SeriesPainter::DrawAxes(hDC, ChartMeasures::BarFactors, m_ptGraph, m_szGraph, m_Data);
     const CValueTable table(m_Data);
     const TBarPicture picture = BarPicture::Compose(table, m_Animation, m_ptGraph, m_szGraph);
     if (!picture.bValueLabels)

@@ -16,8 +16,8 @@ struct TFactors {
     double dWidth;  // share of W that the groups take
     double dBarGap; // added before the space between bars is truncated
 };
-inline constexpr TFactors barFactors{0.6, 0.5};
-inline constexpr TFactors lineFactors{0.65, 0.0};
+inline constexpr TFactors BarFactors{0.6, 0.5};
+inline constexpr TFactors LineFactors{0.65, 0.0};
 
 struct TMeasures {
     double dArea = 0;              // A = Trunc(W * dWidth)

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "charts2d/Wrap32.h"
+#include "base/Wrap.h"
 
 namespace ChartPainter
 {
@@ -10,11 +10,11 @@ namespace ChartPainter
 namespace
 {
 
-constexpr std::size_t longestText = 8192;
+constexpr std::size_t LongestText = 8192;
 
 std::wstring_view Drawable(std::wstring_view text) noexcept
 {
-    return text.substr(0, longestText);
+    return text.substr(0, LongestText);
 }
 
 HFONT HandleOf(const CFont* font) noexcept
@@ -122,7 +122,7 @@ void DrawLegend(HDC hDC, const CFont* font, const LegendLayout::TShape& shape, T
     for (const TLegendRow& row : rows) {
         FillRectangle(hDC, LegendLayout::Mark(shape, legend, size, top), row.crMark);
         PutText(hDC, {legend.nTextLeft, top}, row.strText.View());
-        top = Wrap32::Add(top, TextHeight(hDC, row.strName.View()));
+        top = Wrap::Add(top, TextHeight(hDC, row.strName.View()));
     }
 }
 

@@ -5,4 +5,4 @@
 
 #include <cstdint>
 
-inline constexpr std::int32_t deviceReach = 1 << 16;
+inline constexpr std::int32_t DeviceReach = 1 << 16;

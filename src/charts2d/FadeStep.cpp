@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr std::uint32_t colorBits = 0xFFFFFF;
-constexpr std::size_t mostShapes = 32; // beyond, one rectangle around them all is cheaper
+constexpr std::uint32_t ColorBits = 0xFFFFFF;
+constexpr std::size_t MostShapes = 32; // beyond, one rectangle around them all is cheaper
 
 TRect AreaInWindow(TSize window, TPoint position, TSize size) noexcept
 {
@@ -65,7 +65,7 @@ void CFadeStep::Touch(const TRect& shape)
     TRect added = Rectangles::Common(Rectangles::Ordered(shape), m_rcPart);
     if (Rectangles::IsEmpty(added))
         return;
-    const bool all = m_Shapes.size() >= mostShapes;
+    const bool all = m_Shapes.size() >= MostShapes;
     // What has grown by one rectangle may reach another.
     for (auto other = m_Shapes.begin(); other != m_Shapes.end();) {
         if (!all && Rectangles::IsEmpty(Rectangles::Common(*other, added))) {
@@ -91,7 +91,7 @@ std::uint32_t CFadeStep::KeyColor() const
 {
     const TRect corner{m_ptCorner.x, m_ptCorner.y, m_ptCorner.x + 1, m_ptCorner.y + 1};
     if (!Rectangles::IsEmpty(Rectangles::Common(corner, m_rcPart)))
-        return Row(m_Second, corner, corner.top)[0] & colorBits;
+        return Row(m_Second, corner, corner.top)[0] & ColorBits;
     const COLORREF color = ::GetPixel(m_hTarget, corner.left, corner.top);
     return static_cast<std::uint32_t>(GetRValue(color)) << 16 |
            static_cast<std::uint32_t>(GetGValue(color)) << 8 | GetBValue(color);
@@ -118,7 +118,7 @@ void CFadeStep::CopyButKey(const TRect& part, std::uint32_t key)
         const auto target = Row(m_Result, part, y);
         std::transform(source.begin(), source.end(), target.begin(), target.begin(),
                        [key](std::uint32_t blended, std::uint32_t shown) {
-                           return (blended & colorBits) != key ? blended : shown;
+                           return (blended & ColorBits) != key ? blended : shown;
                        });
     }
 }

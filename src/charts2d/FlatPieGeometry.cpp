@@ -3,36 +3,36 @@
 #include <cmath>
 
 #include "base/Trunc.h"
+#include "base/Wrap.h"
 #include "charts2d/Rectangles.h"
-#include "charts2d/Wrap32.h"
 
 namespace FlatPieGeometry
 {
 
 double Angle(double percent) noexcept
 {
-    return percent / 100 * fullCircle;
+    return percent / 100 * FullCircle;
 }
 
 TPoint Start(TPoint position, TSize size) noexcept
 {
-    using namespace Wrap32;
+    using namespace Wrap;
     return {Add(position.x, size.cx), Add(size.cy / 2, position.y)};
 }
 
 TPoint ByHalves(TPoint position, TSize size, double angle) noexcept
 {
-    using namespace Wrap32;
+    using namespace Wrap;
     const std::int32_t halfX = size.cx / 2;
     const std::int32_t halfY = size.cy / 2;
     return {Add(Add(Trunc(std::cos(angle) * halfX), halfX), position.x),
-            Add(Sub(halfY, Trunc(std::sin(angle) * halfY)), position.y)};
+            Add(Subtract(halfY, Trunc(std::sin(angle) * halfY)), position.y)};
 }
 
 TPoint Rounded(TPoint position, TSize size, double angle, TPoint before) noexcept
 {
-    using namespace Wrap32;
-    if (!(angle >= 0 && angle <= fullCircle))
+    using namespace Wrap;
+    if (!(angle >= 0 && angle <= FullCircle))
         return before;
     const double halfX = size.cx * 0.5;
     const double halfY = size.cy * 0.5;
@@ -62,12 +62,12 @@ TRect Bounds(TPoint position, TSize size, TPoint start, TPoint end) noexcept
         const double x = (2.0 * (static_cast<double>(point.x) - position.x) - size.cx) / size.cx;
         const double y = (size.cy - 2.0 * (static_cast<double>(point.y) - position.y)) / size.cy;
         const double angle = std::atan2(y, x);
-        return angle < 0 ? angle + fullCircle : angle;
+        return angle < 0 ? angle + FullCircle : angle;
     };
     const double from = angleOf(start);
     double to = angleOf(end);
     if (to < from)
-        to += fullCircle;
+        to += FullCircle;
 
     const TPoint middle{position.x + size.cx / 2, position.y + size.cy / 2};
     TRect bounds{middle.x, middle.y, middle.x + 1, middle.y + 1};
@@ -77,7 +77,7 @@ TRect Bounds(TPoint position, TSize size, TPoint start, TPoint end) noexcept
     };
     include(from);
     include(to);
-    constexpr double quarter = fullCircle / 4;
+    constexpr double quarter = FullCircle / 4;
     for (double axis = std::ceil(from / quarter) * quarter; axis < to; axis += quarter)
         include(axis); // the arc's farthest points
     return Rectangles::Common(

@@ -16,7 +16,7 @@
 namespace FlatPieGeometry
 {
 
-inline constexpr double fullCircle = 2.0 * 3.14159265358979323846;
+inline constexpr double FullCircle = 2.0 * 3.14159265358979323846;
 
 [[nodiscard]] double Angle(double percent) noexcept;
 

@@ -74,6 +74,6 @@ void C2DPieGraph::DrawLegend(HDC hDC) const
         row.strText.Format(L"(%.1f%s)  %s", segment->dPercent, L"%", row.strName);
         rows.push_back(row);
     }
-    ChartPainter::DrawLegend(hDC, m_pLegendFont.get(), LegendLayout::pieShape, m_ptGraph, m_szGraph,
+    ChartPainter::DrawLegend(hDC, m_pLegendFont.get(), LegendLayout::PieShape, m_ptGraph, m_szGraph,
                              rows, m_crLegendText, m_crLegendBackground);
 }

@@ -23,7 +23,7 @@ void AddUnlessEmpty(std::vector<TFlatPieSlice>& slices, const TFlatPieSlice& sli
 double Turned(double angle, double percent)
 {
     const double sum = angle + FlatPieGeometry::Angle(percent);
-    return sum > FlatPieGeometry::fullCircle ? sum - FlatPieGeometry::fullCircle : sum;
+    return sum > FlatPieGeometry::FullCircle ? sum - FlatPieGeometry::FullCircle : sum;
 }
 
 void Still(TFlatPiePicture& picture, const CFlatPieData& data, const TBox& box)

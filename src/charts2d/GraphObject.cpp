@@ -8,9 +8,9 @@
 namespace
 {
 
-constexpr DWORD windowStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_BORDER;
-constexpr UINT_PTR timerId = 50000;
-constexpr UINT timerPeriod = 50; // milliseconds
+constexpr DWORD WindowStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_BORDER;
+constexpr UINT_PTR TimerId = 50000;
+constexpr UINT TimerPeriod = 50; // milliseconds
 
 } // namespace
 
@@ -35,7 +35,7 @@ BOOL CGraphObject::Create(LPCWSTR, LPCWSTR, DWORD, const RECT& rect, CWnd* pPare
     m_crBackground = 0xFFFFFF;
     m_bRedraw = true;
     MakeTitleFonts();
-    return CWnd::Create(nullptr, nullptr, windowStyle, CRect(place), pParentWnd, nID);
+    return CWnd::Create(nullptr, nullptr, WindowStyle, CRect(place), pParentWnd, nID);
 }
 
 void CGraphObject::MakeTitleFonts()
@@ -101,13 +101,13 @@ void CGraphObject::Repaint(BOOL bErase)
 void CGraphObject::StopTimer()
 {
     if (m_hWnd)
-        KillTimer(timerId);
+        KillTimer(TimerId);
 }
 
 void CGraphObject::RestartTimer()
 {
     if (m_hWnd && m_bAnimation == 1)
-        SetTimer(timerId, timerPeriod);
+        SetTimer(TimerId, TimerPeriod);
 }
 
 void CGraphObject::MoveWindowToGraph()

@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr COLORREF shadowColor = 0x808080;
+constexpr COLORREF ShadowColor = 0x808080;
 
 // A picture of the window's size, selected into a memory context. Both stay null where the
 // platform has no room for it.
@@ -121,7 +121,7 @@ void CGraphObject::DrawCaption(const WindowLayout::TTextPlace& place, const CStr
     const HDC hDC = *m_pMemDC;
     const ChartPainter::CSelection font(hDC, pFont ? static_cast<HFONT>(*pFont) : nullptr);
     if (bShadow) {
-        const ChartPainter::CTextColor shadow(hDC, shadowColor);
+        const ChartPainter::CTextColor shadow(hDC, ShadowColor);
         ChartPainter::PutText(hDC, place.Shadow, text.View());
     }
     const ChartPainter::CTextColor textColor(hDC, color);

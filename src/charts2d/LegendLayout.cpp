@@ -1,7 +1,7 @@
 #include "charts2d/LegendLayout.h"
 
 #include "base/Trunc.h"
-#include "charts2d/Wrap32.h"
+#include "base/Wrap.h"
 
 namespace LegendLayout
 {
@@ -9,8 +9,8 @@ namespace LegendLayout
 TLegend Layout(const TShape& shape, TPoint position, TSize size, std::int32_t rows,
                std::int32_t lineHeight) noexcept
 {
-    using namespace Wrap32;
-    const std::int32_t pad = Sub(size.cy, Mul(rows, lineHeight)) / 2;
+    using namespace Wrap;
+    const std::int32_t pad = Subtract(size.cy, Multiply(rows, lineHeight)) / 2;
     TLegend legend;
     legend.rcBox = {Add(position.x, Trunc(size.cx * shape.dBoxLeft)), Add(position.y, pad),
                     Add(position.x, Trunc(size.cx * shape.dBoxRight)),
@@ -23,7 +23,7 @@ TLegend Layout(const TShape& shape, TPoint position, TSize size, std::int32_t ro
 
 TRect Mark(const TShape& shape, const TLegend& legend, TSize size, std::int32_t top) noexcept
 {
-    using namespace Wrap32;
+    using namespace Wrap;
     return {legend.nLeft, Add(top, Trunc(size.cy * shape.dMarkTop) / 2),
             Add(legend.nLeft, Trunc(size.cx * shape.dMarkWidth)), Add(top, Trunc(size.cy * 0.075))};
 }

@@ -18,8 +18,8 @@ struct TShape {
     double dMarkWidth;
     double dMarkTop; // half of that part of H lies above a mark
 };
-inline constexpr TShape seriesShape{0.95, 1.25, 0.97, 0.05, 0.03};
-inline constexpr TShape pieShape{1.1, 1.75, 1.15, 0.1, 0.05};
+inline constexpr TShape SeriesShape{0.95, 1.25, 0.97, 0.05, 0.03};
+inline constexpr TShape PieShape{1.1, 1.75, 1.15, 0.1, 0.05};
 
 struct TLegend {
     TRect rcBox;

@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "base/Trunc.h"
-#include "charts2d/Wrap32.h"
+#include "base/Wrap.h"
 
 namespace
 {
 
-constexpr std::int32_t lastHoldTick = 20;
+constexpr std::int32_t LastHoldTick = 20;
 
 } // namespace
 
@@ -31,13 +31,13 @@ void CLineAnimation::SetAnimation(std::int32_t on, std::int32_t type, std::int32
 
 void CLineAnimation::Animate(std::int32_t segments, std::int32_t series, TPoint start)
 {
-    using namespace Wrap32;
+    using namespace Wrap;
     if (m_bAnimation != 1 || !IsKnown(m_nAnimationType))
         return;
-    if (m_nAnimationPercent >= Mul(m_nSegmentPercent, Add(m_nGrowSegment, 1)))
+    if (m_nAnimationPercent >= Multiply(m_nSegmentPercent, Add(m_nGrowSegment, 1)))
         ++m_nGrowSegment;
 
-    const std::int32_t runEnd = Mul(Sub(segments, 1), m_nSegmentPercent);
+    const std::int32_t runEnd = Multiply(Subtract(segments, 1), m_nSegmentPercent);
     if (m_nAnimationType == allDraw)
         DrawAll(runEnd, start);
     else
@@ -47,7 +47,7 @@ void CLineAnimation::Animate(std::int32_t segments, std::int32_t series, TPoint 
 void CLineAnimation::DrawAll(std::int32_t runEnd, TPoint start)
 {
     if (m_nAnimationPercent >= runEnd) {
-        if (m_nHoldCount > lastHoldTick) {
+        if (m_nHoldCount > LastHoldTick) {
             m_nGrowSegment = 0;
             StartRun(start);
         } else {
@@ -66,7 +66,7 @@ void CLineAnimation::DrawInTurn(std::int32_t runEnd, std::int32_t series, TPoint
         m_nGrowSegment = 0;
         if (m_nGrowSeries < series) {
             m_nAnimationPercent = 0;
-        } else if (m_nHoldCount > lastHoldTick) {
+        } else if (m_nHoldCount > LastHoldTick) {
             m_nGrowSeries = 0;
             StartRun(start);
         } else {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "base/Trunc.h"
+#include "base/Wrap.h"
 #include "charts2d/DeviceReach.h"
-#include "charts2d/Wrap32.h"
 
 namespace LineGeometry
 {
@@ -23,9 +23,9 @@ std::int32_t Nearest(double pixel) noexcept
 TPlot Measure(TPoint position, TSize size, std::int32_t segments, std::int32_t series) noexcept
 {
     TPlot plot;
-    plot.Measures = ChartMeasures::Measure(ChartMeasures::lineFactors, position, size, segments, series);
+    plot.Measures = ChartMeasures::Measure(ChartMeasures::LineFactors, position, size, segments, series);
     plot.nStep = ChartMeasures::GroupStep(plot.Measures);
-    plot.nBase = Wrap32::Add(position.y, Trunc(size.cy * 0.93));
+    plot.nBase = Wrap::Add(position.y, Trunc(size.cy * 0.93));
     plot.nHeight = Trunc(size.cy * 0.8);
     return plot;
 }
@@ -33,25 +33,25 @@ TPlot Measure(TPoint position, TSize size, std::int32_t segments, std::int32_t s
 std::int32_t PointY(const TPlot& plot, std::int32_t value, std::int32_t maximum) noexcept
 {
     const double share = static_cast<double>(value) / static_cast<double>(maximum);
-    return Wrap32::Sub(plot.nBase, Trunc(share * plot.nHeight));
+    return Wrap::Subtract(plot.nBase, Trunc(share * plot.nHeight));
 }
 
 TPoint Point(const TPlot& plot, std::int32_t k, std::int32_t value, std::int32_t maximum) noexcept
 {
-    using namespace Wrap32;
-    const std::int32_t left = Add(plot.Measures.nStartX, Mul(k, plot.nStep));
+    using namespace Wrap;
+    const std::int32_t left = Add(plot.Measures.nStartX, Multiply(k, plot.nStep));
     return {Add(left, plot.Measures.nGroupWidth / 2), PointY(plot, value, maximum)};
 }
 
 TPoint StartPoint(TPoint position, TSize size, std::int32_t segments) noexcept
 {
-    using namespace Wrap32;
+    using namespace Wrap;
     const double area = Trunc(size.cx * 0.7);
     const std::int32_t gap = Trunc(area / (segments * 4.0));
     const std::int32_t barGap = Trunc(gap * 0.125);
     const std::int32_t x0 = Add(position.x, Trunc(size.cx * 0.15));
     const std::int32_t y0 = Add(position.y, Trunc(size.cy * 0.95));
-    return {Add(x0, Mul(segments > 1 ? 4 : 2, barGap)), Sub(y0, Trunc(size.cy * 0.01))};
+    return {Add(x0, Multiply(segments > 1 ? 4 : 2, barGap)), Subtract(y0, Trunc(size.cy * 0.01))};
 }
 
 TPoint PartialEnd(TPoint from, TPoint to, std::int32_t rest, std::int32_t whole) noexcept
@@ -63,13 +63,13 @@ TPoint PartialEnd(TPoint from, TPoint to, std::int32_t rest, std::int32_t whole)
     const double length =
         std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2)) * (static_cast<double>(rest) / whole);
     const double angle = std::atan((y2 - y1) / (x2 - x1));
-    return {Wrap32::Add(Trunc(std::cos(angle) * length), from.x),
-            Wrap32::Add(Trunc(std::sin(angle) * length), from.y)};
+    return {Wrap::Add(Trunc(std::cos(angle) * length), from.x),
+            Wrap::Add(Trunc(std::sin(angle) * length), from.y)};
 }
 
 bool CutToDevice(TPoint& from, TPoint& to) noexcept
 {
-    constexpr double farthest = deviceReach;
+    constexpr double farthest = DeviceReach;
     const double stepX = static_cast<double>(to.x) - from.x;
     const double stepY = static_cast<double>(to.y) - from.y;
     double enter = 0;

@@ -12,12 +12,12 @@
 namespace
 {
 
-constexpr DWORD lineWidth = 3;
+constexpr DWORD LineWidth = 3;
 
 HPEN MakePen(COLORREF color)
 {
     const LOGBRUSH brush{BS_SOLID, color, 0};
-    return ::ExtCreatePen(PS_GEOMETRIC, lineWidth, &brush, 0, nullptr);
+    return ::ExtCreatePen(PS_GEOMETRIC, LineWidth, &brush, 0, nullptr);
 }
 
 void DrawLine(HDC hDC, TPoint from, TPoint to)
@@ -68,7 +68,7 @@ void C2DLineGraph::Animate()
 
 void C2DLineGraph::Draw(HDC hDC)
 {
-    SeriesPainter::DrawAxes(hDC, ChartMeasures::lineFactors, m_ptGraph, m_szGraph, m_Data);
+    SeriesPainter::DrawAxes(hDC, ChartMeasures::LineFactors, m_ptGraph, m_szGraph, m_Data);
     const CValueTable table(m_Data);
     const TLinePicture picture = LinePicture::Compose(table, m_Animation, m_ptGraph, m_szGraph);
     if (!picture.bValueLabels)

@@ -1,6 +1,6 @@
 #include "charts2d/LinePicture.h"
 
-#include "charts2d/Wrap32.h"
+#include "base/Wrap.h"
 
 namespace LinePicture
 {
@@ -50,10 +50,10 @@ private:
 
     void Label(std::size_t segment)
     {
-        using namespace Wrap32;
+        using namespace Wrap;
         const auto& measures = m_Picture.Plot.Measures;
         const auto place = static_cast<std::int32_t>(segment);
-        const std::int32_t left = Add(measures.nStartX, Mul(place, m_Picture.Plot.nStep));
+        const std::int32_t left = Add(measures.nStartX, Multiply(place, m_Picture.Plot.nStep));
         const std::int32_t centre = ChartMeasures::LabelCentre(measures, left, m_Table.SeriesCount());
         m_Picture.Steps.push_back(
             {TLineStep::EKind::label, place, {centre, ChartMeasures::LabelTop(measures, m_Size)}, {}});
@@ -81,7 +81,7 @@ private:
     // The lines from the beginning of a series up to the value of the segment in progress.
     void FinishedLines(std::size_t series)
     {
-        const std::int32_t endId = Wrap32::Add(m_Animation.m_nGrowSegment, 1);
+        const std::int32_t endId = Wrap::Add(m_Animation.m_nGrowSegment, 1);
         TPoint* const drawnEnd = DrawnEnd(series);
         std::int32_t k = 0;
         for (const SBarValue* value = m_Table.m_Series[series]->pValues;
@@ -96,7 +96,7 @@ private:
     // The line in progress from the segment's value to the next. False if no value follows.
     bool PartialLine(std::size_t segment, std::size_t series)
     {
-        using namespace Wrap32;
+        using namespace Wrap;
         const SBarValue* value = m_Table.m_Series[series]->FindValue(SegmentId(segment));
         if (!value || !value->pNext)
             return false;
@@ -112,8 +112,9 @@ private:
         }
         const TPoint to{Add(from.x, plot.nStep),
                         LineGeometry::PointY(plot, value->pNext->nValue, m_Picture.nMaximum)};
-        const std::int32_t rest = Sub(m_Animation.m_nAnimationPercent,
-                                      Mul(m_Animation.m_nSegmentPercent, m_Animation.m_nGrowSegment));
+        const std::int32_t rest =
+            Subtract(m_Animation.m_nAnimationPercent,
+                     Multiply(m_Animation.m_nSegmentPercent, m_Animation.m_nGrowSegment));
         Line(series, from, LineGeometry::PartialEnd(from, to, rest, m_Animation.m_nSegmentPercent));
         return true;
     }

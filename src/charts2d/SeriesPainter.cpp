@@ -23,7 +23,7 @@ void DrawLegend(HDC hDC, const CFont* font, TPoint position, TSize size, const C
         const CString name = ChartPainter::TextOf(series->strName);
         rows.push_back({series->crColor, name, name});
     }
-    ChartPainter::DrawLegend(hDC, font, LegendLayout::seriesShape, position, size, rows, text,
+    ChartPainter::DrawLegend(hDC, font, LegendLayout::SeriesShape, position, size, rows, text,
                              background);
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/Trunc.h"
-#include "charts2d/Wrap32.h"
+#include "base/Wrap.h"
 
 namespace WindowLayout
 {
@@ -20,23 +20,23 @@ TRect FromGraphCorner(TSize window, double share) noexcept
 {
     const TPoint corner = At(window, 0.05, 0.35);
     const TPoint extent = At(window, share, share);
-    return {corner.x, corner.y, Wrap32::Add(extent.x, corner.x), Wrap32::Add(extent.y, corner.y)};
+    return {corner.x, corner.y, Wrap::Add(extent.x, corner.x), Wrap::Add(extent.y, corner.y)};
 }
 
 } // namespace
 
 TSize AtLeastSmallest(TSize size) noexcept
 {
-    return {std::max(size.cx, smallestSide), std::max(size.cy, smallestSide)};
+    return {std::max(size.cx, SmallestSide), std::max(size.cy, SmallestSide)};
 }
 
 TRect AtLeastSmallest(TRect rect) noexcept
 {
-    using namespace Wrap32;
-    if (Sub(rect.right, rect.left) < smallestSide)
-        rect.right = Add(rect.left, smallestSide);
-    if (Sub(rect.bottom, rect.top) < smallestSide)
-        rect.bottom = Add(rect.top, smallestSide);
+    using namespace Wrap;
+    if (Subtract(rect.right, rect.left) < SmallestSide)
+        rect.right = Add(rect.left, SmallestSide);
+    if (Subtract(rect.bottom, rect.top) < SmallestSide)
+        rect.bottom = Add(rect.top, SmallestSide);
     return rect;
 }
 

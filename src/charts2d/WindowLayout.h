@@ -12,7 +12,7 @@ namespace WindowLayout
 // As CreateGraph takes it.
 enum EKind : std::int32_t { none = -1, bar = 0, flatPie = 1, line = 2 };
 
-inline constexpr std::int32_t smallestSide = 200;
+inline constexpr std::int32_t SmallestSide = 200;
 
 // Both sides raised to the smallest.
 [[nodiscard]] TSize AtLeastSmallest(TSize size) noexcept;

@@ -40,7 +40,7 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr int kGridStyleHeight = 16;
+constexpr int GridStyleHeight = 16;
 } // namespace
 
 void CAxisDlg::DoDataExchange(CDataExchange* pDX)
@@ -62,13 +62,13 @@ void CAxisDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Check(pDX, IDC_DATETIME, m_bDateTime);
     DDX_Check(pDX, IDC_VISIBLE, m_bVisible);
     DDX_Text(pDX, IDC_DECIMALS, m_nDecimals);
-    DDV_MinMaxUInt(pDX, m_nDecimals, 0, kMaxDecimals);
+    DDV_MinMaxUInt(pDX, m_nDecimals, 0, MaxDecimals);
     DDX_Text(pDX, IDC_ARCSIZE, m_nArcSize);
-    DDV_MinMaxUInt(pDX, m_nArcSize, 1, kMaxArcSize);
+    DDV_MinMaxUInt(pDX, m_nArcSize, 1, MaxArcSize);
     DDX_Text(pDX, IDC_TICKSIZE, m_nTickSize);
-    DDV_MinMaxUInt(pDX, m_nTickSize, 1, kMaxTickSize);
+    DDV_MinMaxUInt(pDX, m_nTickSize, 1, MaxTickSize);
     DDX_Text(pDX, IDC_MARKERSIZE, m_nMarkerSize);
-    DDV_MinMaxUInt(pDX, m_nMarkerSize, 1, kMaxMarkerSize);
+    DDV_MinMaxUInt(pDX, m_nMarkerSize, 1, MaxMarkerSize);
     DDX_Text(pDX, IDC_STEP, m_fStep);
     DDX_DateTimeCtrl(pDX, IDC_MAXDATE, m_dtMaxDate);
     DDX_DateTimeCtrl(pDX, IDC_MAXTIME, m_dtMaxTime);
@@ -80,7 +80,7 @@ void CAxisDlg::DoDataExchange(CDataExchange* pDX)
     DDX_CBIndex(pDX, IDC_GRIDSTYLE, m_nGridStyle);
     DDX_CBIndex(pDX, IDC_TIMEUNIT, m_nTimeUnit);
     DDX_Text(pDX, IDC_TIMESTEP, m_nTimeStep);
-    DDV_MinMaxUInt(pDX, m_nTimeStep, 1, kMaxTimeStep);
+    DDV_MinMaxUInt(pDX, m_nTimeStep, 1, MaxTimeStep);
 }
 
 BOOL CAxisDlg::OnInitDialog()
@@ -190,8 +190,8 @@ void CAxisDlg::OnMeasureItem(int nIDCtl, MEASUREITEMSTRUCT* lpMeasureItemStruct)
         CDialog::OnMeasureItem(nIDCtl, lpMeasureItemStruct);
         return;
     }
-    lpMeasureItemStruct->itemWidth = kGridStyleHeight;
-    lpMeasureItemStruct->itemHeight = kGridStyleHeight;
+    lpMeasureItemStruct->itemWidth = GridStyleHeight;
+    lpMeasureItemStruct->itemHeight = GridStyleHeight;
 }
 
 void CAxisDlg::OnDrawItem(int nIDCtl, DRAWITEMSTRUCT* lpDrawItemStruct)

@@ -71,11 +71,11 @@ protected:
     afx_msg void OnDrawItem(int nIDCtl, DRAWITEMSTRUCT* lpDrawItemStruct);
 
 private:
-    static constexpr UINT kMaxDecimals = 6;
-    static constexpr UINT kMaxArcSize = 10;
-    static constexpr UINT kMaxTickSize = 10;
-    static constexpr UINT kMaxMarkerSize = 20;
-    static constexpr UINT kMaxTimeStep = 22118400;
+    static constexpr UINT MaxDecimals = 6;
+    static constexpr UINT MaxArcSize = 10;
+    static constexpr UINT MaxTickSize = 10;
+    static constexpr UINT MaxMarkerSize = 20;
+    static constexpr UINT MaxTimeStep = 22118400;
 
     using SetFontOf = void (CXGraphAxis::*)(const LOGFONTW&);
 

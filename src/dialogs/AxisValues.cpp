@@ -12,8 +12,8 @@
 
 namespace
 {
-constexpr LPCWSTR kPlacements[] = {L"左", L"右", L"自动"};
-constexpr LPCWSTR kTimeUnits[] = {L"秒", L"分", L"时", L"天"};
+constexpr LPCWSTR Placements[] = {L"左", L"右", L"自动"};
+constexpr LPCWSTR UnitNames[] = {L"秒", L"分", L"时", L"天"};
 
 void AddRow(const CWnd& page, int nID, LPCWSTR pszText)
 {
@@ -39,9 +39,9 @@ void CAxisDlg::FillLists()
 {
     for (int nStyle = 0; nStyle < CurveRows::LineStyles; ++nStyle)
         AddRow(*this, IDC_GRIDSTYLE, L""); // drawn by its number
-    for (const LPCWSTR pszPlacement : kPlacements)
+    for (const LPCWSTR pszPlacement : Placements)
         AddRow(*this, IDC_PLACEMENT, pszPlacement);
-    for (const LPCWSTR pszUnit : kTimeUnits)
+    for (const LPCWSTR pszUnit : UnitNames)
         AddRow(*this, IDC_TIMEUNIT, pszUnit);
 }
 
@@ -81,10 +81,10 @@ void CAxisDlg::LoadFields()
 // The tick size's spin starts from the arrow's size; its edit shows the right one.
 void CAxisDlg::SetSpins()
 {
-    m_DecimalsSpin.SetRange(0, kMaxDecimals);
-    m_ArcSizeSpin.SetRange(1, kMaxArcSize);
-    m_TickSizeSpin.SetRange(1, kMaxTickSize);
-    m_MarkerSizeSpin.SetRange(1, kMaxMarkerSize);
+    m_DecimalsSpin.SetRange(0, MaxDecimals);
+    m_ArcSizeSpin.SetRange(1, MaxArcSize);
+    m_TickSizeSpin.SetRange(1, MaxTickSize);
+    m_MarkerSizeSpin.SetRange(1, MaxMarkerSize);
     m_MarkerSizeSpin.SetPos(static_cast<int>(m_nMarkerSize));
     m_ArcSizeSpin.SetPos(static_cast<int>(m_nArcSize));
     m_TickSizeSpin.SetPos(static_cast<int>(m_nArcSize));

@@ -19,7 +19,7 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr UINT kMaxSnapRange = 100;
+constexpr UINT MaxSnapRange = 100;
 } // namespace
 
 void CChartDlg::DoDataExchange(CDataExchange* pDX)
@@ -40,7 +40,7 @@ void CChartDlg::DoDataExchange(CDataExchange* pDX)
     DDX_CBIndex(pDX, IDC_CURVES, m_nCurve);
     DDX_Check(pDX, IDC_SNAPCURSOR, m_bSnapCursor);
     DDX_Text(pDX, IDC_SNAPRANGE, m_nSnapRange);
-    DDV_MinMaxUInt(pDX, m_nSnapRange, 0, kMaxSnapRange);
+    DDV_MinMaxUInt(pDX, m_nSnapRange, 0, MaxSnapRange);
 }
 
 CChartPage& CChartDlg::Sheet() const
@@ -52,7 +52,7 @@ BOOL CChartDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
     LoadFields();
-    m_SnapRangeSpin.SetRange(0, kMaxSnapRange);
+    m_SnapRangeSpin.SetRange(0, MaxSnapRange);
     FillLists();
     UpdateData(FALSE);
     return TRUE;

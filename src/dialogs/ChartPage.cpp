@@ -5,20 +5,13 @@
 #include "dialogs/CurveDlg.h"
 #include "graph/XGraph.h"
 
-#include <utility>
-
 BEGIN_MESSAGE_MAP(CChartPage, CDialog)
 ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, OnSelChange)
 END_MESSAGE_MAP()
 
 namespace
 {
-constexpr CPoint kPagePlace(8, 25); // in the tab control's coordinates
-
-template <class List> bool Holds(const List& list, int nIndex)
-{
-    return nIndex >= 0 && std::cmp_less(nIndex, list.size());
-}
+constexpr CPoint PagePlace(8, 25); // in the tab control's coordinates
 } // namespace
 
 CChartPage::CChartPage(CWnd* pParent)
@@ -78,7 +71,7 @@ CDialog& CChartPage::PageOf(int nTab) const
 void CChartPage::ShowPage(int nTab)
 {
     CDialog& page = PageOf(nTab);
-    page.SetWindowPos(&wndTop, kPagePlace.x, kPagePlace.y, 0, 0, SWP_NOSIZE);
+    page.SetWindowPos(&wndTop, PagePlace.x, PagePlace.y, 0, 0, SWP_NOSIZE);
     page.ShowWindow(SW_SHOW);
     page.EnableWindow();
     page.ModifyStyle(WS_CAPTION, 0);
@@ -102,19 +95,19 @@ void CChartPage::SetAxis(CXGraphAxis* pAxis)
 
 void CChartPage::SetXAxis(int nAxis)
 {
-    if (Holds(m_pGraph->m_XAxes, nAxis))
+    if (m_pGraph->m_XAxes.IsInside(nAxis))
         SetAxis(m_pGraph->GetXAxis(nAxis));
 }
 
 void CChartPage::SetYAxis(int nAxis)
 {
-    if (Holds(m_pGraph->m_YAxes, nAxis))
+    if (m_pGraph->m_YAxes.IsInside(nAxis))
         SetAxis(m_pGraph->GetYAxis(nAxis));
 }
 
 void CChartPage::SetCurve(int nCurve)
 {
-    if (!Holds(m_pGraph->m_Curves, nCurve))
+    if (!m_pGraph->m_Curves.IsInside(nCurve))
         return;
     m_pCurveDlg->m_pCurve = m_pGraph->GetCurve(nCurve);
     m_pCurveDlg->FillControls();

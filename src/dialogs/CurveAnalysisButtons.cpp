@@ -23,7 +23,7 @@ using Points = std::unique_ptr<TDataPoint[]>;
 using Average = TDataPoint* (CXGraphDataSerie::*)(int) const;
 
 // In the order of the dialog's list.
-constexpr std::array<Average, AnalysisTexts::AverageKinds> kAverages = {
+constexpr std::array<Average, AnalysisTexts::AverageKinds> Averages = {
     &CXGraphDataSerie::GetSimpleMovingAverage, &CXGraphDataSerie::GetLinearMovingAverage,
     &CXGraphDataSerie::GetExponentialMovingAverage, &CXGraphDataSerie::GetTriangularMovingAverage,
     &CXGraphDataSerie::GetSineWeightedMovingAverage};
@@ -41,7 +41,7 @@ void CCurveDlg::OnMovingAverage()
     const int nKind = dialog.m_nAverageType;
     if (nKind < 0 || nKind >= AnalysisTexts::AverageKinds)
         return;
-    const Average average = kAverages[static_cast<std::size_t>(nKind)];
+    const Average average = Averages[static_cast<std::size_t>(nKind)];
     const Points points((m_pCurve->*average)(static_cast<int>(dialog.m_nSpan)));
     AddCurve(points.get(), m_pCurve->m_nCount, CString(AnalysisTexts::Average(nKind)));
 }
@@ -73,7 +73,7 @@ void CCurveDlg::OnPolynomialTrend()
         return;
     const int nExpand = static_cast<int>(dialog.m_nExpand);
     const Points points(m_pCurve->GetPolynomialTrend(static_cast<int>(dialog.m_nDegree), nExpand));
-    if (points == nullptr) {
+    if (!points) {
         AfxMessageBox(IDS_NO_POLYNOMIAL_TREND);
         return;
     }
@@ -93,7 +93,7 @@ bool CCurveDlg::AddCurve(TDataPoint* pPoints, int nCount, const CString& strSuff
     CXGraphDataSerie* pAdded =
         m_pGraph->SetData(pPoints, nCount, static_cast<int>(m_pGraph->m_Curves.size()),
                           m_pCurve->m_nXAxis, m_pCurve->m_nYAxis, true);
-    if (pAdded == nullptr)
+    if (!pAdded)
         return false;
     SetCurve(*m_pGraph->GetCurve(nIndex));
     pAdded->m_cLabel = m_pCurve->m_cLabel + strSuffix;

@@ -41,9 +41,9 @@ END_MESSAGE_MAP()
 
 namespace
 {
-constexpr UINT kMaxLineSize = 5;
-constexpr UINT kMaxMarkerSize = 20;
-constexpr int kSymbol = 1; // of m_nMarkerType
+constexpr UINT MaxLineSize = 5;
+constexpr UINT MaxMarkerSize = 20;
+constexpr int Symbol = 1; // of m_nMarkerType
 
 // Takes the picture that a static control has loaded by its template.
 BOOL CALLBACK FreeTile(HWND hWnd, LPARAM)
@@ -67,7 +67,7 @@ void CCurveDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_COLOR, m_ColorButton);
     DDX_CBIndex(pDX, IDC_TYPE, m_nType);
     DDX_Text(pDX, IDC_LINESIZE, m_nLineSize);
-    DDV_MinMaxUInt(pDX, m_nLineSize, 1, kMaxLineSize);
+    DDV_MinMaxUInt(pDX, m_nLineSize, 1, MaxLineSize);
     DDX_CBIndex(pDX, IDC_LINESTYLE, m_nLineStyle);
     DDX_Check(pDX, IDC_SHOWMARKER, m_bShowMarker);
     DDX_Check(pDX, IDC_VISIBLE, m_bVisible);
@@ -78,7 +78,7 @@ void CCurveDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Radio(pDX, IDC_MARKER_NUMBERED, m_nMarkerType);
     DDX_CBIndex(pDX, IDC_MARKER, m_nMarker);
     DDX_Text(pDX, IDC_MARKERSIZE, m_nMarkerSize);
-    DDV_MinMaxUInt(pDX, m_nMarkerSize, 1, kMaxMarkerSize);
+    DDV_MinMaxUInt(pDX, m_nMarkerSize, 1, MaxMarkerSize);
     DDX_CBIndex(pDX, IDC_FILLCURVE, m_nFillCurve);
 }
 
@@ -91,7 +91,7 @@ BOOL CCurveDlg::OnInitDialog()
 
 void CCurveDlg::FillControls()
 {
-    if (m_pCurve == nullptr)
+    if (!m_pCurve)
         return;
     SetCurve(*m_pCurve);
     m_pGraph = m_pCurve->m_pGraph;
@@ -99,14 +99,14 @@ void CCurveDlg::FillControls()
     // Rows of an earlier filling stay; nothing is drawn in them past the eighth.
     for (int nSymbol = 0; nSymbol < CurveRows::Symbols; ++nSymbol)
         m_MarkerList.AddString(L"");
-    m_MarkerSizeSpin.SetRange(1, kMaxMarkerSize);
-    m_LineSizeSpin.SetRange(1, kMaxLineSize);
+    m_MarkerSizeSpin.SetRange(1, MaxMarkerSize);
+    m_LineSizeSpin.SetRange(1, MaxLineSize);
     LoadFields();
     SheetPage::EnableControls(*this,
                               {IDC_FILLSTYLE0, IDC_FILLCURVE, IDC_FILLSTYLE1, IDC_FILLSTYLE2,
                                IDC_FILLSTYLE3, IDC_FILLSTYLE4, IDC_FILLSTYLE5, IDC_FILLSTYLE6},
                               m_bFillBeneath != 0);
-    SheetPage::EnableControls(*this, {IDC_MARKER}, m_nMarkerType == kSymbol);
+    SheetPage::EnableControls(*this, {IDC_MARKER}, m_nMarkerType == Symbol);
     UpdateData(FALSE);
 }
 
@@ -193,7 +193,7 @@ void CCurveDlg::OnChange()
                                IDC_FILLCURVE},
                               m_bFillBeneath != 0);
     SheetPage::EnableControls(*this, {IDC_MARKER_SYMBOL, IDC_MARKER_NUMBERED}, m_bShowMarker != 0);
-    SheetPage::EnableControls(*this, {IDC_MARKER}, m_nMarkerType == kSymbol && m_bShowMarker != 0);
+    SheetPage::EnableControls(*this, {IDC_MARKER}, m_nMarkerType == Symbol && m_bShowMarker != 0);
 }
 
 LRESULT CCurveDlg::OnColorChange(WPARAM, LPARAM)
@@ -259,7 +259,7 @@ void CCurveDlg::OnDrawItem(int nIDCtl, DRAWITEMSTRUCT* lpDrawItemStruct)
 {
     if (nIDCtl == IDC_LINESTYLE)
         CurveRows::DrawLineStyle(*lpDrawItemStruct);
-    else if (nIDCtl == IDC_MARKER && m_pGraph != nullptr)
+    else if (nIDCtl == IDC_MARKER && m_pGraph)
         CurveRows::DrawSymbol(*lpDrawItemStruct, m_pGraph->m_pfnMarker);
     else
         CDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);

@@ -6,9 +6,9 @@
 namespace
 {
 
-constexpr int kHeight = 16;
-constexpr int kLineStyleWidth = 100;
-constexpr int kSymbolSize = 10;
+constexpr int Height = 16;
+constexpr int LineStyleWidth = 100;
+constexpr int SymbolSize = 10;
 
 // The row's context as a canvas; afterwards it is the platform's again, as it was.
 class CRowCanvas
@@ -35,14 +35,14 @@ private:
 
 void CurveRows::MeasureLineStyle(MEASUREITEMSTRUCT& item)
 {
-    item.itemHeight = kHeight;
-    item.itemWidth = kLineStyleWidth;
+    item.itemHeight = Height;
+    item.itemWidth = LineStyleWidth;
 }
 
 void CurveRows::MeasureSymbol(MEASUREITEMSTRUCT& item)
 {
-    item.itemHeight = kHeight;
-    item.itemWidth = kHeight;
+    item.itemHeight = Height;
+    item.itemWidth = Height;
 }
 
 void CurveRows::DrawLineStyle(const DRAWITEMSTRUCT& item)
@@ -61,6 +61,6 @@ void CurveRows::DrawSymbol(const DRAWITEMSTRUCT& item, const MarkerPainter (&pai
         return;
     CRowCanvas canvas(item);
     const bool bDisabled = (item.itemState & ODS_DISABLED) != 0;
-    painters[item.itemID](CPoint(item.rcItem.left + 2, item.rcItem.top + 2), kSymbolSize,
+    painters[item.itemID](CPoint(item.rcItem.left + 2, item.rcItem.top + 2), SymbolSize,
                           bDisabled ? ::GetSysColor(COLOR_INACTIVEBORDER) : 0, false, canvas.Get());
 }

@@ -13,7 +13,7 @@ bool Swallows(const MSG& message) noexcept
 
 void EndSheet(const CWnd& page, int nResult)
 {
-    if (const CWnd* pSheet = page.m_hWnd != nullptr ? page.GetParentOwner() : nullptr)
+    if (const CWnd* pSheet = page.m_hWnd ? page.GetParentOwner() : nullptr)
         pSheet->SendMessage(WM_COMMAND, static_cast<WPARAM>(nResult));
 }
 

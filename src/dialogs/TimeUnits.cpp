@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr double kHalfSecond = 5.787037037037037e-6; // in days
+constexpr double HalfSecond = 5.787037037037037e-6; // in days
 
 bool IsAboveAndMultiple(int nSeconds, int nUnitSeconds)
 {
@@ -14,7 +14,7 @@ bool IsAboveAndMultiple(int nSeconds, int nUnitSeconds)
 
 TimeUnits::TStep TimeUnits::Split(double fDays) noexcept
 {
-    const int nSeconds = Trunc((fDays + (fDays < 0 ? -kHalfSecond : kHalfSecond)) * 86400.0);
+    const int nSeconds = Trunc((fDays + (fDays < 0 ? -HalfSecond : HalfSecond)) * 86400.0);
     if (IsAboveAndMultiple(nSeconds, 86400))
         return {static_cast<unsigned>(nSeconds / 86400), Days};
     if (IsAboveAndMultiple(nSeconds, 1440))

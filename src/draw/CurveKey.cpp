@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr int kLargestKey = 32767; // more than any plot; the platform's cost grows with the size
+constexpr int LargestKey = 32767; // more than any plot; the platform's cost grows with the size
 
 bool IsDark(COLORREF color)
 {
@@ -24,20 +24,20 @@ bool IsDark(COLORREF color)
 } // namespace
 
 CCurveKeys::CCurveKeys(CDCEx* pDC, int nSize) noexcept
-    : m_pDC(pDC), m_nSize(std::clamp(nSize, -kLargestKey, kLargestKey))
+    : m_pDC(pDC), m_nSize(std::clamp(nSize, -LargestKey, LargestKey))
 {
 }
 
 void CCurveKeys::Draw(CPoint ptTopLeft, int nKey, COLORREF crColor, bool bSymbol)
 {
     if (bSymbol) {
-        if (nKey >= 0 && std::cmp_less(nKey, std::size(kMarkerPainters)))
-            kMarkerPainters[nKey](ptTopLeft, m_nSize, crColor, false, m_pDC);
+        if (nKey >= 0 && std::cmp_less(nKey, std::size(MarkerPainters)))
+            MarkerPainters[nKey](ptTopLeft, m_nSize, crColor, false, m_pDC);
         return;
     }
     const CRect rect(ptTopLeft.x, ptTopLeft.y, Wrap::Add(ptTopLeft.x, m_nSize),
                      Wrap::Add(ptTopLeft.y, m_nSize));
-    m_pDC->FillSolidRect(&rect, m_pDC->m_bMono ? kBlack : crColor);
+    m_pDC->FillSolidRect(&rect, m_pDC->m_bMono ? Black : crColor);
     DrawNumber(rect, nKey, crColor);
 }
 
@@ -48,7 +48,7 @@ void CCurveKeys::DrawNumber(const CRect& rect, int nKey, COLORREF crColor)
         m_numberFont.emplace(L"Arial", m_nSize, FW_THIN);
         m_selected.emplace(&*m_numberFont, m_pDC, true);
     }
-    const COLORREF crOld = m_pDC->SetTextColor(m_pDC->m_bMono || IsDark(crColor) ? kWhite : kBlack);
+    const COLORREF crOld = m_pDC->SetTextColor(m_pDC->m_bMono || IsDark(crColor) ? White : Black);
     CString cNumber;
     cNumber.Format(L"%d", static_cast<std::int64_t>(nKey) + 1);
     CRect rcText(rect);

@@ -1,6 +1,7 @@
 #include "draw/DeviceScale.h"
 
 #include "base/Trunc.h"
+#include "base/Wrap.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,9 +47,7 @@ TRect Scaled(const TRect& rect, float factorX, float factorY) noexcept
 
 std::int32_t ScaledFontHeight(std::int32_t height, float factorY) noexcept
 {
-    // Unsigned, since a font record from a file may hold the smallest int.
-    const auto lessOne = static_cast<std::int32_t>(static_cast<std::uint32_t>(height) - 1u);
-    return Scaled(lessOne, factorY);
+    return Scaled(Wrap::Subtract(height, 1), factorY); // a file may hold the smallest int
 }
 
 std::int32_t ScaledPenWidth(std::int32_t width, std::int32_t style, bool scaling, float factorX) noexcept

@@ -1,5 +1,6 @@
 #include "draw/Markers.h"
 
+#include "base/Colors.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 
@@ -9,15 +10,14 @@ namespace
 {
 COLORREF MarkerColour(COLORREF colour, const CDCEx& dc)
 {
-    return dc.m_bMono ? RGB(0, 0, 0) : colour;
+    return dc.m_bMono ? Black : colour;
 }
 
 // The outline and the fill of all symbols but the cross.
 class CSymbolLook
 {
 public:
-    CSymbolLook(COLORREF colour, CDCEx* dc)
-        : m_Pen(RGB(0, 0, 0), 1, dc), m_Brush(MarkerColour(colour, *dc), dc)
+    CSymbolLook(COLORREF colour, CDCEx* dc) : m_Pen(Black, 1, dc), m_Brush(MarkerColour(colour, *dc), dc)
     {
     }
 

@@ -19,7 +19,7 @@ void DrawTriangleRight(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpar
 void DrawTriangleDown(CPoint ptTopLeft, int nSize, COLORREF crColor, bool bSpare, CDCEx* pDC);
 
 // By marker number.
-inline constexpr MarkerPainter kMarkerPainters[] = {
+inline constexpr MarkerPainter MarkerPainters[] = {
     DrawSquare,       DrawCircle,     DrawCross,         DrawDiamond,
     DrawTriangleLeft, DrawTriangleUp, DrawTriangleRight, DrawTriangleDown,
 };

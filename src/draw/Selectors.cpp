@@ -36,7 +36,7 @@ CBrushSelector::~CBrushSelector()
 bool CBrushSelector::IsHatch(int nIndex) noexcept
 {
     const HBRUSH hBrush = ::CreateHatchBrush(nIndex, 0);
-    return hBrush != nullptr && ::DeleteObject(hBrush) != FALSE;
+    return hBrush && ::DeleteObject(hBrush) != FALSE;
 }
 
 CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale) : m_pDC(pDC)

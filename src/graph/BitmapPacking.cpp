@@ -24,7 +24,7 @@ public:
     ScreenWithPalette& operator=(const ScreenWithPalette&) = delete;
     ~ScreenWithPalette()
     {
-        if (m_hOldPalette != nullptr)
+        if (m_hOldPalette)
             ::SelectPalette(m_hDC, m_hOldPalette, TRUE);
         ::RealizePalette(m_hDC);
         ::ReleaseDC(nullptr, m_hDC);
@@ -80,14 +80,14 @@ Block::Block(Block&& other) noexcept : m_hGlobal(std::exchange(other.m_hGlobal, 
 
 Block::~Block()
 {
-    if (m_hGlobal != nullptr)
+    if (m_hGlobal)
         ::GlobalFree(m_hGlobal);
 }
 
 bool Block::Grow(std::size_t nSize) noexcept
 {
     const HGLOBAL hGrown = ::GlobalReAlloc(m_hGlobal, nSize, GMEM_MOVEABLE | GMEM_ZEROINIT);
-    if (hGrown == nullptr)
+    if (!hGrown)
         return false;
     m_hGlobal = hGrown;
     return true;
@@ -111,8 +111,8 @@ Block Pack(const CBitmap& bitmap, const CPalette& palette)
     block.GetHeader() = header;
 
     const HPALETTE hPalette = static_cast<HPALETTE>(palette.GetSafeHandle());
-    const ScreenWithPalette screen(
-        hPalette != nullptr ? hPalette : static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE)));
+    const ScreenWithPalette screen(hPalette ? hPalette
+                                            : static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE)));
     const auto nLines = static_cast<UINT>(header.biHeight);
     const std::uint64_t nImageSize = ImageSizeOf(screen, bitmap, header);
     if (nImageSize == 0 || nImageSize > std::numeric_limits<DWORD>::max() - nHeadSize)

@@ -14,14 +14,14 @@ class CLowPage
 public:
     CLowPage() noexcept
     {
-        for (ULONG_PTR address = Step; address < End && m_pPage == nullptr; address += Step)
+        for (ULONG_PTR address = Step; address < End && !m_pPage; address += Step)
             m_pPage = VirtualAlloc(reinterpret_cast<void*>(address), sizeof(TPointChange),
                                    MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-        m_pRecord = m_pPage != nullptr ? new (m_pPage) TPointChange : &m_Own;
+        m_pRecord = m_pPage ? new (m_pPage) TPointChange : &m_Own;
     }
     ~CLowPage()
     {
-        if (m_pPage != nullptr)
+        if (m_pPage)
             VirtualFree(m_pPage, 0, MEM_RELEASE);
     }
     CLowPage(const CLowPage&) = delete;

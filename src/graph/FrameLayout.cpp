@@ -1,6 +1,6 @@
 #include "graph/FrameLayout.h"
 
-#include "graph/WrapArithmetic.h"
+#include "base/Wrap.h"
 
 #include <algorithm>
 
@@ -9,8 +9,9 @@ namespace FrameLayout
 
 TRect GraphRect(const TRect& client, const Margins& margins) noexcept
 {
-    return {WrapAdd(client.left, margins.nLeft), WrapAdd(client.top, margins.nTop),
-            WrapSubtract(client.right, margins.nRight), WrapSubtract(client.bottom, margins.nBottom)};
+    return {Wrap::Add(client.left, margins.nLeft), Wrap::Add(client.top, margins.nTop),
+            Wrap::Subtract(client.right, margins.nRight),
+            Wrap::Subtract(client.bottom, margins.nBottom)};
 }
 
 void ResolvePlacement(std::span<YAxis> axes) noexcept
@@ -30,9 +31,9 @@ TRect Stack(const TRect& graph, std::span<YAxis> yAxes, std::span<XAxis> xAxes, 
     for (YAxis& axis : yAxes) {
         if (axis.placement != apLeft)
             continue;
-        const int width = std::max(axis.nLabelWidth, WrapAdd(axis.nTitleWidth, axis.nArcSize));
+        const int width = std::max(axis.nLabelWidth, Wrap::Add(axis.nTitleWidth, axis.nArcSize));
         if (axis.bVisible)
-            xLeft = WrapAdd(xLeft, WrapAdd(width, nAxisSpace));
+            xLeft = Wrap::Add(xLeft, Wrap::Add(width, nAxisSpace));
         axis.nOriginX = xLeft;
     }
 
@@ -42,19 +43,19 @@ TRect Stack(const TRect& graph, std::span<YAxis> yAxes, std::span<XAxis> xAxes, 
         if (axis.placement != apRight)
             continue;
         if (axis.bVisible)
-            xRight =
-                WrapSubtract(xRight, WrapAdd(std::max(axis.nLabelWidth, axis.nTitleWidth), nAxisSpace));
+            xRight = Wrap::Subtract(xRight,
+                                    Wrap::Add(std::max(axis.nLabelWidth, axis.nTitleWidth), nAxisSpace));
         axis.nOriginX = xRight;
     }
 
     int yBottom = graph.bottom;
     for (XAxis& axis : xAxes) {
         if (axis.bVisible)
-            yBottom = WrapSubtract(yBottom, WrapAdd(axis.nLabelHeight, nAxisSpace));
+            yBottom = Wrap::Subtract(yBottom, Wrap::Add(axis.nLabelHeight, nAxisSpace));
         axis.nOriginY = yBottom;
         axis.nOriginX = xLeft;
     }
-    return {WrapAdd(xLeft, 1), graph.top, xRight, yBottom};
+    return {Wrap::Add(xLeft, 1), graph.top, xRight, yBottom};
 }
 
 TRect Band(TPoint from, TPoint to, const TRect& frame) noexcept

@@ -12,14 +12,14 @@ namespace
 // The colours that the screen's palette holds now, where it has one.
 void TakeSystemPalette(const CDC& dc, CPalette& palette)
 {
-    constexpr UINT kEntries = 255;
+    constexpr UINT most = 255;
     struct {
         WORD palVersion;
         WORD palNumEntries;
-        PALETTEENTRY palPalEntry[kEntries];
+        PALETTEENTRY palPalEntry[most];
     } entries = {0x300, 0, {}};
     entries.palNumEntries =
-        static_cast<WORD>(::GetSystemPaletteEntries(dc.GetSafeHdc(), 0, kEntries, entries.palPalEntry));
+        static_cast<WORD>(::GetSystemPaletteEntries(dc.GetSafeHdc(), 0, most, entries.palPalEntry));
     if (entries.palNumEntries != 0)
         palette.CreatePalette(reinterpret_cast<const LOGPALETTE*>(&entries));
 }
@@ -47,7 +47,7 @@ void WriteBitmapFile(const BitmapPacking::Block& block, const CString& strFile)
 
 bool CXGraph::SaveBitmap(const CString& strFile)
 {
-    if (m_hWnd == nullptr)
+    if (!m_hWnd)
         return false;
     CWindowDC dcWindow(this);
     CDC dcMemory;

@@ -52,7 +52,7 @@ void CXGraph::AppendTrend(const CXGraphDataSerie& curve, std::unique_ptr<TDataPo
     const CString label = curve.m_cLabel + pszKind;
     CXGraphDataSerie* trend = SetData(points.get(), curve.m_nCount, static_cast<int>(m_Curves.size()),
                                       curve.m_nXAxis, curve.m_nYAxis, true);
-    if (trend != nullptr)
+    if (trend)
         trend->m_cLabel = label;
 }
 

@@ -9,26 +9,12 @@
 namespace
 {
 
-template <typename Element>
-[[nodiscard]] bool IsInside(const CCheckedVector<Element>& elements, int nIndex)
-{
-    return nIndex >= 0 && static_cast<std::size_t>(nIndex) < elements.size();
-}
-
 template <typename Element> bool SelectOne(CCheckedVector<Element>& elements, int nIndex)
 {
-    if (!IsInside(elements, nIndex))
+    if (!elements.IsInside(nIndex))
         return false;
     for (std::size_t i = 0; i < elements.size(); ++i)
         elements[i].m_bSelected = i == static_cast<std::size_t>(nIndex);
-    return true;
-}
-
-template <typename Element> bool EraseAt(CCheckedVector<Element>& elements, int nIndex)
-{
-    if (!IsInside(elements, nIndex))
-        return false;
-    elements.erase(elements.begin() + nIndex);
     return true;
 }
 
@@ -42,7 +28,7 @@ void AppendAxis(CCheckedVector<CXGraphAxis>& axes, CXGraph* pGraph, EAxisKind ki
 
 TDataExtent ExtentOf(const CXGraphDataSerie& curve)
 {
-    return DataExtent::Widen(DataExtent::kNothing, curve.Points());
+    return DataExtent::Widen(DataExtent::Nothing, curve.Points());
 }
 
 } // namespace
@@ -50,7 +36,7 @@ TDataExtent ExtentOf(const CXGraphDataSerie& curve)
 CXGraphDataSerie* CXGraph::SetData(TDataPoint* pValues, long nCount, int nCurve, int nXAxis, int nYAxis,
                                    bool bAutoDelete)
 {
-    if (pValues == nullptr || nCount <= 0)
+    if (!pValues || nCount <= 0)
         return nullptr;
 
     std::optional<TDataExtent> extent; // where the copying has found it already
@@ -101,12 +87,12 @@ bool CXGraph::WidenAxes(int nXAxis, int nYAxis, const TDataExtent& data)
 
 bool CXGraph::DeleteXAxis(int nAxis)
 {
-    return EraseAt(m_XAxes, nAxis);
+    return m_XAxes.EraseAt(nAxis);
 }
 
 bool CXGraph::DeleteYAxis(int nAxis)
 {
-    if (!IsInside(m_YAxes, nAxis))
+    if (!m_YAxes.IsInside(nAxis))
         return false;
     if (!m_XAxes.empty())
         m_XAxes.pop_back();
@@ -115,7 +101,7 @@ bool CXGraph::DeleteYAxis(int nAxis)
 
 bool CXGraph::DeleteCurve(int nCurve)
 {
-    return EraseAt(m_Curves, nCurve);
+    return m_Curves.EraseAt(nCurve);
 }
 
 bool CXGraph::SelectXAxis(int nAxis)

@@ -48,7 +48,7 @@ void CXGraph::OnLButtonUp(UINT, CPoint point)
 {
     if (!m_bLButtonDown)
         return;
-    ReleaseCapture();
+    ::ReleaseCapture();
     m_ptLButtonUp = point;
     m_ptPan = CPoint(0, 0);
     m_bLButtonDown = false;
@@ -126,7 +126,7 @@ void CXGraph::DragTo(CPoint point)
         else
             PanBy(point);
     }
-    if (!m_bLButtonDown || (m_opOperation != opZoom && m_opOperation != opMeasure) || m_hWnd == nullptr)
+    if (!m_bLButtonDown || (m_opOperation != opZoom && m_opOperation != opMeasure) || !m_hWnd)
         return;
     if (m_bDoubleBuffer) {
         if (m_opOperation == opZoom)
@@ -155,8 +155,8 @@ BOOL CXGraph::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT)
     else if (m_opOperation == opEditCurve && m_nSelectedCurve != -1)
         shape = IDC_SIZENS;
 
-    const HCURSOR cursor = shape != nullptr ? ::LoadCursorW(nullptr, shape) : nullptr;
-    if (cursor == nullptr)
+    const HCURSOR cursor = shape ? ::LoadCursorW(nullptr, shape) : nullptr;
+    if (!cursor)
         return static_cast<BOOL>(Default());
     ::SetCursor(cursor);
     return TRUE;

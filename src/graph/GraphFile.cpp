@@ -116,14 +116,11 @@ bool CXGraph::Load(const CString& strFile)
 // so such curves stay, but unseen.
 void CXGraph::HideIncompleteCurves()
 {
-    const auto inside = [](int nIndex, const auto& list) {
-        return nIndex >= 0 && static_cast<std::size_t>(nIndex) < list.size();
-    };
     for (CXGraphDataSerie& curve : m_Curves) {
         const bool partner = !curve.m_bFillBeneath ||
-                             curve.m_nFillCurve == CXGraphDataSerie::kFillToBottom ||
-                             inside(static_cast<short>(curve.m_nFillCurve), m_Curves);
-        if (!partner || !inside(curve.m_nXAxis, m_XAxes) || !inside(curve.m_nYAxis, m_YAxes))
+                             curve.m_nFillCurve == CXGraphDataSerie::FillToBottom ||
+                             m_Curves.IsInside(static_cast<short>(curve.m_nFillCurve));
+        if (!partner || !m_XAxes.IsInside(curve.m_nXAxis) || !m_YAxes.IsInside(curve.m_nYAxis))
             curve.m_bVisible = false;
     }
 }
@@ -145,7 +142,7 @@ void CXGraph::Serialize(CArchive& ar, UINT nFlags)
     }
     if ((flags & PERSIST_OBJECTS) != 0)
         ReadObjects(ar);
-    if (m_hWnd != nullptr)
+    if (m_hWnd)
         Invalidate();
 }
 
@@ -167,7 +164,7 @@ void CXGraph::Store(CArchive& ar, UINT nFlags)
     ar << static_cast<ULONGLONG>(m_Objects.GetCount() - 1);
     POSITION place = m_Objects.GetHeadPosition();
     m_Objects.GetNext(place); // the cursor's label is never stored
-    while (place != nullptr)
+    while (place)
         ar.WriteObject(m_Objects.GetNext(place));
 }
 

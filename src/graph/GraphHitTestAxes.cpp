@@ -1,7 +1,7 @@
+#include "base/Wrap.h"
 #include "graph/AxisClick.h"
 #include "graph/DragState.h"
 #include "graph/GraphHitTest.h"
-#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 namespace
@@ -20,12 +20,14 @@ int XPosition(CPoint point)
 
 CRect YBand(const CRect& inner, CPoint marker)
 {
-    return CRect(inner.left, WrapSubtract(marker.y, BandHalf), inner.right, WrapAdd(marker.y, BandHalf));
+    return CRect(inner.left, Wrap::Subtract(marker.y, BandHalf), inner.right,
+                 Wrap::Add(marker.y, BandHalf));
 }
 
 CRect XBand(const CRect& inner, CPoint marker)
 {
-    return CRect(WrapSubtract(marker.x, BandHalf), inner.top, WrapAdd(marker.x, BandHalf), inner.bottom);
+    return CRect(Wrap::Subtract(marker.x, BandHalf), inner.top, Wrap::Add(marker.x, BandHalf),
+                 inner.bottom);
 }
 } // namespace
 

@@ -1,6 +1,6 @@
 #include "graph/GraphLegendLayout.h"
 
-#include "graph/WrapArithmetic.h"
+#include "base/Wrap.h"
 
 #include <algorithm>
 
@@ -9,9 +9,9 @@ namespace GraphLegendLayout
 
 namespace
 {
-constexpr int kGap = 10;     // between the box and the edges of the graph rectangle
-constexpr int kKeyRoom = 16; // beside the widest text
-constexpr int kTextLeft = 12;
+constexpr int Gap = 10;     // between the box and the edges of the graph rectangle
+constexpr int KeyRoom = 16; // beside the widest text
+constexpr int TextLeft = 12;
 } // namespace
 
 Extent Measure(std::span<const TSize> texts) noexcept
@@ -19,7 +19,7 @@ Extent Measure(std::span<const TSize> texts) noexcept
     Extent extent;
     for (const TSize& text : texts) {
         extent.nWidth = std::max(extent.nWidth, text.cx);
-        extent.nHeight = WrapAdd(extent.nHeight, text.cy);
+        extent.nHeight = Wrap::Add(extent.nHeight, text.cy);
         extent.nRowHeight = text.cy;
     }
     return extent;
@@ -27,32 +27,32 @@ Extent Measure(std::span<const TSize> texts) noexcept
 
 TRect PlaceBox(EAlignment alignment, const Extent& extent, TRect& graph) noexcept
 {
-    const int width = WrapAdd(extent.nWidth, kKeyRoom);
-    const int room = WrapAdd(width, 2 * kGap);
+    const int width = Wrap::Add(extent.nWidth, KeyRoom);
+    const int room = Wrap::Add(width, 2 * Gap);
     TRect box;
     if (alignment == EAlignment::left) {
-        box.left = WrapAdd(graph.left, kGap);
-        box.right = WrapAdd(WrapAdd(graph.left, width), kGap);
-        graph.left = WrapAdd(graph.left, room);
+        box.left = Wrap::Add(graph.left, Gap);
+        box.right = Wrap::Add(Wrap::Add(graph.left, width), Gap);
+        graph.left = Wrap::Add(graph.left, room);
     } else {
-        box.left = WrapSubtract(WrapSubtract(graph.right, width), kGap);
-        box.right = WrapSubtract(graph.right, kGap);
-        graph.right = WrapSubtract(graph.right, room);
+        box.left = Wrap::Subtract(Wrap::Subtract(graph.right, width), Gap);
+        box.right = Wrap::Subtract(graph.right, Gap);
+        graph.right = Wrap::Subtract(graph.right, room);
     }
-    box.top = WrapAdd(graph.top, kGap);
-    box.bottom = WrapAdd(graph.top, WrapAdd(extent.nHeight, kGap + 2));
+    box.top = Wrap::Add(graph.top, Gap);
+    box.bottom = Wrap::Add(graph.top, Wrap::Add(extent.nHeight, Gap + 2));
     return box;
 }
 
 Row PlaceRow(const TRect& inner, int nOffset, int nRowHeight) noexcept
 {
-    const int top = WrapAdd(inner.top, nOffset);
-    const int bottom = WrapAdd(top, nRowHeight);
+    const int top = Wrap::Add(inner.top, nOffset);
+    const int bottom = Wrap::Add(top, nRowHeight);
     Row row;
-    row.text = {WrapAdd(inner.left, kTextLeft), top, inner.right, bottom};
+    row.text = {Wrap::Add(inner.left, TextLeft), top, inner.right, bottom};
     row.entry = {inner.left, top, inner.right, bottom};
-    row.key = {WrapAdd(inner.left, 2), WrapAdd(top, 1), WrapAdd(inner.left, 10),
-               WrapSubtract(bottom, 2)};
+    row.key = {Wrap::Add(inner.left, 2), Wrap::Add(top, 1), Wrap::Add(inner.left, 10),
+               Wrap::Subtract(bottom, 2)};
     return row;
 }
 

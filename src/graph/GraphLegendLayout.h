@@ -13,7 +13,7 @@
 namespace GraphLegendLayout
 {
 
-inline constexpr int kKeySize = 8;
+inline constexpr int KeySize = 8;
 
 // What the rows' texts measure together.
 struct Extent {

@@ -19,9 +19,9 @@ CXGraphLabel* CXGraph::InsertLabel(const CRect& rcRect, const CString& strText)
 
 CXGraphLabel* CXGraph::InsertCenteredLabel(const CString& strText)
 {
-    constexpr int kHalfSide = 50;
+    constexpr int halfSide = 50;
     CRect rcLabel(m_rcInner.CenterPoint(), CSize());
-    rcLabel.InflateRect(kHalfSide, kHalfSide);
+    rcLabel.InflateRect(halfSide, halfSide);
     return InsertLabel(rcLabel, strText);
 }
 
@@ -59,5 +59,5 @@ std::vector<TObjectRef> CXGraph::ListObjects() const
 
 bool CXGraph::Owns(const TObjectRef& entry) const
 {
-    return m_Objects.Find(entry.pObject) != nullptr && entry.pObject->m_nIdentity == entry.nIdentity;
+    return m_Objects.Find(entry.pObject) && entry.pObject->m_nIdentity == entry.nIdentity;
 }

@@ -41,7 +41,7 @@ private:
 
 COLORREF Shade(const CDCEx* pDC, COLORREF color)
 {
-    return pDC->m_bMono ? kWhite : color;
+    return pDC->m_bMono ? White : color;
 }
 
 // Fills a rectangle, but for the part that the caller fills right after where that lies wholly
@@ -86,7 +86,7 @@ bool IsFreeObject(const CXGraphObject& object)
 
 void CXGraph::Invalidate(BOOL bErase)
 {
-    if (m_hWnd != nullptr)
+    if (m_hWnd)
         CWnd::Invalidate(bErase);
 }
 
@@ -104,7 +104,7 @@ void CXGraph::OnSize(UINT nType, int cx, int cy)
 void CXGraph::OnPaint()
 {
     CPaintDC dcPaint(this);
-    if (m_pDrawDC != nullptr) {
+    if (m_pDrawDC) {
         PaintFrame(m_pDrawDC);
         return;
     }

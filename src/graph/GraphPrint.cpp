@@ -47,7 +47,7 @@ void CXGraph::Print()
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     CPrintDialog dialog(FALSE,
                         PD_NOPAGENUMS | PD_NOSELECTION | PD_USEDEVMODECOPIES | PD_HIDEPRINTTOFILE);
-    if (dialog.DoModal() != IDOK || dialog.GetPrinterDC() == nullptr)
+    if (dialog.DoModal() != IDOK || !dialog.GetPrinterDC())
         return;
     PrintTo(dialog.GetPrinterDC());
 }
@@ -67,7 +67,7 @@ void CXGraph::PrintTo(HDC hPrinter)
     ::EndDoc(hPrinter);
     // The page's layout gives way to the window's again.
     Invalidate();
-    if (m_hWnd != nullptr)
+    if (m_hWnd)
         UpdateWindow();
 }
 

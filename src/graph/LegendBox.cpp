@@ -42,9 +42,9 @@ void CLegendBox::Draw()
     m_graph.m_LegendEntries.clear();
     if (!GraphLegendLayout::HasBox(m_graph.m_nLegendAlignment))
         return;
-    const COLORREF crWindow = m_pDC->m_bMono ? kWhite : ::GetSysColor(COLOR_WINDOW);
+    const COLORREF crWindow = m_pDC->m_bMono ? White : ::GetSysColor(COLOR_WINDOW);
     const CFontSelector selectFont(&m_font, m_pDC, true);
-    const CPenSelector selectPen(kBlack, 1, m_pDC, PS_SOLID);
+    const CPenSelector selectPen(Black, 1, m_pDC, PS_SOLID);
     const CBrushSelector selectBrush(crWindow, m_pDC);
     m_pDC->Rectangle(&m_rcBox);
 
@@ -67,12 +67,12 @@ void CLegendBox::Draw()
 
 void CLegendBox::DrawKey(const CXGraphDataSerie& curve, const CRect& rcKey)
 {
-    const COLORREF color = m_pDC->m_bMono ? kBlack : curve.m_crColor;
+    const COLORREF color = m_pDC->m_bMono ? Black : curve.m_crColor;
     if (curve.m_nMarkerType == 0) {
         m_pDC->FillSolidRect(&rcKey, color);
         return;
     }
     // By the first Y axis, as its keys are: without one the process ends.
     m_graph.GetYAxis(0)->DrawCurveKey(m_pDC, CPoint(rcKey.left - 1, rcKey.top + 1), curve.m_nMarker,
-                                      GraphLegendLayout::kKeySize, color, true);
+                                      GraphLegendLayout::KeySize, color, true);
 }

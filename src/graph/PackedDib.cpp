@@ -21,7 +21,7 @@ std::uint32_t ColorCount(std::uint32_t nBitCount) noexcept
 
 std::uint32_t HeadSize(std::uint32_t nBitCount) noexcept
 {
-    return kInfoHeaderSize + 4 * ColorCount(nBitCount);
+    return InfoHeaderSize + 4 * ColorCount(nBitCount);
 }
 
 std::uint64_t ImageSize(std::uint32_t nWidth, std::uint32_t nHeight, std::uint32_t nBitCount) noexcept
@@ -32,15 +32,15 @@ std::uint64_t ImageSize(std::uint32_t nWidth, std::uint32_t nHeight, std::uint32
 
 std::uint32_t OffsetOfBits(std::uint32_t nHeaderSize, std::uint32_t nBitCount) noexcept
 {
-    return nHeaderSize + kFileHeaderSize + 4 * (1u << (nBitCount % 32));
+    return nHeaderSize + FileHeaderSize + 4 * (1u << (nBitCount % 32));
 }
 
-std::array<std::byte, kFileHeaderSize> FileHeader(std::uint32_t nBlockSize, std::uint32_t nHeaderSize,
-                                                  std::uint32_t nBitCount) noexcept
+std::array<std::byte, FileHeaderSize> FileHeader(std::uint32_t nBlockSize, std::uint32_t nHeaderSize,
+                                                 std::uint32_t nBitCount) noexcept
 {
-    std::array<std::byte, kFileHeaderSize> bytes{};
+    std::array<std::byte, FileHeaderSize> bytes{};
     Put(&bytes[0], 0x4D42, 2);
-    Put(&bytes[2], nBlockSize + kFileHeaderSize, 4);
+    Put(&bytes[2], nBlockSize + FileHeaderSize, 4);
     Put(&bytes[10], OffsetOfBits(nHeaderSize, nBitCount), 4);
     return bytes;
 }

@@ -9,8 +9,8 @@
 namespace PackedDib
 {
 
-inline constexpr std::uint32_t kInfoHeaderSize = 40;
-inline constexpr std::uint32_t kFileHeaderSize = 14;
+inline constexpr std::uint32_t InfoHeaderSize = 40;
+inline constexpr std::uint32_t FileHeaderSize = 14;
 
 // Colours in the table: as many as a pixel can name, if that is 256 at most, else none.
 [[nodiscard]] std::uint32_t ColorCount(std::uint32_t nBitCount) noexcept;
@@ -27,7 +27,7 @@ inline constexpr std::uint32_t kFileHeaderSize = 14;
 [[nodiscard]] std::uint32_t OffsetOfBits(std::uint32_t nHeaderSize, std::uint32_t nBitCount) noexcept;
 
 // The 14 bytes before the block.
-[[nodiscard]] std::array<std::byte, kFileHeaderSize>
+[[nodiscard]] std::array<std::byte, FileHeaderSize>
 FileHeader(std::uint32_t nBlockSize, std::uint32_t nHeaderSize, std::uint32_t nBitCount) noexcept;
 
 } // namespace PackedDib

@@ -40,7 +40,7 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr wchar_t kClassName[] = L"XGraph";
+constexpr wchar_t ClassName[] = L"XGraph";
 
 // The class serves hosts that place the control by its class name; the graph's own window
 // is made without it.
@@ -48,7 +48,7 @@ void RegisterGraphClass()
 {
     const HINSTANCE hInstance = AfxGetInstanceHandle();
     WNDCLASSW wndclass = {};
-    if (::GetClassInfoW(hInstance, kClassName, &wndclass))
+    if (::GetClassInfoW(hInstance, ClassName, &wndclass))
         return;
     wndclass = {};
     wndclass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
@@ -56,7 +56,7 @@ void RegisterGraphClass()
     wndclass.hInstance = hInstance;
     wndclass.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512)); // IDC_ARROW
     wndclass.hbrBackground = reinterpret_cast<HBRUSH>(16);
-    wndclass.lpszClassName = kClassName;
+    wndclass.lpszClassName = ClassName;
     if (!AfxRegisterClass(&wndclass))
         AfxThrowResourceException();
 }
@@ -78,7 +78,7 @@ CXGraph::CXGraph()
 CXGraph::~CXGraph()
 {
     GraphRegister::Remove(this);
-    if (m_hWnd != nullptr)
+    if (m_hWnd)
         DestroyWindow();
     ResetAll();
 }

@@ -154,7 +154,7 @@ public:
     static void FreeAll();
     [[nodiscard]] static int GetLiveCount(); // graphs alive in this module
 
-    static constexpr const auto& m_pfnMarker = kMarkerPainters; // by marker number
+    static constexpr const auto& m_pfnMarker = MarkerPainters; // by marker number
 
     // Settings, which show in the next frame. The host and the chart page write them; a file holds
     // the first eight, the margins and the space.

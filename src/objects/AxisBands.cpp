@@ -17,7 +17,7 @@
 namespace
 {
 
-constexpr UINT kSolidFill = 6;
+constexpr UINT SolidFill = 6;
 
 // The background mode, put back at the end.
 class CModeKeeper
@@ -35,7 +35,7 @@ private:
 
 void FillRange(CDCEx* pDC, const TColorRange& range, const CRect& rect)
 {
-    if (range.nStyle == kSolidFill) {
+    if (range.nStyle == SolidFill) {
         if (range.crMinColor != range.crMaxColor)
             return; // two colours have no drawn form
         CBrush brush(range.crMinColor);
@@ -129,7 +129,7 @@ void CXGraphAxis::DrawAxisMarker(CDCEx* pDC, const TAxisMarker& marker, int nPix
 
 int CXGraphAxis::DrawCurveKeys(CDCEx* pDC, bool bDraw)
 {
-    if (!m_bShowMarker || m_pGraph == nullptr)
+    if (!m_bShowMarker || !m_pGraph)
         return 0;
     const CRect plot = PlotRect();
     const int nAxis = PlotHost::AxisIndex(*m_pGraph, *this);

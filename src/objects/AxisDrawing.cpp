@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr std::size_t kUsualTicks = 64;
+constexpr std::size_t UsualTicks = 64;
 
 // Pixels between ticks along the axis; no ticks at all where the step is none.
 double PlaceStep(const CXGraphAxis& axis, int nFarEnd)
@@ -49,7 +49,7 @@ std::vector<TTick> LinearTicks(const CXGraphAxis& axis, double fPlaceStep)
                                .fPlaceStep = bVertical ? -fPlaceStep : fPlaceStep,
                                .bIncludeEnd = bVertical};
     std::vector<TTick> ticks;
-    ticks.reserve(kUsualTicks);
+    ticks.reserve(UsualTicks);
     TickWalk::Walk(walk, [&](double fValue, double fPlace) { ticks.push_back({fValue, fPlace}); });
     return ticks;
 }
@@ -58,7 +58,7 @@ std::vector<TTick> LogTicks(const CXGraphAxis& axis)
 {
     const AxisMapping::CMapper mapper(axis.GetScale(true));
     std::vector<TTick> ticks;
-    ticks.reserve(kUsualTicks);
+    ticks.reserve(UsualTicks);
     LogDecades::WalkTicks(axis.m_fCurMin, axis.m_fCurMax, [&](double fValue, bool bDecade) {
         ticks.push_back({fValue, static_cast<double>(mapper.Pixel(fValue)), bDecade});
     });

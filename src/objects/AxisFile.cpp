@@ -12,12 +12,12 @@
 namespace
 {
 
-constexpr std::size_t kMarkerSize = 128;
-constexpr std::size_t kMarkerFont = 24; // offset of the font in a marker's record
+constexpr std::size_t MarkerSize = 128;
+constexpr std::size_t MarkerFont = 24; // offset of the font in a marker's record
 
 static_assert(sizeof(LOGFONTW) == 92);
 
-using TMarkerRecord = std::array<BYTE, kMarkerSize>;
+using TMarkerRecord = std::array<BYTE, MarkerSize>;
 
 template <class Value> void Put(TMarkerRecord& record, std::size_t nOffset, const Value& value)
 {
@@ -39,7 +39,7 @@ TMarkerRecord ToRecord(const TAxisMarker& marker)
     record[13] = marker.bShowValue ? 1 : 0;
     Put(record, 16, marker.nStyle);
     Put(record, 20, marker.nSize);
-    Put(record, kMarkerFont, marker.lfFont);
+    Put(record, MarkerFont, marker.lfFont);
     return record;
 }
 
@@ -52,7 +52,7 @@ TAxisMarker FromRecord(const TMarkerRecord& record)
     marker.bShowValue = record[13] != 0;
     Get(record, 16, marker.nStyle);
     Get(record, 20, marker.nSize);
-    Get(record, kMarkerFont, marker.lfFont);
+    Get(record, MarkerFont, marker.lfFont);
     marker.lfFont.lfFaceName[LF_FACESIZE - 1] = 0;
     return marker;
 }
@@ -104,7 +104,7 @@ void CXGraphAxis::Store(CArchive& ar) const
         ar.Write(&range, sizeof range);
     ar << static_cast<ULONGLONG>(m_AxisMarkers.size());
     for (const TAxisMarker& marker : m_AxisMarkers)
-        ar.Write(ToRecord(marker).data(), kMarkerSize);
+        ar.Write(ToRecord(marker).data(), MarkerSize);
     WriteFont(ar, m_LabelFont);
     WriteFont(ar, m_TitleFont);
 }
@@ -130,9 +130,9 @@ void CXGraphAxis::Load(CArchive& ar)
         m_ColorRanges.push_back(range);
     }
     m_AxisMarkers.clear();
-    for (int nLeft = ArchiveCounts::ReadCount(ar, kMarkerSize); nLeft > 0; --nLeft) {
+    for (int nLeft = ArchiveCounts::ReadCount(ar, MarkerSize); nLeft > 0; --nLeft) {
         TMarkerRecord record = {};
-        ar.ReadExactly(record.data(), kMarkerSize);
+        ar.ReadExactly(record.data(), MarkerSize);
         m_AxisMarkers.push_back(FromRecord(record));
     }
     ReadFont(ar, m_LabelFont);

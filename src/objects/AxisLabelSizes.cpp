@@ -73,7 +73,7 @@ int CXGraphAxis::RoomForTicks() const
 
 void CXGraphAxis::RecalcStep()
 {
-    CWindowCanvas canvas(m_pGraph != nullptr ? PlotHost::Window(*m_pGraph).m_hWnd : nullptr);
+    CWindowCanvas canvas(m_pGraph ? PlotHost::Window(*m_pGraph).m_hWnd : nullptr);
     const int nRoom = RoomForTicks();
     const int nLength = nRoom == 0 ? 1 : nRoom;
     const int nSize = IsVertical() ? GetLabelHeight(canvas.Get()) : GetMaxLabelWidth(canvas.Get());

@@ -1,5 +1,7 @@
 #include "objects/AxisMapping.h"
 
+#include "base/Wrap.h"
+
 namespace AxisMapping
 {
 
@@ -23,10 +25,8 @@ std::int32_t ToPixel(const TScale& scale, double value) noexcept
 
 double ToValue(const TScale& scale, std::int32_t pixel) noexcept
 {
-    // 32-bit difference with wrap, as the platform's own integers would give.
-    const auto from = static_cast<std::uint32_t>(scale.bVertical ? pixel : scale.nOrigin);
-    const auto to = static_cast<std::uint32_t>(scale.bVertical ? scale.nOrigin : pixel);
-    const double distance = static_cast<std::int32_t>(to - from);
+    const double distance =
+        scale.bVertical ? Wrap::Subtract(scale.nOrigin, pixel) : Wrap::Subtract(pixel, scale.nOrigin);
     if (scale.bLog) {
         const double span = std::log10(scale.fMax) - std::log10(scale.fMin);
         return std::pow(10.0, std::log10(scale.fMin) + distance / scale.nLength * span);

@@ -9,8 +9,8 @@
 namespace
 {
 
-constexpr double kLineRoom = 2; // more than half a line's width
-constexpr int kHalfStrip = 5;   // of an axis's rectangle to each side of its line
+constexpr double LineRoom = 2; // more than half a line's width
+constexpr int HalfStrip = 5;   // of an axis's rectangle to each side of its line
 
 } // namespace
 
@@ -51,8 +51,8 @@ void CAxisTicks::DrawBackground(bool bMarkers)
     if (bMarkers)
         m_axis.DrawAxisMarkers(m_pDC);
     m_axis.m_fKeySpace = m_axis.DrawCurveKeys(m_pDC, true);
-    m_pDC->SetBkColor(
-        m_pDC->m_bMono || m_axis.m_pGraph == nullptr ? kWhite : PlotHost::GraphColor(*m_axis.m_pGraph));
+    m_pDC->SetBkColor(m_pDC->m_bMono || !m_axis.m_pGraph ? White
+                                                         : PlotHost::GraphColor(*m_axis.m_pGraph));
     m_pDC->SetBkMode(OPAQUE);
 }
 
@@ -154,7 +154,7 @@ void CAxisTicks::DrawGridLine(int nPlace)
                         nPlace);
         ptTo.SetPoint(bTickOnly ? m_axis.m_nOriginX : bLeft ? m_rcPlot.right : m_rcPlot.left, nPlace);
     }
-    if (!m_visible.Meets(CRect(ptFrom, ptTo), kLineRoom))
+    if (!m_visible.Meets(CRect(ptFrom, ptTo), LineRoom))
         return;
     m_pDC->MoveTo(ptFrom);
     m_pDC->LineTo(ptTo);
@@ -172,7 +172,7 @@ void CAxisTicks::DrawLine()
         m_axis.DrawAxisArrow(m_pDC, ptEnd, bVertical ? 1 : 2, m_axis.m_nArcSize);
     }
     m_axis.m_rcObject = bVertical ? CRect(ptEnd, ptOrigin) : CRect(ptOrigin, ptEnd);
-    m_axis.m_rcObject.InflateRect(bVertical ? kHalfStrip : 0, bVertical ? 0 : kHalfStrip);
+    m_axis.m_rcObject.InflateRect(bVertical ? HalfStrip : 0, bVertical ? 0 : HalfStrip);
     if (m_axis.m_bSelected)
         m_pDC->DrawFocusRect(&m_axis.m_rcObject);
 }

@@ -24,7 +24,7 @@
 namespace
 {
 
-constexpr int kSolidFill = 6;
+constexpr int SolidFill = 6;
 
 static_assert(sizeof(TPoint) == sizeof(POINT));
 
@@ -145,9 +145,9 @@ int CXGraphDataSerie::PenReach() const noexcept
 void CXGraphDataSerie::Draw(CDCEx* pDC)
 {
     m_Segments.clear();
-    if (m_pGraph == nullptr || Points().empty())
+    if (!m_pGraph || Points().empty())
         return;
-    const COLORREF crLine = pDC->m_bMono ? kBlack : m_bSelected ? m_crColor ^ 0xFFFFFF : m_crColor;
+    const COLORREF crLine = pDC->m_bMono ? Black : m_bSelected ? m_crColor ^ 0xFFFFFF : m_crColor;
     const CPenSelector pen(crLine, LineSize(), pDC, AxisPainting::PenStyle(m_nLineStyle));
     std::vector<TPoint> polygon;
     DrawShape(pDC, polygon);
@@ -173,7 +173,7 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
     CChain chain(polygon, reach);
 
     if (m_bFillBeneath) {
-        polygon.reserve(lines.kUsualPoints);
+        polygon.reserve(lines.UsualPoints);
         chain.Append(curve.PixelAt(0));
     }
     if (m_nType == gtScatter)
@@ -194,7 +194,7 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
     if (!m_bFillBeneath)
         return;
     chain.Append(ends.ptLast);
-    if (m_nFillCurve == kFillToBottom) {
+    if (m_nFillCurve == FillToBottom) {
         polygon.push_back({ends.ptLast.x, static_cast<std::int32_t>(plot.bottom)});
         polygon.push_back({ends.ptFirst.x, static_cast<std::int32_t>(plot.bottom)});
     } else {
@@ -217,10 +217,10 @@ void CXGraphDataSerie::AppendPartner(std::vector<TPoint>& polygon, int nReach) c
 void CXGraphDataSerie::DrawFill(CDCEx* pDC, std::vector<TPoint>& polygon)
 {
     const CFillMode mode(pDC, m_bFillTransparent);
-    const CPenSelector pen(kBlack, 0, pDC, PS_NULL);
-    const COLORREF crFill = pDC->m_bMono ? kBlack : m_crFillColor;
+    const CPenSelector pen(Black, 0, pDC, PS_NULL);
+    const COLORREF crFill = pDC->m_bMono ? Black : m_crFillColor;
     std::optional<CBrushSelector> brush;
-    if (m_nFillStyle == kSolidFill)
+    if (m_nFillStyle == SolidFill)
         brush.emplace(crFill, pDC);
     else if (CBrushSelector::IsHatch(m_nFillStyle))
         brush.emplace(m_nFillStyle, crFill, pDC);
@@ -231,7 +231,7 @@ void CXGraphDataSerie::DrawFill(CDCEx* pDC, std::vector<TPoint>& polygon)
 
 void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
 {
-    if (m_pGraph == nullptr || Points().empty())
+    if (!m_pGraph || Points().empty())
         return;
     CXGraphAxis& xAxis = PlotHost::XAxis(*m_pGraph, m_nXAxis);
     CXGraphAxis& yAxis = PlotHost::YAxis(*m_pGraph, m_nYAxis);
@@ -248,7 +248,7 @@ void CXGraphDataSerie::DrawMarkers(CDCEx* pDC)
         nStep = 1;
 
     const int nKey = m_nMarkerType != 0 ? m_nMarker : PlotHost::CurveIndex(*m_pGraph, *this);
-    const COLORREF crKey = pDC->m_bMono ? kBlack : m_crColor;
+    const COLORREF crKey = pDC->m_bMono ? Black : m_crColor;
     const std::int64_t nSize =
         m_nMarkerSize < 0 ? -static_cast<std::int64_t>(m_nMarkerSize) : m_nMarkerSize;
     const TRect reach = ReachOf(plot, nSize + 2);

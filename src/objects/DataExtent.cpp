@@ -55,18 +55,18 @@ TDataExtent WidenPlain(TDataExtent start, std::span<const TDataPoint> points) no
 
 TDataExtent Widen(TDataExtent start, std::span<const TDataPoint> points) noexcept
 {
-    constexpr std::size_t kLanes = 4;
+    constexpr std::size_t count = 4;
     const Lanes first{_mm_setr_pd(start.fMinX, start.fMinY), _mm_setr_pd(start.fMaxX, start.fMaxY)};
-    Lanes lanes[kLanes] = {first, first, first, first};
+    Lanes lanes[count] = {first, first, first, first};
 
     std::size_t i = 0;
-    for (; i + kLanes <= points.size(); i += kLanes) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
+    for (; i + count <= points.size(); i += count) {
+        for (std::size_t lane = 0; lane < count; ++lane)
             lanes[lane].Widen(_mm_loadu_pd(&points[i + lane].fXVal));
     }
     for (; i < points.size(); ++i)
         lanes[0].Widen(_mm_loadu_pd(&points[i].fXVal));
-    for (std::size_t lane = 1; lane < kLanes; ++lane) {
+    for (std::size_t lane = 1; lane < count; ++lane) {
         lanes[0].low = _mm_min_pd(lanes[lane].low, lanes[0].low);
         lanes[0].high = _mm_max_pd(lanes[lane].high, lanes[0].high);
     }

@@ -24,7 +24,7 @@ namespace DataExtent
 [[nodiscard]] TDataExtent WidenPlain(TDataExtent start, std::span<const TDataPoint> points) noexcept;
 
 // The extent of no points: to widen it by some is to find theirs.
-inline constexpr TDataExtent kNothing{
+inline constexpr TDataExtent Nothing{
     std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
     std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
 

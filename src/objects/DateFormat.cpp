@@ -12,19 +12,19 @@ namespace DateFormat
 namespace
 {
 
-constexpr std::array<std::u16string_view, 7> kDays = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
-                                                      u"Thursday", u"Friday", u"Saturday"};
-constexpr std::array<std::u16string_view, 12> kMonths = {
+constexpr std::array<std::u16string_view, 7> Days = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
+                                                     u"Thursday", u"Friday", u"Saturday"};
+constexpr std::array<std::u16string_view, 12> Months = {
     u"January", u"February", u"March",     u"April",   u"May",      u"June",
     u"July",    u"August",   u"September", u"October", u"November", u"December"};
 
 // Conversions that take the E modifier, and those that take O; without a locale both
 // change nothing.
-constexpr std::u16string_view kTakesE = u"cCxXyY";
-constexpr std::u16string_view kTakesO = u"deHImMSuUVwWy";
+constexpr std::u16string_view TakesE = u"cCxXyY";
+constexpr std::u16string_view TakesO = u"deHImMSuUVwWy";
 
 // Conversions that lose leading zeros and blanks by the # flag; on others it is ignored.
-constexpr std::u16string_view kFilled = u"CdDeFHIjmMrRSTUVWyY";
+constexpr std::u16string_view Filled = u"CdDeFHIjmMrRSTUVWyY";
 
 std::u16string_view NameOf(std::span<const std::u16string_view> names, int index) noexcept
 {
@@ -130,7 +130,7 @@ void CWriter::Zone(char16_t letter)
     broken.tm_sec = m_fields.nSecond;
     broken.tm_wday = m_fields.nWeekDay;
     broken.tm_yday = m_fields.nYearDay - 1;
-    std::array<wchar_t, kBufferSize> buffer = {};
+    std::array<wchar_t, BufferSize> buffer = {};
     const std::size_t length =
         std::wcsftime(buffer.data(), buffer.size(), letter == u'z' ? L"%z" : L"%Z", &broken);
     m_text.append(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length));
@@ -140,17 +140,17 @@ bool CWriter::ConvertDay(char16_t letter)
 {
     switch (letter) {
     case u'a':
-        m_text += NameOf(kDays, m_fields.nWeekDay).substr(0, 3);
+        m_text += NameOf(Days, m_fields.nWeekDay).substr(0, 3);
         return true;
     case u'A':
-        m_text += NameOf(kDays, m_fields.nWeekDay);
+        m_text += NameOf(Days, m_fields.nWeekDay);
         return true;
     case u'b':
     case u'h':
-        m_text += NameOf(kMonths, m_fields.nMonth - 1).substr(0, 3);
+        m_text += NameOf(Months, m_fields.nMonth - 1).substr(0, 3);
         return true;
     case u'B':
-        m_text += NameOf(kMonths, m_fields.nMonth - 1);
+        m_text += NameOf(Months, m_fields.nMonth - 1);
         return true;
     case u'C':
         Number((m_fields.nYear - Modulo(m_fields.nYear, 100)) / 100, 2);
@@ -283,7 +283,7 @@ bool CWriter::ConvertAlternate(char16_t letter)
         All(letter == u'c' ? u"%A, %B %d, %Y, %H:%M:%S" : u"%A, %B %d, %Y");
         return true;
     }
-    m_bWithoutFill = kFilled.find(letter) != std::u16string_view::npos;
+    m_bWithoutFill = Filled.find(letter) != std::u16string_view::npos;
     const bool bKnown = Convert(letter);
     m_bWithoutFill = false;
     return bKnown;
@@ -295,7 +295,7 @@ std::size_t ModifierLength(std::u16string_view rest) noexcept
 {
     if (rest.size() < 2)
         return 0;
-    const auto takes = rest[0] == u'E' ? kTakesE : rest[0] == u'O' ? kTakesO : std::u16string_view();
+    const auto takes = rest[0] == u'E' ? TakesE : rest[0] == u'O' ? TakesO : std::u16string_view();
     return takes.find(rest[1]) != std::u16string_view::npos ? 1 : 0;
 }
 
@@ -304,7 +304,7 @@ std::size_t ModifierLength(std::u16string_view rest) noexcept
 std::u16string FormatDate(std::u16string_view format, const TDateFields& fields)
 {
     CWriter writer(fields);
-    for (std::size_t i = 0; i < format.size() && writer.Length() < kBufferSize; ++i) {
+    for (std::size_t i = 0; i < format.size() && writer.Length() < BufferSize; ++i) {
         if (format[i] != u'%' || i + 1 == format.size()) {
             writer.Literal(format.substr(i, 1));
             continue;
@@ -318,7 +318,7 @@ std::u16string FormatDate(std::u16string_view format, const TDateFields& fields)
         else
             writer.Literal(u"%");
     }
-    return writer.Length() < kBufferSize ? writer.Take() : std::u16string();
+    return writer.Length() < BufferSize ? writer.Take() : std::u16string();
 }
 
 } // namespace DateFormat

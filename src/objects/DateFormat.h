@@ -21,10 +21,10 @@ struct TDateFields {
 };
 
 // Units of the buffer that a text and its terminator have to fit in.
-inline constexpr std::size_t kBufferSize = 256;
+inline constexpr std::size_t BufferSize = 256;
 
 // The text of a value that is no date.
-inline constexpr std::u16string_view kInvalidText = u"Invalid DateTime";
+inline constexpr std::u16string_view InvalidText = u"Invalid DateTime";
 
 // The text in the run-time's "C" locale, with its # flag (%#d is a day without a zero before
 // it, %#x a date in words). Conversions that the C standard doesn't know stay

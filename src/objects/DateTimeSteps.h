@@ -6,7 +6,7 @@ namespace DateTimeSteps
 {
 
 // 1970-01-01 00:00:00, the anchor of all ticks.
-inline constexpr double kEpoch = 25569.0;
+inline constexpr double Epoch = 25569.0;
 
 // Whole seconds from one date to another, to the nearest half second. Not a number where
 // one of the dates isn't.
@@ -17,7 +17,7 @@ inline constexpr double kEpoch = 25569.0;
 // infinite or undefined.
 bool CalcDateTimeStep(int n, double lower, double upper, double& step) noexcept;
 
-// Rounds the bounds outward to whole steps counted from kEpoch. The multiples are formed in
+// Rounds the bounds outward to whole steps counted from Epoch. The multiples are formed in
 // unsigned 32-bit seconds: bounds before 1970 wrap around. Steps under a second and dates
 // without a number change nothing.
 void AdjustDateTimeRange(double& lower, double& upper, double step) noexcept;

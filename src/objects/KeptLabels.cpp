@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr std::size_t kMostLabels = 128;
-constexpr int kLongestText = 64;
+constexpr std::size_t MostLabels = 128;
+constexpr int LongestText = 64;
 
 bool IsSame(const LOGFONTW& one, const LOGFONTW& other) noexcept
 {
@@ -41,14 +41,14 @@ CKeptLabels::Label CKeptLabels::Find(double fValue) const noexcept
 
 void CKeptLabels::Keep(const Label& label)
 {
-    if (label->cText.GetLength() > kLongestText)
+    if (label->cText.GetLength() > LongestText)
         return;
-    if (m_labels.size() < kMostLabels) {
+    if (m_labels.size() < MostLabels) {
         m_labels.push_back(label);
         return;
     }
     m_labels[m_nOldest] = label;
-    m_nOldest = (m_nOldest + 1) % kMostLabels;
+    m_nOldest = (m_nOldest + 1) % MostLabels;
 }
 
 const CSize* CKeptTitle::Find(const LOGFONTW& look, const CString& cText) const noexcept

@@ -13,8 +13,8 @@ namespace ColumnWalk
 namespace
 {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr TBand kNoBand{1, 0};
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr TBand NoBand{1, 0};
 
 // Points of a run that are mapped one by one before its band is worth two powers.
 constexpr std::size_t Near = 16;
@@ -40,7 +40,7 @@ TBand SureBand(const AxisMapping::CMapper& x, TColumns columns) noexcept
 {
     const bool bRegular = std::isfinite(x.Start()) && std::isfinite(x.Span()) && x.Span() > 0;
     if (!bRegular || !(x.Length() > 0))
-        return kNoBand;
+        return NoBand;
     // Pixels are cut toward zero. The smallest int is also the column of all places below it.
     const bool bOpen = columns.nFirst == INT32_MIN;
     const double fFirst = columns.nFirst > 0 ? columns.nFirst : columns.nFirst - 1.0;
@@ -51,14 +51,14 @@ TBand SureBand(const AxisMapping::CMapper& x, TColumns columns) noexcept
     const double fLargestLog = std::max(std::fabs(logAt(fFirst)), std::fabs(logAt(fEnd)));
     const double fRoom = 2 * PlaceError(x, fLargestLog, std::max(std::fabs(fFirst), std::fabs(fEnd)));
     if (!(fRoom < 0.25))
-        return kNoBand;
+        return NoBand;
     // Numbers only: an infinity, a zero and what is below them have columns of their own.
     // The smallest of them have too few digits left for a bound.
     double fHigh = std::min(std::pow(10.0, logAt(fEnd - fRoom)), DBL_MAX);
     if (fHigh < DBL_MIN)
         fHigh = 0;
     if (bOpen)
-        return {-kInfinity, fHigh};
+        return {-Infinity, fHigh};
     return {std::max(std::pow(10.0, logAt(fFirst + fRoom)), DBL_MIN), fHigh};
 }
 
@@ -98,7 +98,7 @@ std::size_t CLogColumns::RunStart(std::size_t from, std::size_t index) const noe
 {
     const std::int32_t nColumn = m_x.Pixel(m_points[index].fXVal);
     const TColumns column{nColumn, nColumn};
-    const TBand band = m_bAscending ? SureBand(m_x, column) : kNoBand;
+    const TBand band = m_bAscending ? SureBand(m_x, column) : NoBand;
     while (index > from && IsIn(index - 1, column)) {
         --index;
         if (!band.Contains(m_points[index].fXVal))

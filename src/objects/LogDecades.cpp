@@ -16,7 +16,7 @@ struct TStep {
 
 std::optional<TStep> FindStep(double bound, bool strict) noexcept
 {
-    for (double decade = kLowestLower; bound > decade; decade *= 10) {
+    for (double decade = LowestLower; bound > decade; decade *= 10) {
         for (double value = decade; value < 10 * decade; value += decade) {
             if (strict ? value > bound : value >= bound)
                 return TStep{value, decade};
@@ -33,10 +33,10 @@ void FloorBounds(double& lower, double& upper) noexcept
         lower *= 0.1;
         upper *= 10.0;
     }
-    if (lower < kLowestLower)
-        lower = kLowestLower;
-    if (upper < kLowestUpper)
-        upper = kLowestUpper;
+    if (lower < LowestLower)
+        lower = LowestLower;
+    if (upper < LowestUpper)
+        upper = LowestUpper;
 }
 
 void WalkBounds(double& lower, double& upper, bool strict) noexcept

@@ -5,8 +5,8 @@
 namespace LogDecades
 {
 
-inline constexpr double kLowestLower = 1e-16;
-inline constexpr double kLowestUpper = 1e-15;
+inline constexpr double LowestLower = 1e-16;
+inline constexpr double LowestUpper = 1e-15;
 
 // Bounds as a logarithmic scale takes them: equal ones a decade apart on each side, then
 // nothing under the lowest.

@@ -1,5 +1,7 @@
 #include "objects/MovingAverages.h"
 
+#include "base/Wrap.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -87,9 +89,7 @@ void Triangular(std::span<const TDataPoint> points, int span, std::span<TDataPoi
 
 void SineWeighted(std::span<const TDataPoint> points, int span, std::span<TDataPoint> average)
 {
-    // span + 1 is a 32-bit sum, which wraps for the largest span.
-    const auto parts = static_cast<std::int32_t>(static_cast<std::uint32_t>(span) + 1u);
-    const double angle = 3.14159265358979 / parts;
+    const double angle = 3.14159265358979 / Wrap::Add(span, 1);
     const int widest = WidestWindow(points, span);
     std::vector<double> weights(static_cast<std::size_t>(widest) + 1); // sin(j * angle) at j
     std::vector<double> totals(weights.size());                        // of the weights 1..w at w

@@ -11,7 +11,7 @@ namespace PointCopy
 TPointFacts Copy(std::span<const TDataPoint> points, TDataPoint* pTo) noexcept
 {
     constexpr std::size_t block = 512; // both copies fit the smallest cache
-    TPointFacts facts{DataExtent::kNothing, !points.empty()};
+    TPointFacts facts{DataExtent::Nothing, !points.empty()};
     for (std::size_t from = 0; from < points.size(); from += block) {
         const std::span<const TDataPoint> copied(pTo + from, std::min(block, points.size() - from));
         std::copy_n(points.begin() + static_cast<std::ptrdiff_t>(from), copied.size(), pTo + from);

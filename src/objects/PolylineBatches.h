@@ -13,20 +13,20 @@
 template <class Emit> class CPolylineBatches
 {
 public:
-    static constexpr std::size_t kMostPoints = 16384;
-    static constexpr std::size_t kUsualPoints = 1024; // about one a column
+    static constexpr std::size_t MostPoints = 16384;
+    static constexpr std::size_t UsualPoints = 1024; // about one a column
 
     // `reach` is the plot, grown by what a pen adds to a line; its edges are part of it.
     CPolylineBatches(TRect reach, Emit emit) : m_reach(reach), m_emit(std::move(emit))
     {
-        m_points.reserve(kUsualPoints);
+        m_points.reserve(UsualPoints);
     }
 
     void Add(TPoint from, TPoint to)
     {
         if (MissesReach(from, to))
             return;
-        if (m_points.empty() || m_points.back() != from || m_points.size() == kMostPoints) {
+        if (m_points.empty() || m_points.back() != from || m_points.size() == MostPoints) {
             Flush();
             m_points.push_back(from);
         }

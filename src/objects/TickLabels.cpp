@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr std::size_t kMostShapes = 16;
-constexpr std::size_t kLargestPile = 256;
+constexpr std::size_t MostShapes = 16;
+constexpr std::size_t LargestPile = 256;
 
 bool IsDigit(wchar_t unit) noexcept
 {
@@ -78,7 +78,7 @@ bool CTickLabels::MayShow(CPoint place)
     if (m_visible.Meets(place, 0))
         return true;
     if (!m_fReach)
-        m_fReach = CXGraphAxis::kLongestLabel * LargestGlyph(*m_pDC);
+        m_fReach = CXGraphAxis::LongestLabel * LargestGlyph(*m_pDC);
     return m_visible.Meets(place, *m_fReach);
 }
 
@@ -120,7 +120,7 @@ void CTickLabels::Pile(double fValue, const Place& place)
         return;
     while (!m_pile.empty() && Covers(label, m_pile.back()))
         m_pile.pop_back();
-    if (m_pile.size() == kLargestPile)
+    if (m_pile.size() == LargestPile)
         Draw();
     m_pile.push_back(std::move(label));
 }
@@ -154,7 +154,7 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
         measuring.emplace(&m_axis.m_LabelFont, m_pDC, false);
     const CSize size = m_pDC->GetTextExtent(cText);
     if (known == m_shapes.end()) {
-        if (m_shapes.size() == kMostShapes)
+        if (m_shapes.size() == MostShapes)
             m_shapes.erase(m_shapes.begin());
         m_shapes.push_back({strShape, size});
     }

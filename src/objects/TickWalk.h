@@ -5,7 +5,7 @@
 namespace TickWalk
 {
 
-inline constexpr int kMostTicks = 100'000;
+inline constexpr int MostTicks = 100'000;
 
 struct TWalk {
     double fFrom;      // value of the first tick
@@ -22,7 +22,7 @@ template <class Visit> int Walk(const TWalk& walk, Visit&& visit)
     double value = walk.fFrom;
     double place = walk.fPlace;
     int count = 0;
-    while (count < kMostTicks && (walk.bIncludeEnd ? value <= walk.fTo : value < walk.fTo)) {
+    while (count < MostTicks && (walk.bIncludeEnd ? value <= walk.fTo : value < walk.fTo)) {
         visit(value, place);
         ++count;
         const double next = value + walk.fStep;

@@ -1,5 +1,6 @@
 #include "objects/Trends.h"
 
+#include "base/Wrap.h"
 #include "objects/PolynomialSolver.h"
 
 #include <algorithm>
@@ -20,8 +21,8 @@ void FillX(std::span<const TDataPoint> points, std::span<TDataPoint> trend) noex
 // The square is taken in 32 bits, as the sums of this fit always were: past 46340 it wraps.
 double WrappedSquare(std::size_t ordinal) noexcept
 {
-    const auto narrow = static_cast<std::uint32_t>(ordinal);
-    return static_cast<std::int32_t>(narrow * narrow);
+    const auto narrow = static_cast<std::int32_t>(ordinal);
+    return Wrap::Multiply(narrow, narrow);
 }
 } // namespace
 

@@ -55,7 +55,7 @@ WIDE std::size_t SkipColumns(std::span<const TDataPoint> points, std::size_t fro
     const __m256d origin = _mm256_set1_pd(test.fOrigin);
     const __m128i first = _mm_set1_epi32(test.nFirst);
     const __m128i last = _mm_set1_epi32(test.nLast);
-    for (; from + kTurn <= points.size(); from += kTurn) {
+    for (; from + Turn <= points.size(); from += Turn) {
         const TDataPoint* point = &points[from];
         const __m128i lower = _mm256_cvttpd_epi32(
             _mm256_add_pd(_mm256_mul_pd(factor, _mm256_sub_pd(FourX(point), start)), origin));
@@ -75,8 +75,8 @@ WIDE std::size_t SkipWithin(std::span<const TDataPoint> points, std::size_t from
 {
     const __m256d low = _mm256_set1_pd(fLow);
     const __m256d high = _mm256_set1_pd(fHigh);
-    while (from + kTurn <= points.size() && AreWithin(&points[from], low, high))
-        from += kTurn;
+    while (from + Turn <= points.size() && AreWithin(&points[from], low, high))
+        from += Turn;
     return from;
 }
 
@@ -84,13 +84,13 @@ WIDE std::size_t SkipDownAbove(std::span<const TDataPoint> points, std::size_t f
                                double fBound) noexcept
 {
     const __m256d bound = _mm256_set1_pd(fBound);
-    while (from >= kTurn) {
-        const TDataPoint* point = &points[from - (kTurn - 1)];
+    while (from >= Turn) {
+        const TDataPoint* point = &points[from - (Turn - 1)];
         const __m256d above = _mm256_and_pd(_mm256_cmp_pd(FourX(point), bound, _CMP_GT_OQ),
                                             _mm256_cmp_pd(FourX(point + 4), bound, _CMP_GT_OQ));
         if (_mm256_movemask_pd(above) != AllFour)
             break;
-        from -= kTurn;
+        from -= Turn;
     }
     return from;
 }

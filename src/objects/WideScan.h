@@ -13,7 +13,7 @@
 namespace WideScan
 {
 
-inline constexpr std::size_t kTurn = 8;
+inline constexpr std::size_t Turn = 8;
 
 [[nodiscard]] bool IsAvailable() noexcept;
 

@@ -22,7 +22,7 @@ IMPLEMENT_SERIAL(CXGraphAxis, CXGraphObject, 1)
 namespace
 {
 
-constexpr double kLargestPlain = 1e6; // beyond it labels take the exponential format
+constexpr double LargestPlain = 1e6; // beyond it labels take the exponential format
 
 void MakeFont(CFont& font, const LOGFONTW& look)
 {
@@ -41,13 +41,13 @@ void CopyFont(CFont& font, const CFont& source)
 
 void Repaint(CXGraph* pGraph)
 {
-    if (pGraph != nullptr)
+    if (pGraph)
         PlotHost::Repaint(*pGraph);
 }
 
 bool IsOnScreen(CXGraph* pGraph)
 {
-    return pGraph != nullptr && ::IsWindowVisible(PlotHost::Window(*pGraph).m_hWnd);
+    return pGraph && ::IsWindowVisible(PlotHost::Window(*pGraph).m_hWnd);
 }
 
 // An element at the end is appended; one before it is replaced; no other index exists.
@@ -57,12 +57,6 @@ template <class Element> void PutAt(CCheckedVector<Element>& elements, int nInde
         elements.push_back(std::move(element));
     else
         elements[nIndex] = std::move(element);
-}
-
-template <class Element> void EraseAt(CCheckedVector<Element>& elements, int nIndex)
-{
-    if (nIndex >= 0 && std::cmp_less(nIndex, elements.size()))
-        elements.erase(elements.begin() + nIndex);
 }
 
 } // namespace
@@ -131,7 +125,7 @@ bool CXGraphAxis::SetRange(double fMin, double fMax)
         return false;
     const bool bLog = m_AxisType == atLog;
     WidenBounds(fMin, fMax);
-    if (!m_bDateTime && (std::fabs(fMin) > kLargestPlain || std::fabs(fMax) > kLargestPlain))
+    if (!m_bDateTime && (std::fabs(fMin) > LargestPlain || std::fabs(fMax) > LargestPlain))
         m_cDisplayFmt = L"%5.2e";
     m_fMin = m_fCurMin = fMin;
     m_fMax = m_fCurMax = fMax;
@@ -192,7 +186,7 @@ void CXGraphAxis::GetRange(double& fMin, double& fMax, double& fStep) const
 
 CRect CXGraphAxis::PlotRect() const
 {
-    return m_pGraph != nullptr ? PlotHost::InnerRect(*m_pGraph) : CRect();
+    return m_pGraph ? PlotHost::InnerRect(*m_pGraph) : CRect();
 }
 
 AxisMapping::TScale CXGraphAxis::GetScale(bool bLog) const
@@ -250,21 +244,21 @@ CString CXGraphAxis::FormatValue(double fValue) const
 CString CXGraphAxis::LabelText(const CString& strFormat, double fValue) const
 {
     return (m_bDateTime ? FormatDate(strFormat, fValue) : AfxFormatNumber(strFormat, fValue))
-        .Left(kLongestLabel);
+        .Left(LongestLabel);
 }
 
 CString CXGraphAxis::LabelFormat() const
 {
-    if (m_bDateTime || m_cDisplayFmt.GetLength() <= kLongestLabel)
+    if (m_bDateTime || m_cDisplayFmt.GetLength() <= LongestLabel)
         return m_cDisplayFmt;
-    return CString(NumberFormat::Shortened(m_cDisplayFmt.ToU16(), kLongestLabel));
+    return CString(NumberFormat::Shortened(m_cDisplayFmt.ToU16(), LongestLabel));
 }
 
 CString CXGraphAxis::FormatDate(const CString& strFormat, double fValue)
 {
     UDATE date = {};
     if (!std::isfinite(fValue) || FAILED(::VarUdateFromDate(fValue, 0, &date)))
-        return CString(DateFormat::kInvalidText);
+        return CString(DateFormat::InvalidText);
     const DateFormat::TDateFields fields{date.st.wYear,      date.st.wMonth,  date.st.wDay,
                                          date.st.wHour,      date.st.wMinute, date.st.wSecond,
                                          date.st.wDayOfWeek, date.wDayOfYear};
@@ -300,7 +294,7 @@ long CXGraphAxis::GetAxisMarkerCount() const
 
 void CXGraphAxis::DeleteAxisMarker(int nMarker)
 {
-    EraseAt(m_AxisMarkers, nMarker);
+    m_AxisMarkers.EraseAt(nMarker);
 }
 
 void CXGraphAxis::SetColorRange(int nRange, double fMin, double fMax, COLORREF crMinColor,
@@ -312,7 +306,7 @@ void CXGraphAxis::SetColorRange(int nRange, double fMin, double fMax, COLORREF c
                          .crMaxColor = crMaxColor,
                          .nStyle = nStyle,
                          .szLabel = {}};
-    if (bstrLabel != nullptr)
+    if (bstrLabel)
         ::lstrcpynW(range.szLabel, bstrLabel, ARRAYSIZE(range.szLabel));
     PutAt(m_ColorRanges, nRange, range);
     Repaint(m_pGraph);
@@ -320,7 +314,7 @@ void CXGraphAxis::SetColorRange(int nRange, double fMin, double fMax, COLORREF c
 
 void CXGraphAxis::DeleteColorRange(int nRange)
 {
-    EraseAt(m_ColorRanges, nRange);
+    m_ColorRanges.EraseAt(nRange);
 }
 
 void CXGraphAxis::DeleteAllColorRanges()

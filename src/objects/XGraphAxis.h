@@ -117,7 +117,7 @@ public:
     // The same by a format that LabelFormat made ready for many labels.
     [[nodiscard]] CString LabelText(const CString& strFormat, double fValue) const;
     [[nodiscard]] CString LabelFormat() const;
-    static constexpr int kLongestLabel = 1024; // units
+    static constexpr int LongestLabel = 1024; // units
     // A date-time by a wcsftime format; "Invalid DateTime" for what is none.
     [[nodiscard]] static CString FormatDate(const CString& strFormat, double fValue);
 

@@ -26,10 +26,10 @@ void CXGraphBitmap::Serialize(CArchive& ar)
     if (ar.IsStoring()) {
         ar << m_bBorder;
         CBitmapEx none;
-        (m_pBitmap != nullptr ? *m_pBitmap : none).Serialize(ar);
+        (m_pBitmap ? *m_pBitmap : none).Serialize(ar);
     } else {
         ar >> m_bBorder;
-        if (m_pBitmap == nullptr) {
+        if (!m_pBitmap) {
             m_pBitmap = new CBitmapEx;
             m_bOwnsBitmap = true;
         }
@@ -43,7 +43,7 @@ void CXGraphBitmap::Draw(CDCEx* pDC)
         return;
     CRect rcTarget = m_rcObject;
     if (m_bBorder) {
-        const CPenSelector selectPen(kBlack, 1, pDC, PS_SOLID);
+        const CPenSelector selectPen(Black, 1, pDC, PS_SOLID);
         pDC->Rectangle(&rcTarget);
         rcTarget.DeflateRect(1, 1);
     }
@@ -58,7 +58,7 @@ void CXGraphBitmap::Draw(CDCEx* pDC)
 void CXGraphBitmap::DrawPicture(CDCEx* pDC, const CRect& rcTarget) const
 {
     BITMAP record = {};
-    if (m_pBitmap == nullptr || m_pBitmap->GetBitmap(&record) == 0)
+    if (!m_pBitmap || m_pBitmap->GetBitmap(&record) == 0)
         return;
     CDC dcMemory;
     dcMemory.CreateCompatibleDC(pDC);

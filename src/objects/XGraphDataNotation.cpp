@@ -51,11 +51,11 @@ void CXGraphDataNotation::Draw(CDCEx* pDC)
     PlaceBox(pDC, point);
 
     m_rcObject.InflateRect(1, 1);
-    pDC->FillSolidRect(&m_rcObject, kBlack);
+    pDC->FillSolidRect(&m_rcObject, Black);
     m_rcObject.DeflateRect(1, 1);
-    pDC->FillSolidRect(&m_rcObject, kWhite);
+    pDC->FillSolidRect(&m_rcObject, White);
     pDC->DrawText(m_cText, &m_rcObject, DT_CENTER);
-    pDC->FillSolidRect(point.x - 1, point.y - 1, 3, 3, kBlack);
+    pDC->FillSolidRect(point.x - 1, point.y - 1, 3, 3, Black);
     pDC->MoveTo(point);
     pDC->LineTo(point.x, m_rcObject.bottom);
 }

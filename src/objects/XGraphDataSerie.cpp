@@ -16,7 +16,7 @@ IMPLEMENT_SERIAL(CXGraphDataSerie, CXGraphObject, 1)
 CXGraphDataSerie::CXGraphDataSerie(const CXGraphDataSerie& other)
     : CXGraphObject(other), TCurveFields(other)
 {
-    if (m_bAutoDelete && m_pData != nullptr) {
+    if (m_bAutoDelete && m_pData) {
         m_pData = nullptr; // not ours, should the copy fail
         CopyData(other.m_pData, static_cast<int>(other.Points().size()));
     }
@@ -109,14 +109,14 @@ void CXGraphDataSerie::ReplaceData(TDataPoint* pData, int nCount, bool bAutoDele
 
 std::span<const TDataPoint> CXGraphDataSerie::Points() const noexcept
 {
-    if (m_pData == nullptr || m_nCount <= 0)
+    if (!m_pData || m_nCount <= 0)
         return {};
     return {m_pData, static_cast<std::size_t>(m_nCount)};
 }
 
 bool CXGraphDataSerie::IsAscending() const noexcept
 {
-    return m_pPrivateCopy != nullptr && m_pPrivateCopy == m_pData && m_bAscending;
+    return m_pPrivateCopy && m_pPrivateCopy == m_pData && m_bAscending;
 }
 
 void CXGraphDataSerie::SetFillBeneath(bool bValue, int nValue) noexcept

@@ -52,7 +52,7 @@ public:
     CXGraphDataSerie& operator=(CXGraphDataSerie&& other) noexcept;
     ~CXGraphDataSerie() override;
 
-    static constexpr unsigned short kFillToBottom = 65535;
+    static constexpr unsigned short FillToBottom = 65535;
 
     // Colour of a new curve by its position.
     [[nodiscard]] static COLORREF CreationColor(int nPosition) noexcept;

@@ -17,12 +17,12 @@ IMPLEMENT_SERIAL(CXGraphLabel, CXGraphObject, 1)
 namespace
 {
 
-constexpr UINT kEditorId = 65534;
-constexpr DWORD kEditorStyle =
+constexpr UINT EditorId = 65534;
+constexpr DWORD EditorStyle =
     WS_CHILD | WS_VISIBLE | ES_WANTRETURN | ES_AUTOHSCROLL | ES_AUTOVSCROLL | ES_MULTILINE;
 // Styles that a stray alignment may hold and that would leave no usable child window.
-constexpr DWORD kNoEditorStyle = WS_POPUP | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE;
-constexpr UINT kPropertiesItem = 40006;
+constexpr DWORD NoEditorStyle = WS_POPUP | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE;
+constexpr UINT PropertiesItem = 40006;
 
 } // namespace
 
@@ -39,7 +39,7 @@ void CXGraphLabel::SetFont(const LOGFONTW& font)
 {
     m_Font.DeleteObject();
     m_Font.CreateFontIndirect(&font);
-    if (m_Edit.m_hWnd != nullptr)
+    if (m_Edit.m_hWnd)
         m_Edit.SetFont(&m_Font); // it writes in the one that has gone
 }
 
@@ -67,7 +67,7 @@ void CXGraphLabel::Draw(CDCEx* pDC)
     if (!m_bVisible)
         return;
     const bool bMono = pDC->m_bMono;
-    const COLORREF crFill = bMono ? kWhite : m_crFillColor;
+    const COLORREF crFill = bMono ? White : m_crFillColor;
 
     const CFontSelector selectFont(&m_Font, pDC, true);
     std::optional<CBrushSelector> selectBrush;
@@ -80,7 +80,7 @@ void CXGraphLabel::Draw(CDCEx* pDC)
     }
     std::optional<CPenSelector> selectPen;
     if (m_bBorder)
-        selectPen.emplace(kBlack, 1, pDC, PS_SOLID);
+        selectPen.emplace(Black, 1, pDC, PS_SOLID);
 
     if (m_nCurve != -1)
         DrawTie(pDC);
@@ -94,7 +94,7 @@ void CXGraphLabel::Draw(CDCEx* pDC)
         pDC->Rectangle(&m_rcObject);
 
     pDC->SetBkColor(crFill);
-    const COLORREF crOldText = pDC->SetTextColor(bMono ? kBlack : m_crTextColor);
+    const COLORREF crOldText = pDC->SetTextColor(bMono ? Black : m_crTextColor);
     if (m_bSizing)
         m_Tracker.Draw(pDC);
     if (m_bEditing) {
@@ -105,7 +105,7 @@ void CXGraphLabel::Draw(CDCEx* pDC)
         pDC->DrawText(m_cText, &rcText, m_nAlignment);
     }
     pDC->SetTextColor(crOldText);
-    if (hOldBrush != nullptr)
+    if (hOldBrush)
         pDC->SelectObject(CBrush::FromHandle(static_cast<HBRUSH>(hOldBrush)));
 }
 
@@ -125,15 +125,15 @@ void CXGraphLabel::BeginEdit()
 {
     if (!m_bCanEdit)
         return;
-    if (m_Edit.m_hWnd != nullptr)
+    if (m_Edit.m_hWnd)
         m_Edit.DestroyWindow();
     m_bSizing = false;
     m_bEditing = true;
     CRect rcEditor = m_rcObject;
     rcEditor.DeflateRect(1, 1);
     // The alignment's bits are the editor's own styles too.
-    m_Edit.Create((m_nAlignment & ~kNoEditorStyle) | kEditorStyle, rcEditor,
-                  &PlotHost::Window(*m_pGraph), kEditorId);
+    m_Edit.Create((m_nAlignment & ~NoEditorStyle) | EditorStyle, rcEditor, &PlotHost::Window(*m_pGraph),
+                  EditorId);
     m_Edit.SetFont(&m_Font);
     m_Edit.SetWindowText(m_cText);
     m_Edit.ShowWindow(SW_SHOW);
@@ -150,7 +150,7 @@ void CXGraphLabel::EndEdit()
     if (!m_bCanEdit)
         return;
     m_bEditing = false;
-    if (m_Edit.m_hWnd == nullptr)
+    if (!m_Edit.m_hWnd)
         return; // the editor went with the graph's window: the text stays
     m_Edit.GetWindowText(m_cText);
     m_Edit.DestroyWindow();
@@ -163,12 +163,12 @@ void CXGraphLabel::InvokeProperties()
     CXGraph& graph = *m_pGraph;
     const TObjectRef self(this);
     const HMENU hMenu = ::CreatePopupMenu();
-    ::AppendMenuW(hMenu, MF_STRING, kPropertiesItem, L"Properties");
+    ::AppendMenuW(hMenu, MF_STRING, PropertiesItem, L"Properties");
     const UINT nChosen =
         static_cast<UINT>(::TrackPopupMenu(hMenu, TPM_RETURNCMD | TPM_NONOTIFY, cursor.x, cursor.y, 0,
                                            PlotHost::Window(graph).m_hWnd, nullptr));
     ::DestroyMenu(hMenu);
     // Messages ran while the menu was open, and may have removed this label.
-    if (nChosen == kPropertiesItem && PlotHost::Owns(graph, self))
+    if (nChosen == PropertiesItem && PlotHost::Owns(graph, self))
         ShowLabelProperties(*this);
 }

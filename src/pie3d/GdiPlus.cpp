@@ -312,7 +312,7 @@ void CGraphics::DrawString(std::wstring_view text, const CFont& font, const TRec
     }
     const Gdiplus::RectF place = ToGdi(layout);
     Flat::GdipDrawString(m_graphics.Get(), text.data(), LengthOf(text), font.Get(), &place,
-                         format != nullptr ? format->Get() : nullptr, brush);
+                         format ? format->Get() : nullptr, brush);
 }
 
 void CGraphics::DrawWhole(const CBitmap& bitmap, TPoint at) const noexcept

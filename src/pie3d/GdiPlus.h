@@ -40,7 +40,7 @@ public:
 
     void Reset() noexcept
     {
-        if (m_pObject != nullptr) {
+        if (m_pObject) {
             Delete(std::exchange(m_pObject, nullptr));
         }
     }

@@ -89,7 +89,7 @@ void CPieChartWnd::OnLButtonDown(UINT nFlags, CPoint point)
 
 void CPieChartWnd::Repaint() noexcept
 {
-    if (m_hWnd != nullptr) { // a null handle would mean every window of the screen
+    if (m_hWnd) { // a null handle would mean every window of the screen
         ::InvalidateRect(m_hWnd, nullptr, TRUE);
     }
 }

@@ -13,10 +13,10 @@ namespace
 
 // No window is higher than this. Larger rectangles cost the drawing library time and show
 // nothing else.
-constexpr std::int32_t nFarthest = 0x4000;
+constexpr std::int32_t Farthest = 0x4000;
 
 // Angles of two points that differ by rounding alone differ by less than this.
-constexpr float fAngleNoise = 0.01f;
+constexpr float AngleNoise = 0.01f;
 
 double Radians(float degrees) noexcept
 {
@@ -81,7 +81,7 @@ struct TEllipse {
 
 std::int32_t WithinWindow(float pixels) noexcept
 {
-    return pixels > 0 ? Trunc(std::min(pixels, float{nFarthest})) : 0;
+    return pixels > 0 ? Trunc(std::min(pixels, float{Farthest})) : 0;
 }
 
 // The start point and the points of the rim go through the same arithmetic.
@@ -102,8 +102,8 @@ float SweepBetween(float from, float to, float trueSweep) noexcept
     }
     // Where two ends are the same point but for rounding, a sliver must not become the
     // whole pie, nor the rest of the pie a sliver.
-    const bool nowhere = std::abs(sweep) < fAngleNoise;
-    const bool around = std::abs(sweep - 360.0f) < fAngleNoise;
+    const bool nowhere = std::abs(sweep) < AngleNoise;
+    const bool around = std::abs(sweep - 360.0f) < AngleNoise;
     if (nowhere || around) {
         return trueSweep > 359.0f ? 360.0f
                : trueSweep < 1.0f ? std::max(nowhere ? sweep : 0.0f, 0.0f)
@@ -223,7 +223,7 @@ TRectF AboutCentre(const TRect& rc, float fReach) noexcept
 
 bool DrawableAngles(float& fStart, float& fSweep) noexcept
 {
-    if (!std::isfinite(fStart) || !(std::abs(fSweep) >= fThinnestSweep)) {
+    if (!std::isfinite(fStart) || !(std::abs(fSweep) >= ThinnestSweep)) {
         return false;
     }
     if (std::abs(fStart) > 720.0f) {

@@ -76,7 +76,7 @@ float ProjectAngles(const TRect& rcPie, const TFaces& faces, float fStartAngle,
 // A square about the centre of rc that reaches fReach to every side.
 [[nodiscard]] TRectF AboutCentre(const TRect& rc, float fReach) noexcept;
 
-constexpr float fThinnestSweep = 0.001f;
+constexpr float ThinnestSweep = 0.001f;
 
 // A pair of angles as the drawing library takes it: the start within a turn or two, the
 // sweep within one turn. False if nothing can be drawn from them: they are not numbers, or

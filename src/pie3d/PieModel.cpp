@@ -12,7 +12,7 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
                                       PieColors::Argb crColor)
 {
     const bool usable = dValue > 0 && PieShares::IsUsable(m_dTotal + dValue);
-    if (strElement.IsEmpty() || !usable || GetPieChartItem(strElement) != nullptr) {
+    if (strElement.IsEmpty() || !usable || GetPieChartItem(strElement)) {
         return nullptr;
     }
     auto element = std::make_unique<SPieElement>();
@@ -59,7 +59,7 @@ void CPieChartWnd::Settle()
 int CPieChartWnd::RemoveItem(const CString& strElement)
 {
     const SPieElement* const element = GetPieChartItem(strElement);
-    if (element == nullptr) {
+    if (!element) {
         return 0;
     }
     return Remove(std::find_if(m_mapElements.begin(), m_mapElements.end(),
@@ -107,7 +107,7 @@ void CPieChartWnd::RemoveAllItem()
 
 int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
 {
-    if (pItem == nullptr) {
+    if (!pItem) {
         return 0;
     }
     CString longestLabel = LongestLabelWith(pItem, strLabel);
@@ -119,7 +119,7 @@ int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
 
 int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
 {
-    if (pItem == nullptr || dVal == 0) {
+    if (!pItem || dVal == 0) {
         return 0;
     }
     Settle();
@@ -136,7 +136,7 @@ int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
 
 int CPieChartWnd::UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem)
 {
-    if (pItem == nullptr) {
+    if (!pItem) {
         return 0;
     }
     pItem->crColor = crItem;
@@ -148,7 +148,7 @@ int CPieChartWnd::UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem)
 
 int CPieChartWnd::SetPieElementGradientLight(SPieElement* pItem, float flGradientVal)
 {
-    if (pItem == nullptr || !std::isfinite(flGradientVal)) {
+    if (!pItem || !std::isfinite(flGradientVal)) {
         return 0;
     }
     pItem->fGradientLight = flGradientVal;
@@ -159,7 +159,7 @@ int CPieChartWnd::SetPieElementGradientLight(SPieElement* pItem, float flGradien
 
 int CPieChartWnd::SetPieElementGradientDark(SPieElement* pItem, float flGradientVal)
 {
-    if (pItem == nullptr || !std::isfinite(flGradientVal)) {
+    if (!pItem || !std::isfinite(flGradientVal)) {
         return 0;
     }
     pItem->fGradientDark = flGradientVal;
@@ -278,7 +278,7 @@ SPieElement* CPieChartWnd::GetPieChartItem(const CString& strElement) const noex
 std::int32_t CPieChartWnd::GetElementID(const CString& strElement) const noexcept
 {
     const SPieElement* const element = GetPieChartItem(strElement);
-    return element != nullptr ? element->nOrder : -1;
+    return element ? element->nOrder : -1;
 }
 
 SPieElement* CPieChartWnd::GetSelectedElement() const noexcept
@@ -290,10 +290,10 @@ SPieElement* CPieChartWnd::GetSelectedElement() const noexcept
 
 float CPieChartWnd::GetElementGrLight(const SPieElement* pItem) const noexcept
 {
-    return pItem != nullptr ? pItem->fGradientLight : -1.0f;
+    return pItem ? pItem->fGradientLight : -1.0f;
 }
 
 float CPieChartWnd::GetElementGrDark(const SPieElement* pItem) const noexcept
 {
-    return pItem != nullptr ? pItem->fGradientDark : -1.0f;
+    return pItem ? pItem->fGradientDark : -1.0f;
 }

@@ -9,9 +9,9 @@ namespace
 {
 
 // From here on the slices cost more time than a step of scrolling may take.
-constexpr std::size_t nVeryMany = 256;
+constexpr std::size_t VeryMany = 256;
 
-constexpr float fCorner = 30.0f;
+constexpr float Corner = 30.0f;
 
 // The frame needs this much, so a smaller window shows a part of it.
 TRect FrameOf(TRect rcClient) noexcept
@@ -27,15 +27,15 @@ GdiPlus::CPath RoundedFrame(const TRect& rc) noexcept
     const auto top = static_cast<float>(rc.top);
     const auto right = static_cast<float>(rc.right);
     const auto bottom = static_cast<float>(rc.bottom);
-    constexpr float round = 2 * fCorner;
+    constexpr float round = 2 * Corner;
     GdiPlus::CPath path = GdiPlus::NewPath();
-    GdiPlus::AddLine(path, {left + fCorner, top}, {right - fCorner, top});
+    GdiPlus::AddLine(path, {left + Corner, top}, {right - Corner, top});
     GdiPlus::AddArc(path, {right - round, top, round, round}, 270, 90);
-    GdiPlus::AddLine(path, {right, top + fCorner}, {right, bottom});
+    GdiPlus::AddLine(path, {right, top + Corner}, {right, bottom});
     GdiPlus::AddArc(path, {right - round, bottom - round, round, round}, 0, 90);
-    GdiPlus::AddLine(path, {right - fCorner, bottom}, {left + fCorner, bottom});
+    GdiPlus::AddLine(path, {right - Corner, bottom}, {left + Corner, bottom});
     GdiPlus::AddArc(path, {left, bottom - round, round, round}, 90, 90);
-    GdiPlus::AddLine(path, {left, bottom}, {left, top + fCorner});
+    GdiPlus::AddLine(path, {left, bottom}, {left, top + Corner});
     GdiPlus::AddArc(path, {left, top, round, round}, 180, 90);
     return path;
 }
@@ -79,7 +79,7 @@ CPieChartWnd::TPicture CPieChartWnd::KeptOrNewPicture(TSlicePainter pfnSlices)
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
         (this->*pfnSlices)(graphics);
-        picture.bHasPercents = m_mapElements.size() >= nVeryMany && !PercentsReachLabels(graphics);
+        picture.bHasPercents = m_mapElements.size() >= VeryMany && !PercentsReachLabels(graphics);
         if (picture.bHasPercents && m_bShowPercent) {
             DrawPercents(graphics);
         }

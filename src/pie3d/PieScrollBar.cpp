@@ -58,7 +58,7 @@ void CPieChartWnd::UpdateScrollBar()
     // Redrawn with the window's next painting: at once would cost more than all the rest of an
     // insertion.
     m_wndScrollBar.SetScrollInfo(&info, FALSE);
-    if (m_wndScrollBar.m_hWnd != nullptr) {
+    if (m_wndScrollBar.m_hWnd) {
         m_wndScrollBar.Invalidate();
     }
     m_wndScrollBar.ShowScrollBar(m_nLabelsHeight > pieHeight);

@@ -11,7 +11,7 @@
 namespace
 {
 
-constexpr INT nLineLimit = 8192; // StringFormatFlagsLineLimit
+constexpr INT LineLimit = 8192; // StringFormatFlagsLineLimit
 
 std::wstring PercentText(const SPieElement& element, bool bTwoDigits = false)
 {
@@ -36,7 +36,7 @@ bool HasRoom(float width, float margins) noexcept
 void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
 {
     const TRect pie = GetPieRect();
-    const GdiPlus::CStringFormat format = GdiPlus::NewStringFormat(nLineLimit);
+    const GdiPlus::CStringFormat format = GdiPlus::NewStringFormat(LineLimit);
     const GdiPlus::CSolidBrush mark = GdiPlus::NewSolidBrush(0xFF000000);
     const GdiPlus::CPen edge = GdiPlus::NewPen(0xFF000000, 2.0f);
     const GdiPlus::CSolidBrush ink = GdiPlus::NewSolidBrush(m_crLabel);

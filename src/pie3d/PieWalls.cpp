@@ -38,7 +38,7 @@ CWallPieces PiecesOf(float fStart, float fSweep) noexcept
 
 bool HasWidth(const TWallPiece& piece) noexcept
 {
-    return std::abs(piece.fSweep) >= PieGeometry::fThinnestSweep;
+    return std::abs(piece.fSweep) >= PieGeometry::ThinnestSweep;
 }
 
 TOutline OutlineOf(const PieGeometry::TFaces& faces, const TWallPiece& piece) noexcept

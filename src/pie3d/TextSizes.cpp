@@ -3,7 +3,7 @@
 namespace
 {
 
-constexpr std::size_t nMostTexts = 20000; // twice the percents that two digits can tell apart
+constexpr std::size_t MostTexts = 20000; // twice the percents that two digits can tell apart
 
 } // namespace
 
@@ -15,7 +15,7 @@ GdiPlus::CFont NewFont(const TPieFont& look) noexcept
 PieGeometry::TRectF CTextSizes::Of(const std::wstring& text, const GdiPlus::CGraphics& graphics,
                                    const GdiPlus::CFont& font, const TPieFont& look)
 {
-    if (m_font != look || m_sizes.size() >= nMostTexts) {
+    if (m_font != look || m_sizes.size() >= MostTexts) {
         m_sizes.clear();
         m_font = look;
     }

@@ -12,9 +12,9 @@
 namespace
 {
 
-constexpr TPoint position{10, 20};
-constexpr TSize size{200, 100};
-constexpr TSize window{300, 200};
+constexpr TPoint Position{10, 20};
+constexpr TSize Size{200, 100};
+constexpr TSize Window{300, 200};
 
 std::string Number(long value)
 {
@@ -76,7 +76,7 @@ template <class Drawing> std::string Record(Drawing drawing)
 
 template <class Chart> void Fill(Chart& chart)
 {
-    chart.SetWindowSize(window);
+    chart.SetWindowSize(Window);
     for (const wchar_t* name : {L"one", L"two", L"three"})
         chart.AddSegment(name);
     chart.AddSeries(L"red", 0x0000FF);
@@ -115,7 +115,7 @@ public:
     MemoryContext() : m_hDC(::CreateCompatibleDC(nullptr))
     {
         const HDC hScreen = ::GetDC(nullptr);
-        m_hBitmap = ::CreateCompatibleBitmap(hScreen, window.cx, window.cy);
+        m_hBitmap = ::CreateCompatibleBitmap(hScreen, Window.cx, Window.cy);
         ::ReleaseDC(nullptr, hScreen);
         m_hOld = ::SelectObject(m_hDC, m_hBitmap);
         ::SetTextColor(m_hDC, 0x123456);
@@ -149,7 +149,7 @@ template <class Chart> void ExpectStateKept(Chart& chart)
 
 TEST(ChartRecords, BarsComeAfterAxesAndValueLabelsGroupByGroup)
 {
-    C2DBarGraph chart(position, size);
+    C2DBarGraph chart(Position, Size);
     Fill(chart);
     EXPECT_EQ(Record([&](HDC hDC) { chart.Draw(hDC); }),
               axes + valueLabels +
@@ -160,7 +160,7 @@ TEST(ChartRecords, BarsComeAfterAxesAndValueLabelsGroupByGroup)
 
 TEST(ChartRecords, LinesComeAfterAllLabelsSeriesBySeries)
 {
-    C2DLineGraph chart(position, size);
+    C2DLineGraph chart(Position, Size);
     Fill(chart);
     EXPECT_EQ(Record([&](HDC hDC) { chart.Draw(hDC); }),
               axes + valueLabels +
@@ -171,9 +171,9 @@ TEST(ChartRecords, LinesComeAfterAllLabelsSeriesBySeries)
 
 TEST(ChartRecords, EmptyChartsDrawTheirAxesAlone)
 {
-    C2DBarGraph bars(position, size);
-    C2DLineGraph lines(position, size);
-    C2DPieGraph pie(position, size);
+    C2DBarGraph bars(Position, Size);
+    C2DLineGraph lines(Position, Size);
+    C2DPieGraph pie(Position, Size);
     EXPECT_EQ(Record([&](HDC hDC) { bars.Draw(hDC); }), axes);
     EXPECT_EQ(Record([&](HDC hDC) { lines.Draw(hDC); }), axes);
     EXPECT_EQ(Record([&](HDC hDC) { pie.Draw(hDC); }), "");
@@ -181,7 +181,7 @@ TEST(ChartRecords, EmptyChartsDrawTheirAxesAlone)
 
 TEST(ChartRecords, SlicesComeInTheOrderOfTheList)
 {
-    C2DPieGraph chart(position, size);
+    C2DPieGraph chart(Position, Size);
     chart.AddSegment(25, 0, L"a");
     chart.AddSegment(50, 0, L"b");
     EXPECT_EQ(Record([&](HDC hDC) { chart.Draw(hDC); }), "pie 210,70 110,20\npie 110,20 110,120\n");
@@ -189,7 +189,7 @@ TEST(ChartRecords, SlicesComeInTheOrderOfTheList)
 
 TEST(ChartRecords, LegendRowsFollowTheirBoxAndTellPercentAndName)
 {
-    C2DPieGraph chart(position, size);
+    C2DPieGraph chart(Position, Size);
     chart.AddSegment(60, 0, L"first");
     chart.AddSegment(12.25, 0, L"");
     const std::string records = Record([&](HDC hDC) { chart.DrawLegend(hDC); });
@@ -205,12 +205,12 @@ TEST(ChartRecords, LegendRowsFollowTheirBoxAndTellPercentAndName)
 
 TEST(ChartRecords, ContextIsGivenBackAsItCame)
 {
-    C2DBarGraph bars(position, size);
-    C2DLineGraph lines(position, size);
-    C2DPieGraph pie(position, size);
+    C2DBarGraph bars(Position, Size);
+    C2DLineGraph lines(Position, Size);
+    C2DPieGraph pie(Position, Size);
     Fill(bars);
     Fill(lines);
-    pie.SetWindowSize(window);
+    pie.SetWindowSize(Window);
     pie.AddSegment(25, 0, L"a");
     for (const int type : {0, 20, 21, 22, 25, 26}) {
         bars.SetAnimation(type != 0, type);
@@ -234,10 +234,10 @@ TEST(ChartRecords, FadeOfEqualColoursIsKeyedOut)
     // A white bar on a white picture: its inside has the key colour and stays as it is, its
     // outline fades in.
     const MemoryContext context;
-    const RECT all{0, 0, window.cx, window.cy};
+    const RECT all{0, 0, Window.cx, Window.cy};
     ::FillRect(context.m_hDC, &all, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-    C2DBarGraph chart(position, size);
-    chart.SetWindowSize(window);
+    C2DBarGraph chart(Position, Size);
+    chart.SetWindowSize(Window);
     chart.AddSegment(L"one");
     chart.AddSeries(L"white", 0xFFFFFF);
     chart.SetValue(1, 1, 10);

@@ -14,9 +14,9 @@
 namespace
 {
 
-constexpr TSize window{300, 200};
-constexpr TPoint position{10, 20};
-constexpr TSize size{200, 150};
+constexpr TSize Window{300, 200};
+constexpr TPoint Position{10, 20};
+constexpr TSize Size{200, 150};
 
 class Memory
 {
@@ -24,13 +24,13 @@ public:
     Memory() : m_hDC(::CreateCompatibleDC(nullptr))
     {
         const HDC hScreen = ::GetDC(nullptr);
-        m_hBitmap = ::CreateCompatibleBitmap(hScreen, window.cx, window.cy);
+        m_hBitmap = ::CreateCompatibleBitmap(hScreen, Window.cx, Window.cy);
         ::ReleaseDC(nullptr, hScreen);
         m_hOld = ::SelectObject(m_hDC, m_hBitmap);
     }
     explicit Memory(HDC hSource) : Memory()
     {
-        ::BitBlt(m_hDC, 0, 0, window.cx, window.cy, hSource, 0, 0, SRCCOPY);
+        ::BitBlt(m_hDC, 0, 0, Window.cx, Window.cy, hSource, 0, 0, SRCCOPY);
     }
     Memory(const Memory&) = delete;
     Memory& operator=(const Memory&) = delete;
@@ -43,15 +43,15 @@ public:
 
     void Gradient(COLORREF from, COLORREF to) const
     {
-        TRIVERTEX vertices[] = {Vertex(0, 0, from), Vertex(window.cx, window.cy, to)};
+        TRIVERTEX vertices[] = {Vertex(0, 0, from), Vertex(Window.cx, Window.cy, to)};
         GRADIENT_RECT mesh{0, 1};
         ::GdiGradientFill(m_hDC, vertices, 2, &mesh, 1, GRADIENT_FILL_RECT_V);
     }
     [[nodiscard]] std::vector<COLORREF> Pixels() const
     {
         std::vector<COLORREF> pixels;
-        for (int y = 0; y < window.cy; ++y) {
-            for (int x = 0; x < window.cx; ++x)
+        for (int y = 0; y < Window.cy; ++y) {
+            for (int x = 0; x < Window.cx; ++x)
                 pixels.push_back(::GetPixel(m_hDC, x, y));
         }
         return pixels;
@@ -85,11 +85,11 @@ void PlainFade(HDC target, const std::vector<TBar>& bars, double percent)
     const BLENDFUNCTION blend{AC_SRC_OVER, 0, CFadeStep::Alpha(percent), 0};
     for (const TBar& bar : bars) {
         ChartPainter::DrawRectangle(first.m_hDC, bar.rect, bar.color);
-        ::GdiAlphaBlend(second.m_hDC, position.x, position.y, size.cx, size.cy, first.m_hDC, position.x,
-                        position.y, size.cx, size.cy, blend);
-        const COLORREF key = ::GetPixel(second.m_hDC, position.x, position.y);
-        ::GdiTransparentBlt(target, position.x, position.y, size.cx, size.cy, second.m_hDC, position.x,
-                            position.y, size.cx, size.cy, key);
+        ::GdiAlphaBlend(second.m_hDC, Position.x, Position.y, Size.cx, Size.cy, first.m_hDC, Position.x,
+                        Position.y, Size.cx, Size.cy, blend);
+        const COLORREF key = ::GetPixel(second.m_hDC, Position.x, Position.y);
+        ::GdiTransparentBlt(target, Position.x, Position.y, Size.cx, Size.cy, second.m_hDC, Position.x,
+                            Position.y, Size.cx, Size.cy, key);
     }
 }
 
@@ -101,7 +101,7 @@ void Fade(HDC target, const std::vector<TBar>& bars, double percent)
                   std::min({around.top, bar.rect.top, bar.rect.bottom}),
                   std::max({around.right, bar.rect.left, bar.rect.right}),
                   std::max({around.bottom, bar.rect.top, bar.rect.bottom})};
-    CFadeStep fade(target, window, position, size, around);
+    CFadeStep fade(target, Window, Position, Size, around);
     for (const TBar& bar : bars) {
         ChartPainter::DrawRectangle(fade.Canvas(), bar.rect, bar.color);
         fade.Touch(bar.rect);
@@ -177,21 +177,21 @@ TEST(Fade, KeyColourIsTakenAfterTheBlendWhereAShapeCoversTheCorner)
 TEST(Fade, BoundsOfASliceHoldAllOfIt)
 {
     using namespace FlatPieGeometry;
-    const RECT all{0, 0, window.cx, window.cy};
+    const RECT all{0, 0, Window.cx, Window.cy};
     for (int start = 0; start < 100; start += 7) {
         for (int percent = 1; percent < 100; percent += 6) {
             const Memory picture;
             ::FillRect(picture.m_hDC, &all, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-            const TPoint from = ByHalves(position, size, Angle(start));
-            const TPoint to = ByHalves(position, size, Angle(start + percent));
-            if (OnOneRadial(position, size, from, to))
+            const TPoint from = ByHalves(Position, Size, Angle(start));
+            const TPoint to = ByHalves(Position, Size, Angle(start + percent));
+            if (OnOneRadial(Position, Size, from, to))
                 continue;
-            ::Pie(picture.m_hDC, position.x, position.y, position.x + size.cx, position.y + size.cy,
+            ::Pie(picture.m_hDC, Position.x, Position.y, Position.x + Size.cx, Position.y + Size.cy,
                   from.x, from.y, to.x, to.y);
-            const TRect bounds = Bounds(position, size, from, to);
+            const TRect bounds = Bounds(Position, Size, from, to);
             int outside = 0;
-            for (int y = 0; y < window.cy; y += 1) {
-                for (int x = 0; x < window.cx; x += 1) {
+            for (int y = 0; y < Window.cy; y += 1) {
+                for (int x = 0; x < Window.cx; x += 1) {
                     const bool inside =
                         x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom;
                     outside += !inside && ::GetPixel(picture.m_hDC, x, y) != 0xFFFFFF ? 1 : 0;

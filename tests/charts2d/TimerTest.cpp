@@ -33,8 +33,8 @@ int WINAPI Recorded(HDC, const RECT* rect, HBRUSH hBrush)
 class ChartTimer : public testing::Test
 {
 protected:
-    static constexpr COLORREF background = 0xE0F0C0;
-    static constexpr TFill cleared{{32, 140, 352, 340}, background}; // of 640 x 400
+    static constexpr COLORREF Background = 0xE0F0C0;
+    static constexpr TFill Cleared{{32, 140, 352, 340}, Background}; // of 640 x 400
 
     ChartTimer()
         : m_hHost(::CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 700, 500, nullptr,
@@ -52,7 +52,7 @@ protected:
     {
         m_Chart.Create(nullptr, nullptr, 0, CRect(0, 0, 640, 400), CWnd::FromHandle(m_hHost), 1);
         m_Chart.CreateGraph(kind);
-        m_Chart.SetGraphBackgroundColor(background);
+        m_Chart.SetGraphBackgroundColor(Background);
     }
     // The fills of that many ticks.
     std::vector<TFill> Ticks(int count)
@@ -77,8 +77,8 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsThePiesRectangleForBarsToo)
     m_Chart.Add2DBarGraphSeries(L"row", 0);
     m_Chart.SetGraphAnimation(1, 20); // the first percent
     EXPECT_TRUE(Ticks(98).empty());
-    EXPECT_EQ(Ticks(1), (std::vector<TFill>{cleared}));
-    EXPECT_EQ(Ticks(1), (std::vector<TFill>{cleared})); // held at a hundred
+    EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
+    EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared})); // held at a hundred
 }
 
 TEST_F(ChartTimer, TickAtAHundredPercentClearsForLinesAlso)
@@ -89,7 +89,7 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsForLinesAlso)
     m_Chart.Add2DLineGraphSeries(L"row", 0);
     m_Chart.SetGraphAnimation(1, 31); // a line is one percent, the run ends at 99
     EXPECT_TRUE(Ticks(48).empty());
-    EXPECT_EQ(Ticks(1), (std::vector<TFill>{cleared}));
+    EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
 }
 
 TEST_F(ChartTimer, TickAtAHundredPercentClearsForThePie)
@@ -98,6 +98,6 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsForThePie)
     m_Chart.Add2DPieGraphSegment(50, 0, L"slice");
     m_Chart.SetGraphAnimation(1, 11); // by two percent
     EXPECT_TRUE(Ticks(48).empty());
-    EXPECT_EQ(Ticks(1), (std::vector<TFill>{cleared}));
+    EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
     EXPECT_TRUE(Ticks(1).empty()); // the next slice
 }

@@ -7,13 +7,13 @@
 namespace
 {
 
-constexpr wchar_t home[] = L"Software\\VantoplexRegistrarTest";
+constexpr wchar_t Home[] = L"Software\\VantoplexRegistrarTest";
 
 class Registrar : public testing::Test
 {
 protected:
-    Registrar() { RegDeleteTreeW(HKEY_CURRENT_USER, home); }
-    ~Registrar() override { RegDeleteTreeW(HKEY_CURRENT_USER, home); }
+    Registrar() { RegDeleteTreeW(HKEY_CURRENT_USER, Home); }
+    ~Registrar() override { RegDeleteTreeW(HKEY_CURRENT_USER, Home); }
 
     // The entries below our own key, in a kept one.
     static std::wstring Script(const std::wstring& entries)
@@ -21,7 +21,7 @@ protected:
         return L"HKCU { NoRemove Software { NoRemove VantoplexRegistrarTest { " + entries + L" } } }";
     }
 
-    static std::wstring Below(const wchar_t* key) { return std::wstring(home) + L"\\" + key; }
+    static std::wstring Below(const wchar_t* key) { return std::wstring(Home) + L"\\" + key; }
 
     static bool Exists(const wchar_t* key)
     {

@@ -27,8 +27,8 @@ protected:
     }
 };
 
-constexpr const wchar_t* kNoUnsigned = L"Please enter a positive integer.";
-constexpr const wchar_t* kNoNumber = L"Please enter a number.";
+constexpr const wchar_t* NoUnsigned = L"Please enter a positive integer.";
+constexpr const wchar_t* NoNumber = L"Please enter a number.";
 
 } // namespace
 
@@ -55,7 +55,7 @@ TEST_F(AxisLimits, WholeNumbersAreOfDigits)
 {
     for (const int id : {Id::decimals, Id::arcSize, Id::tickSize, Id::markerSize, Id::timeStep}) {
         for (const wchar_t* text : {L"", L" ", L"-1", L"1,5", L"1.5", L"two"})
-            ExpectRefused(id, text, kNoUnsigned);
+            ExpectRefused(id, text, NoUnsigned);
     }
 }
 
@@ -64,7 +64,7 @@ TEST_F(AxisLimits, BoundsAndStepAreNumbers)
     for (const int id : {Id::min, Id::max, Id::step}) {
         for (const wchar_t* text :
              {L"", L" ", L"1,5", L"ten", L"1e", L"--1", L"nan", L"0x10", L"1e999", L"-1e999"})
-            ExpectRefused(id, text, kNoNumber);
+            ExpectRefused(id, text, NoNumber);
     }
 }
 

@@ -37,7 +37,7 @@ protected:
     }
 };
 
-constexpr const wchar_t* kLimits = L"Please enter an integer between 0 and 100.";
+constexpr const wchar_t* Limits = L"Please enter an integer between 0 and 100.";
 
 } // namespace
 
@@ -223,13 +223,13 @@ TEST_F(ChartPage, ASnapRangeThatIsNoneIsRefusedWithABoxAndNothingApplied)
     const struct {
         const wchar_t* text;
         const wchar_t* box;
-    } rows[] = {{L"101", kLimits},
-                {L"4294967295", kLimits},
+    } rows[] = {{L"101", Limits},
+                {L"4294967295", Limits},
                 {L"", L"Please enter a positive integer."},
                 {L"1,5", L"Please enter a positive integer."},
                 {L"-1", L"Please enter a positive integer."},
                 {L"ten", L"Please enter a positive integer."},
-                {L"99999999999999999999", kLimits}};
+                {L"99999999999999999999", Limits}};
     for (const auto& row : rows) {
         MessageBoxes boxes;
         OpenChart({[&] {

@@ -17,7 +17,7 @@ protected:
     {
         OpenAnd(
             [=, this](HWND hPage) {
-                Ask(hPage, average, kAverage, [=](HWND hDialog) {
+                Ask(hPage, average, AverageDialog, [=](HWND hDialog) {
                     Choose(hDialog, type, nKind);
                     Paste(hDialog, span, pszSpan);
                 });
@@ -28,7 +28,7 @@ protected:
     {
         OpenAnd(
             [=, this](HWND hPage) {
-                Ask(hPage, nButton, kTrend, [=](HWND hDialog) {
+                Ask(hPage, nButton, Trend, [=](HWND hDialog) {
                     Paste(hDialog, expand, pszExpand);
                     Paste(hDialog, degree, pszDegree);
                 });
@@ -169,9 +169,9 @@ TEST_F(CurveAnalysis, APolynomialThatCannotBeFittedIsToldAndAddsNothing)
     std::wstring box;
     OpenAnd([&](HWND hPage) {
         graph->SetData(nullptr, upright.data(), 2, 0, 0, 0, 0);
-        Ask(hPage, polynomialTrend, kTrend, [&](HWND hDialog) {
+        Ask(hPage, polynomialTrend, Trend, [&](HWND hDialog) {
             Paste(hDialog, degree, L"2");
-            script.When(kBox, [&](HWND hBox) {
+            script.When(Box, [&](HWND hBox) {
                 box = TextOf(hBox, 0xFFFF);
                 ::PostMessageW(hBox, WM_COMMAND, IDOK, 0);
             });
@@ -188,7 +188,7 @@ TEST_F(CurveAnalysis, CancelAddsNothing)
     for (const int nButton : {linearTrend, cubicTrend, polynomialTrend, average}) {
         OpenAnd([&](HWND hPage) {
             Ask(
-                hPage, nButton, nButton == average ? kAverage : kTrend,
+                hPage, nButton, nButton == average ? AverageDialog : Trend,
                 [](HWND hDialog) { Click(hDialog, cancel); }, false);
         });
     }
@@ -207,7 +207,7 @@ TEST_F(CurveAnalysis, TheNewCurveLiesOnTheAxesOfItsSource)
     ShowAsTold();
     Curve(0)->SetVisible(0);
     Frame();
-    Work([this](HWND hPage) { Ask(hPage, linearTrend, kTrend, [](HWND) {}); });
+    Work([this](HWND hPage) { Ask(hPage, linearTrend, Trend, [](HWND) {}); });
     DoubleClick(At(5, 5, 1, 1));
     ASSERT_EQ(CurveCount(), 3);
     EXPECT_EQ(Got(2, &ISGraphDataSerie::GetXAxis), 1);
@@ -218,7 +218,7 @@ TEST_F(CurveAnalysis, ThePageStaysWithItsCurveAndItsPartnerListAsItWas)
 {
     OpenAnd([this](HWND hPage) {
         for (int i = 0; i < 5; ++i)
-            Ask(hPage, linearTrend, kTrend, [](HWND) {});
+            Ask(hPage, linearTrend, Trend, [](HWND) {});
         EXPECT_EQ(RowsOf(hPage, fillCurve), (std::vector<std::wstring>{L"2 T2", L"3 T3"}));
         Paste(hPage, label, L"still T1");
         Click(hPage, apply);
@@ -246,7 +246,7 @@ TEST_F(CurveAnalysis, ACurveWhoseIndexIsNotItsPlaceNamesTheNewOneForWhatStandsAt
     Frame();
     Work([this](HWND hPage) {
         EXPECT_EQ(TextOf(hPage, label), L"T3");
-        Ask(hPage, linearTrend, kTrend, [](HWND) {});
+        Ask(hPage, linearTrend, Trend, [](HWND) {});
     });
     DoubleClick(At(8.5, 7));
     ASSERT_EQ(CurveCount(), 3);

@@ -34,7 +34,7 @@ TEST_F(CurveEndurance, TrendAndAverageAndTheirMessageBox)
     OpenAnd([this](HWND hPage) {
         Openings::ExpectNothingLeft([=, this] {
             Ask(
-                hPage, linearTrend, kTrend,
+                hPage, linearTrend, Trend,
                 [this](HWND hDialog) {
                     Paste(hDialog, degree, L"1");
                     EXPECT_NE(BoxFrom([=] { DialogHands::Click(hDialog, ok); }), L"");
@@ -42,7 +42,7 @@ TEST_F(CurveEndurance, TrendAndAverageAndTheirMessageBox)
                 },
                 false);
             Ask(
-                hPage, average, kAverage, [](HWND hDialog) { DialogHands::Click(hDialog, cancel); },
+                hPage, average, AverageDialog, [](HWND hDialog) { DialogHands::Click(hDialog, cancel); },
                 false);
         });
     });
@@ -50,7 +50,7 @@ TEST_F(CurveEndurance, TrendAndAverageAndTheirMessageBox)
 
 TEST_F(CurveEndurance, TheFontsOfAnAxis)
 {
-    script.When(kSheet, [this](HWND hSheet) {
+    script.When(SheetCaption, [this](HWND hSheet) {
         const HWND hPage = OpenTab(hSheet, 1);
         Openings::ExpectNothingLeft([=, this] {
             script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });

@@ -39,9 +39,9 @@ TEST_F(CurveHost, DeletesTheCurveUnderThePage)
             graph->DeleteCurve(2);
             WorkOn(hPage);
             Click(hPage, average); // no dialog: there is nothing to average
-            EXPECT_EQ(ModalScript::Find(kAverage), nullptr);
-            Ask(hPage, linearTrend, kTrend, [](HWND) {});
-            Ask(hPage, polynomialTrend, kTrend, [](HWND) {});
+            EXPECT_EQ(ModalScript::Find(AverageDialog), nullptr);
+            Ask(hPage, linearTrend, Trend, [](HWND) {});
+            Ask(hPage, polynomialTrend, Trend, [](HWND) {});
         },
         2);
     EXPECT_EQ(CurveCount(), 2);
@@ -51,7 +51,7 @@ TEST_F(CurveHost, DeletesTheCurveUnderThePage)
 
 TEST_F(CurveHost, ResetsTheGraphUnderThePageAndOkStillEndsTheSheet)
 {
-    script.When(kSheet, [this](HWND hSheet) {
+    script.When(SheetCaption, [this](HWND hSheet) {
         const HWND hPage = PageOf(hSheet);
         graph->ResetAll();
         WorkOn(hPage);
@@ -65,7 +65,7 @@ TEST_F(CurveHost, ResetsTheGraphWhileADialogOfThePageIsOpen)
 {
     for (const int nButton : {linearTrend, cubicTrend, polynomialTrend, average}) {
         OpenAnd([&](HWND hPage) {
-            Ask(hPage, nButton, nButton == average ? kAverage : kTrend, [&](HWND hDialog) {
+            Ask(hPage, nButton, nButton == average ? AverageDialog : Trend, [&](HWND hDialog) {
                 if (nButton == average)
                     Paste(hDialog, span, L"2");
                 graph->ResetAll();
@@ -82,7 +82,7 @@ TEST_F(CurveHost, AddsCurvesWhileADialogOfThePageIsOpenAndThePageFollowsItsCurve
 {
     OpenAnd(
         [this](HWND hPage) {
-            Ask(hPage, linearTrend, kTrend, [this](HWND) {
+            Ask(hPage, linearTrend, Trend, [this](HWND) {
                 for (int nCurve = 3; nCurve < 40; ++nCurve)
                     Add(Line(), nCurve); // the curves move in memory
             });
@@ -115,8 +115,8 @@ TEST_F(CurveHost, RemovesTheCurveAndItsSuccessorIsLeftAlone)
             graph->DeleteCurve(1);
             WorkOn(hPage);
             Click(hPage, average);
-            EXPECT_EQ(ModalScript::Find(kAverage), nullptr);
-            Ask(hPage, linearTrend, kTrend, [](HWND) {});
+            EXPECT_EQ(ModalScript::Find(AverageDialog), nullptr);
+            Ask(hPage, linearTrend, Trend, [](HWND) {});
         },
         1);
     ASSERT_EQ(CurveCount(), 2);
@@ -127,7 +127,7 @@ TEST_F(CurveHost, RemovesTheCurveAndItsSuccessorIsLeftAlone)
 TEST_F(CurveHost, ResetsTheGraphWhileAMessageBoxIsOpen)
 {
     OpenAnd([this](HWND hPage) {
-        script.When(kBox, [this](HWND hBox) {
+        script.When(Box, [this](HWND hBox) {
             graph->ResetAll();
             ::PostMessageW(hBox, WM_COMMAND, IDOK, 0);
         });
@@ -140,7 +140,7 @@ TEST_F(CurveHost, ResetsTheGraphWhileAMessageBoxIsOpen)
 
 TEST_F(CurveHost, DestroysTheParentUnderThePage)
 {
-    script.When(kSheet, [this](HWND hSheet) {
+    script.When(SheetCaption, [this](HWND hSheet) {
         host.Destroy();
         EXPECT_FALSE(::IsWindow(hSheet));
     });
@@ -150,8 +150,8 @@ TEST_F(CurveHost, DestroysTheParentUnderThePage)
 
 TEST_F(CurveHost, DestroysTheParentUnderATrendDialog)
 {
-    script.When(kSheet, [this](HWND hSheet) {
-        script.When(kTrend, [this](HWND hDialog) {
+    script.When(SheetCaption, [this](HWND hSheet) {
+        script.When(Trend, [this](HWND hDialog) {
             host.Destroy();
             EXPECT_FALSE(::IsWindow(hDialog));
         });
@@ -163,8 +163,8 @@ TEST_F(CurveHost, DestroysTheParentUnderATrendDialog)
 
 TEST_F(CurveHost, DestroysTheParentUnderAMessageBox)
 {
-    script.When(kSheet, [this](HWND hSheet) {
-        script.When(kBox, [this](HWND) { host.Destroy(); });
+    script.When(SheetCaption, [this](HWND hSheet) {
+        script.When(Box, [this](HWND) { host.Destroy(); });
         Paste(PageOf(hSheet), markerSize, L"x");
     });
     Open();
@@ -173,7 +173,7 @@ TEST_F(CurveHost, DestroysTheParentUnderAMessageBox)
 
 TEST_F(CurveHost, DestroysTheParentWhileTheColoursAreOpen)
 {
-    script.When(kSheet, [this](HWND hSheet) {
+    script.When(SheetCaption, [this](HWND hSheet) {
         Click(PageOf(hSheet), color);
         EXPECT_NE(::GetCapture(), nullptr);
         host.Destroy();

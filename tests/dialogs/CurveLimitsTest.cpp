@@ -35,7 +35,7 @@ protected:
     }
 
     const std::vector<const wchar_t*> noNumbers = {L"", L" ", L"abc", L"-1", L"1,5", L"1.5", L"٣"};
-    static constexpr const wchar_t* kNoNumber = L"Please enter a positive integer.";
+    static constexpr const wchar_t* NoNumber = L"Please enter a positive integer.";
 };
 
 } // namespace
@@ -45,7 +45,7 @@ TEST_F(CurveLimits, APagesNumberIsCheckedAtEachChangeAndNothingIsEnabledByABadOn
     OpenAnd([this](HWND hPage) {
         for (const int nID : {lineSize, markerSize}) {
             for (const wchar_t* pszText : noNumbers) {
-                EXPECT_EQ(BoxFrom([=] { Paste(hPage, nID, pszText); }), kNoNumber) << Narrow(pszText);
+                EXPECT_EQ(BoxFrom([=] { Paste(hPage, nID, pszText); }), NoNumber) << Narrow(pszText);
                 EXPECT_TRUE(IsOffered(hPage, nID)) << Narrow(pszText);
                 EXPECT_FALSE(IsEnabled(hPage, apply));
             }
@@ -118,7 +118,7 @@ TEST_F(CurveLimits, ATrendAsksForPointsAndDegree)
 {
     OpenAnd([this](HWND hPage) {
         Ask(
-            hPage, linearTrend, kTrend,
+            hPage, linearTrend, Trend,
             [this](HWND hDialog) {
                 EXPECT_EQ(TextOf(hDialog, expand), L"0");
                 EXPECT_EQ(TextOf(hDialog, degree), L"5");
@@ -129,11 +129,11 @@ TEST_F(CurveLimits, ATrendAsksForPointsAndDegree)
                 Spin(hDialog, degreeSpin, false);
                 EXPECT_EQ(TextOf(hDialog, degree), L"4");
 
-                ExpectRefused(hDialog, expand, noNumbers, kNoNumber);
+                ExpectRefused(hDialog, expand, noNumbers, NoNumber);
                 ExpectRefused(hDialog, expand, {L"100000001", L"4294967295", L"99999999999999999999"},
                               L"Please enter an integer between 0 and 100000000.");
                 Paste(hDialog, expand, L"0");
-                ExpectRefused(hDialog, degree, noNumbers, kNoNumber);
+                ExpectRefused(hDialog, degree, noNumbers, NoNumber);
                 ExpectRefused(hDialog, degree, {L"0", L"1", L"21", L"99999999999999999999"},
                               L"Please enter an integer between 2 and 20.");
             },
@@ -153,7 +153,7 @@ TEST_F(CurveLimits, AnAverageAsksForItsKindAndAWindowUpToHalfOfTheCurve)
     Frame();
     OpenAnd([this](HWND hPage) {
         Ask(
-            hPage, average, kAverage,
+            hPage, average, AverageDialog,
             [this](HWND hDialog) {
                 EXPECT_EQ(RowsOf(hDialog, type),
                           (std::vector<std::wstring>{L"Simple", L"Linear", L"Exponential", L"Triangular",
@@ -161,7 +161,7 @@ TEST_F(CurveLimits, AnAverageAsksForItsKindAndAWindowUpToHalfOfTheCurve)
                 EXPECT_EQ(RowOf(hDialog, type), 0);
                 EXPECT_EQ(TextOf(hDialog, span), L"10");
                 ExpectRange(hDialog, spanSpin, 1, 50);
-                ExpectRefused(hDialog, span, noNumbers, kNoNumber);
+                ExpectRefused(hDialog, span, noNumbers, NoNumber);
                 ExpectRefused(hDialog, span, {L"0", L"51", L"4294967295"},
                               L"Please enter an integer between 1 and 50.");
                 Paste(hDialog, span, L"50");
@@ -177,7 +177,7 @@ TEST_F(CurveLimits, TheAverageOfASinglePointCanOnlyBeCancelled)
     OpenAnd([&](HWND hPage) { // while it can still be hit
         graph->SetData(nullptr, one.data(), 1, 0, 0, 0, 0);
         Ask(
-            hPage, average, kAverage,
+            hPage, average, AverageDialog,
             [this](HWND hDialog) {
                 ExpectRefused(hDialog, span, {L"0", L"1", L"10"},
                               L"Please enter an integer between 1 and 0.");
@@ -194,7 +194,7 @@ TEST_F(CurveLimits, EnterPressesOkAndEscapeCancelInTheSmallDialogs)
         int nButton;
         const wchar_t* pszDialog;
         int nEdit;
-    } dialogs[] = {{cubicTrend, kTrend, expand}, {average, kAverage, span}};
+    } dialogs[] = {{cubicTrend, Trend, expand}, {average, AverageDialog, span}};
     for (const auto& dialog : dialogs) {
         for (const WPARAM nKey : {VK_ESCAPE, VK_RETURN}) {
             const int nBefore = CurveCount();

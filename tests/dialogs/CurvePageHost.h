@@ -10,10 +10,10 @@
 
 namespace CurvePage
 {
-inline constexpr const wchar_t* kSheet = L"XGraph-属性";
-inline constexpr const wchar_t* kAverage = L"Moving average";
-inline constexpr const wchar_t* kTrend = L"Trend";
-inline constexpr const wchar_t* kBox = L"Vantoplex"; // of every message box
+inline constexpr const wchar_t* SheetCaption = L"XGraph-属性";
+inline constexpr const wchar_t* AverageDialog = L"Moving average";
+inline constexpr const wchar_t* Trend = L"Trend";
+inline constexpr const wchar_t* Box = L"Vantoplex"; // of every message box
 
 // Controls of the page and of the dialogs that it opens.
 enum : int {
@@ -55,7 +55,7 @@ enum : int {
     markerSize = 6022,
     markerSizeSpin = 6023
 };
-inline constexpr int fillStyles[] = {fill0, fill1, fill2, fill3, fill4, fill5, fill6};
+inline constexpr int FillStyles[] = {fill0, fill1, fill2, fill3, fill4, fill5, fill6};
 } // namespace CurvePage
 
 class CurvePageTest : public FrontDoorInteraction
@@ -91,7 +91,7 @@ protected:
     // What is done on the page when the sheet opens; the sheet is closed after it.
     void Work(OnPage onPage)
     {
-        script.When(CurvePage::kSheet, [onPage](HWND hSheet) {
+        script.When(CurvePage::SheetCaption, [onPage](HWND hSheet) {
             const HWND hPage = DialogHands::PageOf(hSheet);
             if (hPage == nullptr)
                 ADD_FAILURE() << "no page is seen";
@@ -132,7 +132,7 @@ protected:
     std::wstring BoxFrom(const std::function<void()>& act)
     {
         std::wstring text;
-        script.When(CurvePage::kBox, [&text](HWND hBox) {
+        script.When(CurvePage::Box, [&text](HWND hBox) {
             text = DialogHands::TextOf(hBox, 0xFFFF);
             ::PostMessageW(hBox, WM_COMMAND, IDOK, 0);
         });

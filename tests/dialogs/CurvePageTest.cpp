@@ -13,7 +13,7 @@ class CurvePageFields : public CurvePageTest
 protected:
     static void ExpectFillControls(HWND hPage, bool bEnabled)
     {
-        for (const int nID : fillStyles)
+        for (const int nID : FillStyles)
             EXPECT_EQ(IsEnabled(hPage, nID), bEnabled) << nID;
         EXPECT_EQ(IsEnabled(hPage, fillCurve), bEnabled);
     }
@@ -58,7 +58,7 @@ TEST_F(CurvePageFields, EveryFieldOfTheCurveIsShown)
             EXPECT_TRUE(IsChecked(hPage, symbol));
             EXPECT_FALSE(IsChecked(hPage, numbered));
             for (int nStyle = 0; nStyle < 7; ++nStyle)
-                EXPECT_EQ(IsChecked(hPage, fillStyles[nStyle]), nStyle == 4) << nStyle;
+                EXPECT_EQ(IsChecked(hPage, FillStyles[nStyle]), nStyle == 4) << nStyle;
             EXPECT_EQ(RowOf(hPage, marker), 6);
             EXPECT_EQ(RowOf(hPage, fillCurve), 1);
         },
@@ -297,7 +297,7 @@ TEST_F(CurvePageFields, TheColourGoesFromTheCurveToTheButtonAndBack)
 
 TEST_F(CurvePageFields, OkAppliesAndEndsTheSheet)
 {
-    script.When(kSheet, [](HWND hSheet) {
+    script.When(SheetCaption, [](HWND hSheet) {
         const HWND hPage = PageOf(hSheet);
         Paste(hPage, label, L"by OK");
         Click(hPage, ok);
@@ -309,7 +309,7 @@ TEST_F(CurvePageFields, OkAppliesAndEndsTheSheet)
 
 TEST_F(CurvePageFields, CancelEndsTheSheetAndStoresNothing)
 {
-    script.When(kSheet, [](HWND hSheet) {
+    script.When(SheetCaption, [](HWND hSheet) {
         const HWND hPage = PageOf(hSheet);
         Paste(hPage, label, L"never");
         Click(hPage, cancel);
@@ -320,14 +320,14 @@ TEST_F(CurvePageFields, CancelEndsTheSheetAndStoresNothing)
 
 TEST_F(CurvePageFields, EnterAndEscapeDoNothing)
 {
-    script.When(kSheet, [this](HWND hSheet) {
+    script.When(SheetCaption, [this](HWND hSheet) {
         const HWND hPage = PageOf(hSheet);
         ::SetFocus(::GetDlgItem(hPage, label));
         Paste(hPage, label, L"kept");
         PostKey(VK_RETURN);
         PostKey(VK_ESCAPE);
         // The keys have been through the loop when this step comes.
-        script.When(kSheet, [](HWND hStill) {
+        script.When(SheetCaption, [](HWND hStill) {
             EXPECT_EQ(TextOf(PageOf(hStill), label), L"kept");
             EXPECT_TRUE(IsEnabled(PageOf(hStill), apply));
             ::PostMessageW(hStill, WM_CLOSE, 0, 0);

@@ -19,7 +19,7 @@ protected:
         const HBITMAP hBitmap = ::CreateCompatibleBitmap(hScreen, 60, 16);
         const HGDIOBJ hOld = ::SelectObject(hDC, hBitmap);
         const RECT rect = {0, 0, 60, 16};
-        const HBRUSH hBrush = ::CreateSolidBrush(kUntouched);
+        const HBRUSH hBrush = ::CreateSolidBrush(Untouched);
         ::FillRect(hDC, &rect, hBrush);
         DRAWITEMSTRUCT item = {};
         item.CtlType = ODT_COMBOBOX;
@@ -43,7 +43,7 @@ protected:
         ::ReleaseDC(nullptr, hScreen);
         return nCount;
     }
-    static constexpr COLORREF kUntouched = 0x123456;
+    static constexpr COLORREF Untouched = 0x123456;
 };
 
 } // namespace
@@ -77,7 +77,7 @@ TEST_F(CurvePageRows, EachOfTheEightSymbolsIsDrawnInItsRow)
             EXPECT_GT(DarkPixels(hPage, marker, nRow, ODS_DISABLED, crInactive), 10) << nRow;
         }
         for (const UINT nRow : {8u, 15u, 0xFFFFFFFFu})
-            EXPECT_EQ(DarkPixels(hPage, marker, nRow, ODS_SELECTED, kUntouched), 60 * 16) << nRow;
+            EXPECT_EQ(DarkPixels(hPage, marker, nRow, ODS_SELECTED, Untouched), 60 * 16) << nRow;
     });
 }
 
@@ -92,6 +92,6 @@ TEST_F(CurvePageRows, EachOfTheFivePenStylesIsDrawnInItsRow)
                       60 * 15 - 1)
                 << nRow;
         }
-        EXPECT_EQ(DarkPixels(hPage, lineStyle, 5, 0, kUntouched), 60 * 16);
+        EXPECT_EQ(DarkPixels(hPage, lineStyle, 5, 0, Untouched), 60 * 16);
     });
 }

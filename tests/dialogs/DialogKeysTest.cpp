@@ -19,10 +19,10 @@ protected:
         int nTab, const std::vector<int>& stops, bool bBack,
         std::function<void(HWND)> prepare = [](HWND) {})
     {
-        script.When(kSheet, [=, this](HWND hSheet) {
+        script.When(SheetCaption, [=, this](HWND hSheet) {
             const HWND hPage = OpenTab(hSheet, nTab);
             prepare(hPage);
-            KeyWalk::Round(script, kSheet, hPage, stops, bBack,
+            KeyWalk::Round(script, SheetCaption, hPage, stops, bBack,
                            [](HWND hStill) { ::PostMessageW(hStill, WM_CLOSE, 0, 0); });
         });
         Open();
@@ -82,7 +82,7 @@ protected:
     {
         if (steps.empty())
             return;
-        script.When(kSheet, [this, steps = std::move(steps), nLooks](HWND hSheet) mutable {
+        script.When(SheetCaption, [this, steps = std::move(steps), nLooks](HWND hSheet) mutable {
             const HWND hPage = PageOf(hSheet);
             if (!steps.front().isReady(hPage)) {
                 if (nLooks < 500)
@@ -99,17 +99,17 @@ protected:
     }
 };
 
-const std::vector<int> kChartPage = {1,    2,    6047, 6048, 6049, 6050, 6051,
+const std::vector<int> ChartOrder = {1,    2,    6047, 6048, 6049, 6050, 6051,
                                      6076, 6075, 6055, 6070, 6057, 6052};
-const std::vector<int> kAxisPage = {1,    2,    6010, 6039, 6040, 6013, 6001, 6002, 6014, 6015, 6016,
+const std::vector<int> AxisOrder = {1,    2,    6010, 6039, 6040, 6013, 6001, 6002, 6014, 6015, 6016,
                                     6033, 6007, 6018, 6020, 6022, 6024, 6058, 6077, 6072, 6009};
-const std::vector<int> kDatesPage = {1,    2,    6010, 5002, 6039, 6001, 6002, 6014,
+const std::vector<int> DatesOrder = {1,    2,    6010, 5002, 6039, 6001, 6002, 6014,
                                      6015, 6033, 6007, 6018, 6020, 6022, 6025, 6026,
                                      6029, 6030, 6046, 6058, 6081, 6083, 6072, 6009};
-const std::vector<int> kCurvePage = {6010, 6008, 6035, 6022, 6034, 6007, 6009, 6038,
+const std::vector<int> CurveOrder = {6010, 6008, 6035, 6022, 6034, 6007, 6009, 6038,
                                      6011, 6066, 6067, 6065, 6080, 1,    2};
 // 6062 and 6032 are the chosen ones of their groups.
-const std::vector<int> kFilledPage = {6010, 6008, 6035, 6022, 6034, 6007, 6009, 6038, 6062, 6011,
+const std::vector<int> FilledOrder = {6010, 6008, 6035, 6022, 6034, 6007, 6009, 6038, 6062, 6011,
                                       6012, 6032, 6066, 6067, 6065, 6080, 1,    2,    5002};
 
 } // namespace
@@ -117,16 +117,16 @@ const std::vector<int> kFilledPage = {6010, 6008, 6035, 6022, 6034, 6007, 6009, 
 TEST_F(DialogKeys, TabFollowsTheTemplateOnEachPage)
 {
     for (const bool bBack : {false, true}) {
-        ExpectOrder(0, kChartPage, bBack);
-        ExpectOrder(1, kAxisPage, bBack);
-        ExpectOrder(2, kCurvePage, bBack);
+        ExpectOrder(0, ChartOrder, bBack);
+        ExpectOrder(1, AxisOrder, bBack);
+        ExpectOrder(2, CurveOrder, bBack);
     }
 }
 
 TEST_F(DialogKeys, TabStopsAtWhatAChangeHasOpened)
 {
-    ExpectOrder(1, kDatesPage, false, [](HWND hPage) { Click(hPage, 6015); });
-    ExpectOrder(2, kFilledPage, false, [](HWND hPage) {
+    ExpectOrder(1, DatesOrder, false, [](HWND hPage) { Click(hPage, 6015); });
+    ExpectOrder(2, FilledOrder, false, [](HWND hPage) {
         Click(hPage, fill);
         Click(hPage, showMarker);
     });
@@ -135,8 +135,8 @@ TEST_F(DialogKeys, TabStopsAtWhatAChangeHasOpened)
 TEST_F(DialogKeys, TabFollowsTheTemplateInTheSmallDialogs)
 {
     for (const bool bBack : {false, true}) {
-        ExpectOrder(linearTrend, kTrend, {ok, cancel, expand, degree}, bBack);
-        ExpectOrder(average, kAverage, {ok, cancel, type, span}, bBack);
+        ExpectOrder(linearTrend, Trend, {ok, cancel, expand, degree}, bBack);
+        ExpectOrder(average, AverageDialog, {ok, cancel, type, span}, bBack);
     }
 }
 

@@ -9,7 +9,7 @@ using namespace DialogHands;
 namespace
 {
 
-constexpr const wchar_t* kLabel = L"属性";
+constexpr const wchar_t* Label = L"属性";
 enum : int {
     ok = 1,
     cancel = 2,
@@ -52,7 +52,7 @@ protected:
             ::PostMessageW(hMenu, WM_KEYDOWN, VK_DOWN, 0);
             ::PostMessageW(hMenu, WM_KEYDOWN, VK_RETURN, 0);
         });
-        script.When(kLabel, std::move(work));
+        script.When(Label, std::move(work));
         // The menu is that of the object pressed last. A press on a label in its frame waits for
         // the release.
         ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(200, 90));
@@ -238,7 +238,7 @@ TEST_F(LabelDialog, TabFollowsTheTemplate)
 {
     for (const bool bBack : {false, true}) {
         Begin([this, bBack](HWND hDialog) {
-            KeyWalk::Round(script, kLabel, hDialog,
+            KeyWalk::Round(script, Label, hDialog,
                            {ok, cancel, border, alignment, color, font, curve, transparent}, bBack,
                            [](HWND hStill) { ::PostMessageW(hStill, WM_CLOSE, 0, 0); });
         });

@@ -74,8 +74,8 @@ class SheetHost : public FrontDoorInteraction
 {
 protected:
     enum Tab { Chart, Axis, Curve_ };
-    static constexpr const wchar_t* kSheet = L"XGraph-属性";
-    static constexpr const wchar_t* kBox = L"Vantoplex"; // of every message box
+    static constexpr const wchar_t* SheetCaption = L"XGraph-属性";
+    static constexpr const wchar_t* Box = L"Vantoplex"; // of every message box
 
     using Texts = std::vector<std::wstring>;
 
@@ -87,7 +87,7 @@ protected:
             : caption(pszDialog), action(std::move(act))
         {
         }
-        std::wstring caption = kSheet;
+        std::wstring caption = SheetCaption;
         ModalScript::Action action;
     };
 
@@ -126,7 +126,7 @@ protected:
         Release(at);
     }
 
-    static HWND Sheet() { return ModalScript::Find(kSheet, true); }
+    static HWND Sheet() { return ModalScript::Find(SheetCaption, true); }
     static HWND Tabs() { return ::GetDlgItem(Sheet(), Id::tabs); }
     // A page is known by a control that no other one has.
     static HWND Page(Tab tab)

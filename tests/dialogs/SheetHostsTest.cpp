@@ -55,7 +55,7 @@ TEST_F(SheetAndHost, AHostMayDestroyItsWindowWhileTheSheetIsOpen)
 
 TEST_F(SheetAndHost, AHostMayDestroyItsWindowWhileAMessageBoxIsOpen)
 {
-    Open(OnNothing(), {[&] { Enter(Id::snapRange, L"101"); }, {kBox, [&](HWND) { host.Destroy(); }}});
+    Open(OnNothing(), {[&] { Enter(Id::snapRange, L"101"); }, {Box, [&](HWND) { host.Destroy(); }}});
     ExpectNothingLeft();
 }
 
@@ -67,7 +67,7 @@ TEST_F(SheetAndHost, AHostMayDestroyItsWindowWhileTheBoxOfAnApplyIsOpen)
                          EXPECT_EQ(boxes.Take().size(), 1u);
                      },
                      [&] { Press(Id::ok); },
-                     {kBox, [&](HWND) { host.Destroy(); }}});
+                     {Box, [&](HWND) { host.Destroy(); }}});
     ExpectNothingLeft();
 }
 

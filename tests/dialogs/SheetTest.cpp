@@ -65,7 +65,7 @@ TEST_F(PropertySheet, ADoubleClickOnALegendRowOpensThePageOfTheCurve)
     Frame();
     const Picture picture = Shoot();
     POINT row = {};
-    for (int y = 0; y < kHeight && row.y == 0; ++y) {
+    for (int y = 0; y < Height && row.y == 0; ++y) {
         for (int x = 0; x < 40; ++x) {
             if (picture.At(x, y) == 0x123456) {
                 row = {x + 4, y + 2};

@@ -155,14 +155,14 @@ std::vector<int> With(const Dialog& dialog, DWORD style)
     return ids;
 }
 
-constexpr DWORD kPage = 0x40000040, kPopup = 0x80C800C0;
+constexpr DWORD Page = 0x40000040, Popup = 0x80C800C0;
 
 } // namespace
 
 TEST(Templates, TheSheetIsATabControl)
 {
     const Dialog dialog = Load(106);
-    ExpectFrame(dialog, kPopup, 335, 273, L"XGraph-属性");
+    ExpectFrame(dialog, Popup, 335, 273, L"XGraph-属性");
     ExpectControls(dialog, {{6073, L"SysTabControl32", L"", 7, 7, 321, 259}});
     EXPECT_EQ(dialog.controls[0].style, 0x50004040u);
 }
@@ -170,7 +170,7 @@ TEST(Templates, TheSheetIsATabControl)
 TEST(Templates, ThePageOfTheGraph)
 {
     const Dialog dialog = Load(105);
-    ExpectFrame(dialog, kPage, 306, 241, L"");
+    ExpectFrame(dialog, Page, 306, 241, L"");
     ExpectControls(dialog, {{1, L"BUTTON", L"确定", 5, 220, 50, 14},
                             {2, L"BUTTON", L"取消", 60, 220, 50, 14},
                             {5002, L"BUTTON", L"应用", 130, 220, 50, 14},
@@ -206,7 +206,7 @@ TEST(Templates, ThePageOfTheGraph)
 TEST(Templates, ThePageOfAnAxis)
 {
     const Dialog dialog = Load(104);
-    ExpectFrame(dialog, kPage, 306, 241, L"");
+    ExpectFrame(dialog, Page, 306, 241, L"");
     ExpectControls(dialog, {{1, L"BUTTON", L"确定", 5, 220, 50, 14},
                             {2, L"BUTTON", L"取消", 60, 220, 50, 14},
                             {-1, L"STATIC", L"标签", 5, 5, 75, 10},
@@ -266,7 +266,7 @@ TEST(Templates, ThePageOfAnAxis)
 TEST(Templates, ThePageOfACurve)
 {
     const Dialog dialog = Load(107);
-    ExpectFrame(dialog, kPage, 306, 241, L"");
+    ExpectFrame(dialog, Page, 306, 241, L"");
     ExpectControls(dialog, {{-1, L"STATIC", L"标签", 5, 5, 80, 10},
                             {6010, L"EDIT", L"", 5, 15, 80, 15},
                             {-1, L"STATIC", L"类型", 95, 5, 35, 10},
@@ -322,7 +322,7 @@ TEST(Templates, ThePageOfACurve)
 TEST(Templates, TheDialogOfALabel)
 {
     const Dialog dialog = Load(108);
-    ExpectFrame(dialog, kPopup, 186, 145, L"属性");
+    ExpectFrame(dialog, Popup, 186, 145, L"属性");
     ExpectControls(dialog, {{1, L"BUTTON", L"确定", 5, 125, 50, 14},
                             {2, L"BUTTON", L"取消", 60, 125, 50, 14},
                             {-1, L"STATIC", L"背景颜色", 5, 8, 66, 8},
@@ -341,7 +341,7 @@ TEST(Templates, TheDialogOfALabel)
 TEST(Templates, TheDialogOfATrend)
 {
     const Dialog dialog = Load(109);
-    ExpectFrame(dialog, kPopup, 182, 66, L"Trend");
+    ExpectFrame(dialog, Popup, 182, 66, L"Trend");
     ExpectControls(dialog, {{1, L"BUTTON", L"OK", 5, 45, 50, 14},
                             {2, L"BUTTON", L"Cancel", 60, 45, 50, 14},
                             {-1, L"STATIC", L"Expand trend with", 5, 10, 59, 10},
@@ -356,7 +356,7 @@ TEST(Templates, TheDialogOfATrend)
 TEST(Templates, TheDialogOfAMovingAverage)
 {
     const Dialog dialog = Load(128);
-    ExpectFrame(dialog, kPopup, 167, 66, L"Moving average");
+    ExpectFrame(dialog, Popup, 167, 66, L"Moving average");
     ExpectControls(dialog, {{1, L"BUTTON", L"确定", 5, 45, 50, 14},
                             {2, L"BUTTON", L"取消", 63, 45, 50, 14},
                             {-1, L"STATIC", L"类型", 5, 10, 60, 10},

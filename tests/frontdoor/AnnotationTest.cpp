@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr UINT kGetMenu = 0x1E1; // MN_GETHMENU
+constexpr UINT GetMenu = 0x1E1; // MN_GETHMENU
 
 // Watches for the popup menu of this thread, from a timer, and answers it.
 class MenuWatch
@@ -46,7 +46,7 @@ private:
     {
         const HWND hMenuWindow = ::FindWindowW(L"#32768", nullptr);
         if (hMenuWindow != nullptr && m_nItems == 0) {
-            const auto hMenu = reinterpret_cast<HMENU>(::SendMessageW(hMenuWindow, kGetMenu, 0, 0));
+            const auto hMenu = reinterpret_cast<HMENU>(::SendMessageW(hMenuWindow, GetMenu, 0, 0));
             m_nItems = ::GetMenuItemCount(hMenu);
             m_nId = ::GetMenuItemID(hMenu, 0);
             wchar_t text[64] = {};
@@ -213,7 +213,7 @@ TEST_F(FrontDoorAnnotation, ANoteCannotBeEdited)
     Shoot();
     double fX = 0;
     while (XAxis()->GetValueForPos(++x, &fX), fX < point.fYVal) // x and y of the line are the same
-        ASSERT_LT(x, kWidth);
+        ASSERT_LT(x, Width);
     const MenuWatch watch(false); // closes what should not open
     DoubleClick(x + 5, y - 14);
     EXPECT_EQ(Editor(), nullptr);

@@ -11,52 +11,52 @@ using Chart2dBadInput = Chart2dTest;
 namespace
 {
 
-constexpr int kLowest = (-2147483647 - 1);
-constexpr int kHighest = 2147483647;
+constexpr int Lowest = (-2147483647 - 1);
+constexpr int Highest = 2147483647;
 
 } // namespace
 
 TEST_F(Chart2dBadInput, ValuesAtTheEndsOfTheRangeAreDrawn)
 {
-    Create(kBar);
-    FillBars({{kHighest, kLowest, 0}, {kLowest, kHighest, 1}});
+    Create(Bar);
+    FillBars({{Highest, Lowest, 0}, {Lowest, Highest, 1}});
     const Picture picture = Redrawn();
-    EXPECT_EQ(Column(picture, 130, kRed), (POINT{169, 326}));
+    EXPECT_EQ(Column(picture, 130, Red), (POINT{169, 326}));
     for (const int type : {20, 21, 22, 25, 26})
         AtTick(type, 60);
 }
 
 TEST_F(Chart2dBadInput, LinesAtTheEndsOfTheRangeAreDrawn)
 {
-    Create(kLine);
-    FillLines({{kHighest, kLowest, 1}, {kLowest, kHighest, kLowest}, {1, kLowest, kHighest}});
-    EXPECT_GT(Redrawn().Count(kRed), 0);
+    Create(Line);
+    FillLines({{Highest, Lowest, 1}, {Lowest, Highest, Lowest}, {1, Lowest, Highest}});
+    EXPECT_GT(Redrawn().Count(Red), 0);
     for (const int type : {30, 31})
         AtTick(type, 60);
     chart->Set2DLineGraphValue(1, 1, 1); // now the scale ends at 1
-    EXPECT_GT(Redrawn().Count(kBlue), 0);
+    EXPECT_GT(Redrawn().Count(Blue), 0);
     for (const int type : {30, 31})
         AtTick(type, 60);
 }
 
 TEST_F(Chart2dBadInput, NothingButZerosAndNothingButNegativesAreDrawn)
 {
-    for (const int value : {0, -1, kLowest}) {
+    for (const int value : {0, -1, Lowest}) {
         Holder<IChart2d> other = Server::Shared().Make<Chart2d, IChart2d>();
         std::swap(chart, other);
-        Create(kBar);
+        Create(Bar);
         FillBars({{value, value}, {value, value}});
-        EXPECT_EQ(Column(Redrawn(), 150, kRed).y, 326) << value; // over a scale of nothing
+        EXPECT_EQ(Column(Redrawn(), 150, Red).y, 326) << value; // over a scale of nothing
         AtTick(26, 60);
     }
 }
 
 TEST_F(Chart2dBadInput, ThousandsOfSegmentsInASmallWindowAreDrawnAndAnimated)
 {
-    Create(kBar, {0, 0, 200, 200});
+    Create(Bar, {0, 0, 200, 200});
     chart->Add2DBarGraphSegment(Text(L"first"));
     for (int series = 1; series <= 3; ++series)
-        chart->Add2DBarGraphSeries(Text(L"row"), kRed);
+        chart->Add2DBarGraphSeries(Text(L"row"), Red);
     for (int segment = 2; segment <= 3000; ++segment)
         chart->Add2DBarGraphSegment(Text(L"s"));
     chart->Set2DBarGraphValue(1, 1, 10);
@@ -69,24 +69,24 @@ TEST_F(Chart2dBadInput, ThousandsOfSegmentsInASmallWindowAreDrawnAndAnimated)
 
 TEST_F(Chart2dBadInput, ThousandsOfPointsAreDrawnAndAnimated)
 {
-    Create(kLine, {0, 0, 200, 200});
+    Create(Line, {0, 0, 200, 200});
     chart->ShowGraphLegend(0);
     for (int segment = 1; segment <= 2000; ++segment)
         chart->Add2DLineGraphSegment(Text(L"s"));
     for (int series = 1; series <= 2; ++series)
-        chart->Add2DLineGraphSeries(Text(L"row"), kRed);
+        chart->Add2DLineGraphSeries(Text(L"row"), Red);
     for (int segment = 1; segment <= 2000; ++segment)
         chart->Set2DLineGraphValue(segment, 1, 100 + segment % 7);
-    EXPECT_GT(Redrawn().Count(kRed), 0);
+    EXPECT_GT(Redrawn().Count(Red), 0);
     for (const int type : {30, 31})
         AtTick(type, 10);
 }
 
 TEST_F(Chart2dBadInput, ThousandsOfSlicesAreDrawnAndAnimated)
 {
-    Create(kPie, {0, 0, 200, 200});
+    Create(Pie, {0, 0, 200, 200});
     for (int segment = 0; segment < 2000; ++segment)
-        chart->Add2DPieGraphSegment(0.05, kRed, Text(L"s"));
+        chart->Add2DPieGraphSegment(0.05, Red, Text(L"s"));
     Redrawn();
     for (const int type : {10, 11})
         AtTick(type, 60);
@@ -94,24 +94,24 @@ TEST_F(Chart2dBadInput, ThousandsOfSlicesAreDrawnAndAnimated)
 
 TEST_F(Chart2dBadInput, SliceThinnerThanAPixelIsTheWholeEllipseAsThePlatformDrawsIt)
 {
-    Create(kPie);
+    Create(Pie);
     chart->ShowGraphLegend(0);
-    chart->Add2DPieGraphSegment(50, kRed, Text(L"s"));
-    chart->Add2DPieGraphSegment(0.001, kGreen, Text(L"s"));
-    EXPECT_EQ(Redrawn().At(192, 200), kGreen);
-    EXPECT_EQ(Redrawn().Count(kRed), 0);
+    chart->Add2DPieGraphSegment(50, Red, Text(L"s"));
+    chart->Add2DPieGraphSegment(0.001, Green, Text(L"s"));
+    EXPECT_EQ(Redrawn().At(192, 200), Green);
+    EXPECT_EQ(Redrawn().Count(Red), 0);
 }
 
 TEST_F(Chart2dBadInput, PercentsThatAreNoNumbersAddNothing)
 {
-    Create(kPie);
+    Create(Pie);
     const Picture empty = Redrawn();
-    chart->Add2DPieGraphSegment(std::nan(""), kRed, Text(L"s"));
-    chart->Add2DPieGraphSegment(-std::numeric_limits<double>::infinity(), kRed, Text(L"s"));
+    chart->Add2DPieGraphSegment(std::nan(""), Red, Text(L"s"));
+    chart->Add2DPieGraphSegment(-std::numeric_limits<double>::infinity(), Red, Text(L"s"));
     EXPECT_EQ(Redrawn().CountDifferences(empty), 0);
-    chart->Add2DPieGraphSegment(std::numeric_limits<double>::infinity(), kRed, Text(L"s"));
-    EXPECT_EQ(Redrawn().At(192, 200), kRed);
-    chart->Update2DPieGraphSegment(1, kHighest, kGreen, Text(L"s"));
+    chart->Add2DPieGraphSegment(std::numeric_limits<double>::infinity(), Red, Text(L"s"));
+    EXPECT_EQ(Redrawn().At(192, 200), Red);
+    chart->Update2DPieGraphSegment(1, Highest, Green, Text(L"s"));
     Redrawn();
     AtTick(10, 30);
     AtTick(11, 60);
@@ -124,14 +124,14 @@ TEST_F(Chart2dBadInput, TextsOfAnyLengthAreDrawn)
          {std::wstring(), std::wstring(L"\r\n\t"), std::wstring(L"%s%n%d"), endless}) {
         Holder<IChart2d> other = Server::Shared().Make<Chart2d, IChart2d>();
         std::swap(chart, other);
-        Create(kBar);
+        Create(Bar);
         const Text bstr(text.c_str());
         chart->Add2DBarGraphSegment(bstr);
-        chart->Add2DBarGraphSeries(bstr, kRed);
+        chart->Add2DBarGraphSeries(bstr, Red);
         chart->Set2DBarGraphValue(1, 1, 5);
         chart->SetGraphTitle(bstr);
         chart->SetGraphSubtitle(bstr);
-        EXPECT_GT(Redrawn().Count(kRed), 1000);
+        EXPECT_GT(Redrawn().Count(Red), 1000);
     }
 }
 
@@ -142,9 +142,9 @@ TEST_F(Chart2dBadInput, CallsThatNeedAChartDoNothingBeforeThereIsOne)
     const Picture empty = Redrawn();
     ULONG color = 1;
     long bAnimation = 1;
-    chart->SetGraphLegendTextColor(kRed);
-    chart->SetGraphLegendBackgroundColor(kRed);
-    chart->SetGraphLabelsColor(kRed);
+    chart->SetGraphLegendTextColor(Red);
+    chart->SetGraphLegendBackgroundColor(Red);
+    chart->SetGraphLabelsColor(Red);
     EXPECT_EQ(chart->GetGraphLegendTextColor(&color), S_OK);
     EXPECT_EQ(color, 0u);
     EXPECT_EQ(chart->GetGraphLegendBackgroundColor(&(color = 1)), S_OK);
@@ -156,17 +156,17 @@ TEST_F(Chart2dBadInput, CallsThatNeedAChartDoNothingBeforeThereIsOne)
     EXPECT_EQ(bAnimation, 0);
     EXPECT_FALSE(HasTimer());
     chart->Add2DBarGraphSegment(Text(L"s"));
-    chart->Add2DBarGraphSeries(Text(L"s"), kRed);
+    chart->Add2DBarGraphSeries(Text(L"s"), Red);
     chart->Set2DBarGraphValue(1, 1, 1);
     chart->Delete2DBarGraphSegment(9);
     chart->Detele2DBarGraphSeries(9);
     chart->Add2DLineGraphSegment(Text(L"s"));
-    chart->Add2DLineGraphSeries(Text(L"s"), kRed);
+    chart->Add2DLineGraphSeries(Text(L"s"), Red);
     chart->Set2DLineGraphValue(1, 1, 1);
     chart->Delete2DLineGraphSegment(9);
     chart->Delete2DLineGraphSeries(9);
-    chart->Add2DPieGraphSegment(10, kRed, Text(L"s"));
-    chart->Update2DPieGraphSegment(9, 9, kRed, Text(L"s"));
+    chart->Add2DPieGraphSegment(10, Red, Text(L"s"));
+    chart->Update2DPieGraphSegment(9, 9, Red, Text(L"s"));
     chart->Delete2DPieGraphSegment(9);
     chart->Clear2DPieGraph();
     Tick(3);
@@ -176,10 +176,10 @@ TEST_F(Chart2dBadInput, CallsThatNeedAChartDoNothingBeforeThereIsOne)
 
 TEST_F(Chart2dBadInput, DataOfAnotherKindGoNowhere)
 {
-    Create(kBar);
+    Create(Bar);
     const Picture empty = Redrawn();
     chart->Add2DLineGraphSegment(Text(L"s"));
-    chart->Add2DPieGraphSegment(10, kRed, Text(L"s"));
+    chart->Add2DPieGraphSegment(10, Red, Text(L"s"));
     chart->Delete2DPieGraphSegment(1);
     EXPECT_TRUE(boxes.m_texts.empty());
     EXPECT_EQ(Redrawn().CountDifferences(empty), 0);
@@ -187,14 +187,14 @@ TEST_F(Chart2dBadInput, DataOfAnotherKindGoNowhere)
 
 TEST_F(Chart2dBadInput, SecondKindTakesTheFirstsPlaceAndKeepsItsData)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
-    chart->CreateGraph(kPie);
-    EXPECT_EQ(Redrawn().Count({32, 140, 352, 340}, kRed), 0);
+    chart->CreateGraph(Pie);
+    EXPECT_EQ(Redrawn().Count({32, 140, 352, 340}, Red), 0);
     chart->Set2DBarGraphValue(9, 1, 1); // the bars are there still
     EXPECT_EQ(boxes.Take().size(), 1u);
-    chart->Add2DPieGraphSegment(100, kGreen, Text(L"s"));
-    EXPECT_EQ(Redrawn().At(192, 200), kGreen);
+    chart->Add2DPieGraphSegment(100, Green, Text(L"s"));
+    EXPECT_EQ(Redrawn().At(192, 200), Green);
 }
 
 TEST_F(Chart2dBadInput, ParentThatIsNoneGivesAChartWithoutAWindow)
@@ -202,7 +202,7 @@ TEST_F(Chart2dBadInput, ParentThatIsNoneGivesAChartWithoutAWindow)
     RECT rect = {0, 0, 640, 400};
     EXPECT_EQ(chart->Create(&rect, nullptr, 7), S_OK);
     EXPECT_EQ(Handle(), nullptr);
-    EXPECT_EQ(chart->CreateGraph(kBar), S_OK);
+    EXPECT_EQ(chart->CreateGraph(Bar), S_OK);
     FillBars({{1, 2}});
     EXPECT_EQ(chart->SetGraphAnimation(1, 20), S_OK);
     EXPECT_EQ(chart->SetGraphSize(300, 300), S_OK);

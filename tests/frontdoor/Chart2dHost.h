@@ -12,12 +12,12 @@
 class Chart2dTest : public testing::Test
 {
 protected:
-    enum EKind { kBar = 0, kPie = 1, kLine = 2 };
-    static constexpr UINT_PTR kTimer = 50000;
-    static constexpr COLORREF kWhite = 0xFFFFFF;
-    static constexpr COLORREF kRed = 0x0000FF;
-    static constexpr COLORREF kGreen = 0x00C000;
-    static constexpr COLORREF kBlue = 0xFF0000;
+    enum EKind { Bar = 0, Pie = 1, Line = 2 };
+    static constexpr UINT_PTR Timer = 50000;
+    static constexpr COLORREF White = 0xFFFFFF;
+    static constexpr COLORREF Red = 0x0000FF;
+    static constexpr COLORREF Green = 0x00C000;
+    static constexpr COLORREF Blue = 0xFF0000;
 
     Chart2dTest() : chart(Server::Shared().Make<Chart2d, IChart2d>()) {}
 
@@ -47,7 +47,7 @@ protected:
     // Bars: segments s1, s2, ...; then one series for each row of values.
     void FillBars(std::initializer_list<std::initializer_list<int>> rows)
     {
-        const COLORREF colors[] = {kRed, kGreen, kBlue};
+        const COLORREF colors[] = {Red, Green, Blue};
         for (std::size_t segment = 0; segment < rows.begin()->size(); ++segment)
             chart->Add2DBarGraphSegment(Text(L"s"));
         int series = 0;
@@ -61,7 +61,7 @@ protected:
     }
     void FillLines(std::initializer_list<std::initializer_list<int>> rows)
     {
-        const COLORREF colors[] = {kRed, kGreen, kBlue};
+        const COLORREF colors[] = {Red, Green, Blue};
         for (std::size_t segment = 0; segment < rows.begin()->size(); ++segment)
             chart->Add2DLineGraphSegment(Text(L"s"));
         int series = 0;
@@ -89,7 +89,7 @@ protected:
     void Tick(int ticks = 1) const
     {
         while (ticks-- > 0) {
-            ::SendMessageW(Handle(), WM_TIMER, kTimer, 0);
+            ::SendMessageW(Handle(), WM_TIMER, Timer, 0);
             ::UpdateWindow(Handle());
         }
     }
@@ -104,9 +104,9 @@ protected:
     [[nodiscard]] bool HasTimer() const
     {
         // An existing timer can be taken away; it is put back.
-        if (!::KillTimer(Handle(), kTimer))
+        if (!::KillTimer(Handle(), Timer))
             return false;
-        ::SetTimer(Handle(), kTimer, 50, nullptr);
+        ::SetTimer(Handle(), Timer, 50, nullptr);
         return true;
     }
 
@@ -147,7 +147,7 @@ protected:
     };
     static int TextDifferences(const Picture& picture, POINT at, const std::wstring& text,
                                const TFont& font, UINT alignment = TA_LEFT, COLORREF color = 0,
-                               COLORREF background = kWhite)
+                               COLORREF background = White)
     {
         const HDC hDC = ::CreateCompatibleDC(nullptr);
         const HDC hScreen = ::GetDC(nullptr);

@@ -14,7 +14,7 @@ using TTexts = std::vector<std::wstring>;
 
 TEST_F(Chart2dMessages, SegmentIsTestedBeforeSeriesWhenAValueIsSet)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     EXPECT_EQ(chart->Set2DBarGraphValue(0, 1, 5), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"Segments index is out of bounds..."}));
@@ -30,10 +30,10 @@ TEST_F(Chart2dMessages, SegmentIsTestedBeforeSeriesWhenAValueIsSet)
 
 TEST_F(Chart2dMessages, SeriesBeforeAnySegmentIsRefusedAndLeavesTheChartEmpty)
 {
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     const Picture empty = Redrawn();
-    EXPECT_EQ(chart->Add2DBarGraphSeries(Text(L"early"), kRed), S_OK);
+    EXPECT_EQ(chart->Add2DBarGraphSeries(Text(L"early"), Red), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"No graph segments..."}));
     chart->Add2DBarGraphSegment(Text(L"s"));
     EXPECT_EQ(Redrawn().CountDifferences(empty), 0);
@@ -41,7 +41,7 @@ TEST_F(Chart2dMessages, SeriesBeforeAnySegmentIsRefusedAndLeavesTheChartEmpty)
 
 TEST_F(Chart2dMessages, DeletionsOutOfBoundsAreTold)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     const Picture before = Redrawn();
     for (const int index : {-1, 0, 3, 2147483647}) {
@@ -57,7 +57,7 @@ TEST_F(Chart2dMessages, DeletionsOutOfBoundsAreTold)
 
 TEST_F(Chart2dMessages, IdAboveTheCountIsOutOfBoundsThoughItExists)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{10, 20, 30}});
     chart->Delete2DBarGraphSegment(1);
     const Picture before = Redrawn();
@@ -68,7 +68,7 @@ TEST_F(Chart2dMessages, IdAboveTheCountIsOutOfBoundsThoughItExists)
 
 TEST_F(Chart2dMessages, IdThatHasLeftTheListIsOutOfBoundsToo)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{10, 20, 30}, {10, 20, 30}});
     chart->Delete2DBarGraphSegment(1);
     chart->Detele2DBarGraphSeries(1);
@@ -85,8 +85,8 @@ TEST_F(Chart2dMessages, IdThatHasLeftTheListIsOutOfBoundsToo)
 
 TEST_F(Chart2dMessages, LinesTellTheSame)
 {
-    Create(kLine);
-    chart->Add2DLineGraphSeries(Text(L"early"), kRed);
+    Create(Line);
+    chart->Add2DLineGraphSeries(Text(L"early"), Red);
     EXPECT_EQ(boxes.Take(), (TTexts{L"No graph segments..."}));
     FillLines({{1, 2}});
     chart->Set2DLineGraphValue(3, 1, 1);
@@ -101,14 +101,14 @@ TEST_F(Chart2dMessages, LinesTellTheSame)
 
 TEST_F(Chart2dMessages, PieTellsIndexBeforePercent)
 {
-    Create(kPie);
-    chart->Add2DPieGraphSegment(50, kRed, Text(L"slice"));
+    Create(Pie);
+    chart->Add2DPieGraphSegment(50, Red, Text(L"slice"));
     const Picture before = Redrawn();
-    EXPECT_EQ(chart->Update2DPieGraphSegment(2, 0, kGreen, Text(L"x")), S_OK);
+    EXPECT_EQ(chart->Update2DPieGraphSegment(2, 0, Green, Text(L"x")), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"Index is out of bounds..."}));
-    EXPECT_EQ(chart->Update2DPieGraphSegment(1, 0, kGreen, Text(L"x")), S_OK);
+    EXPECT_EQ(chart->Update2DPieGraphSegment(1, 0, Green, Text(L"x")), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"Percent is not valid..."}));
-    EXPECT_EQ(chart->Update2DPieGraphSegment(1, -3, kGreen, Text(L"x")), S_OK);
+    EXPECT_EQ(chart->Update2DPieGraphSegment(1, -3, Green, Text(L"x")), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"Percent is not valid..."}));
     EXPECT_EQ(chart->Delete2DPieGraphSegment(0), S_OK);
     EXPECT_EQ(boxes.Take(), (TTexts{L"Index is out of bounds..."}));
@@ -117,7 +117,7 @@ TEST_F(Chart2dMessages, PieTellsIndexBeforePercent)
 
 TEST_F(Chart2dMessages, GettersWithoutAPlaceForTheAnswerSayFalse)
 {
-    Create(kBar);
+    Create(Bar);
     EXPECT_EQ(chart->GetGraphLegendTextColor(nullptr), S_FALSE);
     EXPECT_EQ(chart->GetGraphLegendBackgroundColor(nullptr), S_FALSE);
     EXPECT_EQ(chart->GetGraphLabelsColor(nullptr), S_FALSE);
@@ -134,7 +134,7 @@ TEST_F(Chart2dMessages, GettersWithoutAPlaceForTheAnswerSayFalse)
 
 TEST_F(Chart2dMessages, SettingsComeBackAsTheyWereGiven)
 {
-    Create(kBar);
+    Create(Bar);
     ULONG color = 0;
     long bShadow = 0;
     EXPECT_EQ(chart->SetGraphTitleColor(0x123456), S_OK);
@@ -161,30 +161,30 @@ TEST_F(Chart2dMessages, SettingsComeBackAsTheyWereGiven)
 
 TEST_F(Chart2dMessages, NullTextsAreRefusedForTitlesAndEmptyForNames)
 {
-    Create(kBar);
+    Create(Bar);
     EXPECT_EQ(chart->SetGraphTitle(nullptr), S_FALSE);
     EXPECT_EQ(chart->SetGraphSubtitle(nullptr), S_FALSE);
     EXPECT_EQ(chart->Add2DBarGraphSegment(nullptr), S_OK);
-    EXPECT_EQ(chart->Add2DBarGraphSeries(nullptr, kRed), S_OK);
+    EXPECT_EQ(chart->Add2DBarGraphSeries(nullptr, Red), S_OK);
     EXPECT_EQ(chart->Set2DBarGraphValue(1, 1, 100), S_OK);
-    EXPECT_EQ(Redrawn().At(250, 250), kRed);
+    EXPECT_EQ(Redrawn().At(250, 250), Red);
 }
 
 TEST_F(Chart2dMessages, NullTextOfANewSliceAddsNothing)
 {
-    Create(kPie);
+    Create(Pie);
     chart->ShowGraphLegend(0);
-    EXPECT_EQ(chart->Add2DPieGraphSegment(100, kRed, nullptr), S_OK);
-    EXPECT_EQ(Redrawn().Count(kRed), 0);
-    chart->Add2DPieGraphSegment(100, kRed, Text(L""));
-    EXPECT_EQ(chart->Update2DPieGraphSegment(1, 100, kGreen, nullptr), S_OK);
-    EXPECT_EQ(Redrawn().At(192, 200), kGreen);
+    EXPECT_EQ(chart->Add2DPieGraphSegment(100, Red, nullptr), S_OK);
+    EXPECT_EQ(Redrawn().Count(Red), 0);
+    chart->Add2DPieGraphSegment(100, Red, Text(L""));
+    EXPECT_EQ(chart->Update2DPieGraphSegment(1, 100, Green, nullptr), S_OK);
+    EXPECT_EQ(Redrawn().At(192, 200), Green);
 }
 
 TEST_F(Chart2dMessages, SecondCreateAndNullRectangleSayFalse)
 {
     EXPECT_EQ(chart->Create(nullptr, WireHandle(host.m_hWnd), 7), S_FALSE);
-    Create(kBar);
+    Create(Bar);
     const HWND hFirst = Handle();
     RECT rect = {0, 0, 300, 300};
     EXPECT_EQ(chart->Create(&rect, WireHandle(host.m_hWnd), 8), S_FALSE);
@@ -203,7 +203,7 @@ TEST_F(Chart2dMessages, CallsBeforeCreateFault)
 
 TEST_F(Chart2dMessages, LastReleaseTakesTheWindowAlong)
 {
-    Create(kBar);
+    Create(Bar);
     const HWND hChart = Handle();
     EXPECT_TRUE(::IsWindow(hChart));
     chart.Release();
@@ -212,7 +212,7 @@ TEST_F(Chart2dMessages, LastReleaseTakesTheWindowAlong)
 
 TEST_F(Chart2dMessages, HostsWindowMayGoFirst)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     chart->SetGraphAnimation(1, 20);
     host.Destroy();
@@ -221,5 +221,5 @@ TEST_F(Chart2dMessages, HostsWindowMayGoFirst)
     EXPECT_EQ(chart->SetGraphTitle(Text(L"gone")), S_OK);
     EXPECT_EQ(chart->SetGraphAnimation(1, 20), S_OK);
     EXPECT_EQ(chart->Invalidate(1), S_OK);
-    EXPECT_EQ(chart->CreateGraph(kLine), S_OK);
+    EXPECT_EQ(chart->CreateGraph(Line), S_OK);
 }

@@ -6,14 +6,14 @@ using Chart2dWindow = Chart2dTest;
 
 TEST_F(Chart2dWindow, SmallRectangleIsRaisedToTwoHundred)
 {
-    Create(kBar, {10, 20, 110, 120});
+    Create(Bar, {10, 20, 110, 120});
     EXPECT_EQ(WindowSize().cx, 200);
     EXPECT_EQ(WindowSize().cy, 200);
 }
 
 TEST_F(Chart2dWindow, StyleAndIdentifierAreItsOwn)
 {
-    Create(kBar);
+    Create(Bar);
     EXPECT_EQ(static_cast<DWORD>(::GetWindowLongW(Handle(), GWL_STYLE)), 0x54800000u);
     EXPECT_EQ(::GetDlgCtrlID(Handle()), 7);
     EXPECT_EQ(::GetParent(Handle()), host.m_hWnd);
@@ -26,7 +26,7 @@ TEST_F(Chart2dWindow, StyleAndIdentifierAreItsOwn)
 
 TEST_F(Chart2dWindow, SmallSizesAreRaisedSideBySide)
 {
-    Create(kBar);
+    Create(Bar);
     EXPECT_EQ(chart->SetGraphSize(10, 500), S_OK);
     EXPECT_EQ(WindowSize().cx, 200);
     EXPECT_EQ(WindowSize().cy, 500);
@@ -37,7 +37,7 @@ TEST_F(Chart2dWindow, SmallSizesAreRaisedSideBySide)
 
 TEST_F(Chart2dWindow, SizeThatNoPictureHoldsShowsTheBackgroundAndIsLeftAgain)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 100}});
     Redrawn();
     for (const int side : {2147483647, 100000, 30000}) {
@@ -47,17 +47,17 @@ TEST_F(Chart2dWindow, SizeThatNoPictureHoldsShowsTheBackgroundAndIsLeftAgain)
         Tick(3);
         chart->SetGraphAnimation(0, 26);
         const HDC hWindow = ::GetDC(Handle());
-        EXPECT_EQ(::GetPixel(hWindow, 150, 300), kWhite) << side;
+        EXPECT_EQ(::GetPixel(hWindow, 150, 300), White) << side;
         ::ReleaseDC(Handle(), hWindow);
     }
     chart->SetGraphSize(640, 400);
-    EXPECT_EQ(Redrawn().At(150, 300), kRed);
+    EXPECT_EQ(Redrawn().At(150, 300), Red);
     EXPECT_EQ(WindowSize().cx, 640);
 }
 
 TEST_F(Chart2dWindow, PositionMovesTheWindowAndKeepsItsSize)
 {
-    Create(kLine);
+    Create(Line);
     EXPECT_EQ(chart->SetGraphPosition(-30, 40), S_OK);
     RECT rect = {};
     ::GetWindowRect(Handle(), &rect);
@@ -69,7 +69,7 @@ TEST_F(Chart2dWindow, PositionMovesTheWindowAndKeepsItsSize)
 
 TEST_F(Chart2dWindow, GradientTypeIsToldAsTheStoredMode)
 {
-    Create(kBar);
+    Create(Bar);
     int nType = -1;
     chart->GetGradientFillType(&nType);
     EXPECT_EQ(nType, 1);
@@ -82,7 +82,7 @@ TEST_F(Chart2dWindow, GradientTypeIsToldAsTheStoredMode)
 
 TEST_F(Chart2dWindow, UnknownFillTypeIsSolid)
 {
-    Create(kBar);
+    Create(Bar);
     int nType = -1;
     for (const auto& [set, told] : {std::pair{11, 11}, {99, 10}, {11, 11}, {10, 10}}) {
         EXPECT_EQ(chart->SetGraphFillType(set), S_OK);
@@ -93,7 +93,7 @@ TEST_F(Chart2dWindow, UnknownFillTypeIsSolid)
 
 TEST_F(Chart2dWindow, GradientRunsFromCornerToCornerInEitherDirection)
 {
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     chart->SetGraphFillType(11);
     chart->SetGraphGradientColors(0x000000, 0xC08040);
@@ -111,7 +111,7 @@ TEST_F(Chart2dWindow, GradientRunsFromCornerToCornerInEitherDirection)
 
 TEST_F(Chart2dWindow, SettersOfLooksDontRepaintAndThoseOfTextsDo)
 {
-    Create(kBar);
+    Create(Bar);
     const auto repaints = [&](auto call) {
         ::UpdateWindow(Handle());
         call();
@@ -139,81 +139,81 @@ TEST_F(Chart2dWindow, SettersOfLooksDontRepaintAndThoseOfTextsDo)
 
 TEST_F(Chart2dWindow, LegendTextColourWaitsForARedrawOnASolidBackground)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     Redrawn();
-    chart->SetGraphLegendTextColor(kBlue);
-    EXPECT_EQ(Shoot().Count(kBlue), 0);
-    EXPECT_GT(Redrawn(true).Count(kBlue), 0); // an erase asks for it
+    chart->SetGraphLegendTextColor(Blue);
+    EXPECT_EQ(Shoot().Count(Blue), 0);
+    EXPECT_GT(Redrawn(true).Count(Blue), 0); // an erase asks for it
 }
 
 TEST_F(Chart2dWindow, LegendTextColourShowsAtOnceOnAGradient)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
-    chart->SetGraphGradientColors(kWhite, kWhite);
+    chart->SetGraphGradientColors(White, White);
     chart->SetGraphFillType(11);
     Redrawn(false);
-    chart->SetGraphLegendTextColor(kBlue);
-    EXPECT_GT(Shoot().Count(kBlue), 0);
+    chart->SetGraphLegendTextColor(Blue);
+    EXPECT_GT(Shoot().Count(Blue), 0);
 }
 
 TEST_F(Chart2dWindow, NewTitleBringsThePendingLegendAlong)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     Redrawn();
-    chart->SetGraphLegendTextColor(kBlue);
+    chart->SetGraphLegendTextColor(Blue);
     Shoot();
     chart->SetGraphTitle(Text(L""));
-    EXPECT_GT(Shoot().Count(kBlue), 0);
+    EXPECT_GT(Shoot().Count(Blue), 0);
 }
 
 TEST_F(Chart2dWindow, HiddenLegendStaysOnTheFrameUntilAnErase)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
-    chart->SetGraphLegendBackgroundColor(kGreen);
-    EXPECT_GT(Redrawn().Count(kGreen), 500);
+    chart->SetGraphLegendBackgroundColor(Green);
+    EXPECT_GT(Redrawn().Count(Green), 500);
     chart->ShowGraphLegend(0);
-    EXPECT_GT(Redrawn(false).Count(kGreen), 500);
-    EXPECT_EQ(Redrawn(true).Count(kGreen), 0);
+    EXPECT_GT(Redrawn(false).Count(Green), 500);
+    EXPECT_EQ(Redrawn(true).Count(Green), 0);
 }
 
 TEST_F(Chart2dWindow, LegendIsDrawnForOneAlone)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
-    chart->SetGraphLegendBackgroundColor(kGreen);
+    chart->SetGraphLegendBackgroundColor(Green);
     chart->ShowGraphLegend(2);
-    EXPECT_EQ(Redrawn().Count(kGreen), 0);
+    EXPECT_EQ(Redrawn().Count(Green), 0);
     chart->ShowGraphLegend(1);
-    EXPECT_GT(Redrawn().Count(kGreen), 500);
+    EXPECT_GT(Redrawn().Count(Green), 500);
 }
 
 TEST_F(Chart2dWindow, TitlesStandInTheirColoursAboveTheGraphArea)
 {
-    Create(kBar);
+    Create(Bar);
     chart->SetGraphTitle(Text(L"Title"));
     chart->SetGraphSubtitle(Text(L"Subtitle"));
-    chart->SetGraphTitleColor(kRed);
-    chart->SetGraphSubtitleColor(kBlue);
+    chart->SetGraphTitleColor(Red);
+    chart->SetGraphSubtitleColor(Blue);
     const Picture picture = Redrawn();
-    EXPECT_GT(picture.Count({32, 10, 600, 90}, kRed), 100);
-    EXPECT_GT(picture.Count({32, 80, 600, 108}, kBlue), 100);
-    EXPECT_EQ(picture.Count({0, 0, 32, 398}, kRed), 0);
-    EXPECT_EQ(picture.Count({0, 0, 638, 80}, kBlue), 0);
+    EXPECT_GT(picture.Count({32, 10, 600, 90}, Red), 100);
+    EXPECT_GT(picture.Count({32, 80, 600, 108}, Blue), 100);
+    EXPECT_EQ(picture.Count({0, 0, 32, 398}, Red), 0);
+    EXPECT_EQ(picture.Count({0, 0, 638, 80}, Blue), 0);
 }
 
 TEST_F(Chart2dWindow, ShadowsAreGreyAndForOneAlone)
 {
     constexpr COLORREF shadow = 0x808080;
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     chart->SetGraphTitle(Text(L"Title"));
     chart->SetGraphSubtitle(Text(L"Subtitle"));
-    chart->SetGraphTitleColor(kRed);
-    chart->SetGraphSubtitleColor(kRed);
+    chart->SetGraphTitleColor(Red);
+    chart->SetGraphSubtitleColor(Red);
     chart->SetGraphTitleShadow(2);
     chart->SetGraphSubtitleShadow(2);
     EXPECT_EQ(Redrawn().Count(shadow), 0);
@@ -228,7 +228,7 @@ TEST_F(Chart2dWindow, TitlesAreThereFromTheStart)
 {
     RECT rect = {0, 0, 640, 400};
     chart->Create(&rect, WireHandle(host.m_hWnd), 7);
-    chart->CreateGraph(kBar);
+    chart->CreateGraph(Bar);
     chart->ShowGraphLegend(0);
     EXPECT_GT(Redrawn().Count({32, 10, 638, 135}, 0), 500);
 }
@@ -237,12 +237,12 @@ TEST_F(Chart2dWindow, BackgroundAloneIsShownWithoutAChart)
 {
     RECT rect = {0, 0, 640, 400};
     chart->Create(&rect, WireHandle(host.m_hWnd), 7);
-    chart->SetGraphBackgroundColor(kGreen);
-    EXPECT_EQ(Redrawn().Count(kGreen), 638 * 398);
+    chart->SetGraphBackgroundColor(Green);
+    EXPECT_EQ(Redrawn().Count(Green), 638 * 398);
     EXPECT_FALSE(::GetUpdateRect(Handle(), nullptr, FALSE));
     chart->CreateGraph(5);
-    EXPECT_EQ(Redrawn().Count(kGreen), 638 * 398);
-    EXPECT_EQ(Redrawn(false).Count(kGreen), 638 * 398);
+    EXPECT_EQ(Redrawn().Count(Green), 638 * 398);
+    EXPECT_EQ(Redrawn(false).Count(Green), 638 * 398);
 }
 
 TEST_F(Chart2dWindow, PaintsWithoutAnEraseShowNoBlackFrame)
@@ -250,43 +250,43 @@ TEST_F(Chart2dWindow, PaintsWithoutAnEraseShowNoBlackFrame)
     RECT rect = {0, 0, 640, 400};
     chart->Create(&rect, WireHandle(host.m_hWnd), 7);
     ::UpdateWindow(Handle());
-    chart->CreateGraph(kBar);
+    chart->CreateGraph(Bar);
     chart->ShowGraphLegend(0);
-    EXPECT_EQ(Redrawn(false).At(5, 5), kWhite);
+    EXPECT_EQ(Redrawn(false).At(5, 5), White);
     chart->SetGraphSize(640, 400);
-    EXPECT_EQ(Shoot().At(5, 5), kWhite);
+    EXPECT_EQ(Shoot().At(5, 5), White);
 }
 
 TEST_F(Chart2dWindow, BackgroundOutsideTheClearedPartWaitsForAnErase)
 {
-    Create(kBar);
+    Create(Bar);
     Redrawn();
-    chart->SetGraphBackgroundColor(kGreen);
+    chart->SetGraphBackgroundColor(Green);
     ULONG color = 0;
     chart->GetGraphBackgroundColor(&color);
-    EXPECT_EQ(color, static_cast<ULONG>(kGreen));
+    EXPECT_EQ(color, static_cast<ULONG>(Green));
     const Picture cleared = Shoot(); // (32, 140) to (416, 380)
-    EXPECT_EQ(cleared.At(415, 379), kGreen);
-    EXPECT_EQ(cleared.At(416, 379), kWhite);
-    EXPECT_EQ(cleared.At(415, 380), kWhite);
-    EXPECT_EQ(cleared.At(31, 200), kWhite);
-    EXPECT_EQ(Redrawn(true).At(416, 379), kGreen);
+    EXPECT_EQ(cleared.At(415, 379), Green);
+    EXPECT_EQ(cleared.At(416, 379), White);
+    EXPECT_EQ(cleared.At(415, 380), White);
+    EXPECT_EQ(cleared.At(31, 200), White);
+    EXPECT_EQ(Redrawn(true).At(416, 379), Green);
 }
 
 TEST_F(Chart2dWindow, PieClearsLessThanBarsAndLines)
 {
-    Create(kPie);
+    Create(Pie);
     Redrawn();
-    chart->SetGraphBackgroundColor(kGreen);
+    chart->SetGraphBackgroundColor(Green);
     const Picture cleared = Shoot(); // (32, 140) to (352, 340)
-    EXPECT_EQ(cleared.At(351, 339), kGreen);
-    EXPECT_EQ(cleared.At(352, 339), kWhite);
-    EXPECT_EQ(cleared.At(351, 340), kWhite);
+    EXPECT_EQ(cleared.At(351, 339), Green);
+    EXPECT_EQ(cleared.At(352, 339), White);
+    EXPECT_EQ(cleared.At(351, 340), White);
 }
 
 TEST_F(Chart2dWindow, AnimationRunsATimerUntilItIsTurnedOff)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     long bAnimation = -1;
     chart->GetGraphAnimation(&bAnimation);
@@ -306,60 +306,60 @@ TEST_F(Chart2dWindow, AnimationRunsATimerUntilItIsTurnedOff)
 
 TEST_F(Chart2dWindow, OtherAnimationValuesLeaveTheAxesAlone)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     chart->ShowGraphLegend(0);
-    EXPECT_GT(Redrawn().Count(kRed), 1000);
+    EXPECT_GT(Redrawn().Count(Red), 1000);
     chart->SetGraphAnimation(2, 20);
     const Picture axes = Redrawn();
-    EXPECT_EQ(axes.Count(kRed), 0);
+    EXPECT_EQ(axes.Count(Red), 0);
     EXPECT_EQ(axes.At(99, 250), 0u); // the vertical axis
 }
 
 TEST_F(Chart2dWindow, TimerComesThroughTheHostsLoop)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 50}});
     chart->ShowGraphLegend(0);
     chart->SetGraphAnimation(1, 20);
     Redrawn();
-    EXPECT_TRUE(host.PumpUntil([&] { return Picture(Handle()).Count(kRed) > 500; }));
+    EXPECT_TRUE(host.PumpUntil([&] { return Picture(Handle()).Count(Red) > 500; }));
 }
 
 TEST_F(Chart2dWindow, NewSizeLeavesTheAnimationWhereItWas)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 100}});
     chart->ShowGraphLegend(0);
     AtTick(20, 50);
     chart->SetGraphSize(640, 600);
     EXPECT_TRUE(HasTimer());
     // H = 300: base 210 + 285 - 3 = 492; half of trunc(240) above it
-    EXPECT_EQ(Column(Shoot(), 150, kRed, 598), (POINT{373, 490}));
+    EXPECT_EQ(Column(Shoot(), 150, Red, 598), (POINT{373, 490}));
 }
 
 TEST_F(Chart2dWindow, TickMovesTheAnimationOnWhateverTheTimersIdentifier)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 100}});
     chart->ShowGraphLegend(0);
     AtTick(20, 49);
     ::SendMessageW(Handle(), WM_TIMER, 1, 0);
-    EXPECT_EQ(Column(Shoot(), 150, kRed), (POINT{249, 326}));
+    EXPECT_EQ(Column(Shoot(), 150, Red), (POINT{249, 326}));
 }
 
 TEST_F(Chart2dWindow, TickRepaintsWithoutAnEraseAndForgetsWhatWasPending)
 {
-    Create(kBar);
+    Create(Bar);
     FillBars({{100, 100}});
     AtTick(20, 5);
-    chart->SetGraphTitleColor(kBlue);
+    chart->SetGraphTitleColor(Blue);
     chart->SetGraphTitle(Text(L"Title"));
-    chart->SetGraphLegendTextColor(kBlue);
+    chart->SetGraphLegendTextColor(Blue);
     Tick();
-    EXPECT_EQ(Picture(Handle()).Count(kBlue), 0);
-    EXPECT_EQ(Redrawn(false).Count(kBlue), 0);
-    EXPECT_GT(Redrawn(true).Count(kBlue), 100);
+    EXPECT_EQ(Picture(Handle()).Count(Blue), 0);
+    EXPECT_EQ(Redrawn(false).Count(Blue), 0);
+    EXPECT_GT(Redrawn(true).Count(Blue), 100);
 }
 
 // Of 640 x 400: heights 80 and 28, widths 25 and 19.
@@ -367,7 +367,7 @@ TEST_F(Chart2dWindow, TextsHaveTheirFontsAndPlaces)
 {
     const TFont titleFont{80, 25, 400};
     const TFont subtitleFont{28, 19, 700};
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     chart->SetGraphTitle(Text(L"Title"));
     EXPECT_EQ(TextDifferences(Redrawn(), {32, 10}, L"Title", titleFont), 0);
@@ -375,8 +375,8 @@ TEST_F(Chart2dWindow, TextsHaveTheirFontsAndPlaces)
     chart->SetGraphSubtitle(Text(L"Subtitle"));
     EXPECT_EQ(TextDifferences(Redrawn(), {32, 80}, L"Subtitle", subtitleFont), 0);
 
-    chart->SetGraphSubtitleColor(kWhite); // shadows alone are left
-    chart->SetGraphTitleColor(kWhite);
+    chart->SetGraphSubtitleColor(White); // shadows alone are left
+    chart->SetGraphTitleColor(White);
     chart->SetGraphSubtitle(Text(L""));
     chart->SetGraphTitleShadow(1);
     chart->SetGraphTitle(Text(L"|"));
@@ -388,7 +388,7 @@ TEST_F(Chart2dWindow, ShadowsStandBesideTheirTexts)
 {
     constexpr COLORREF shadow = 0x808080;
     const TFont subtitleFont{28, 19, 700};
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     chart->SetGraphSubtitleShadow(1);
     chart->SetGraphSubtitle(Text(L"I"));
@@ -408,7 +408,7 @@ TEST_F(Chart2dWindow, ShadowsStandBesideTheirTexts)
 
 TEST_F(Chart2dWindow, NewSizeMakesTheTextsFontsAgain)
 {
-    Create(kBar);
+    Create(Bar);
     chart->ShowGraphLegend(0);
     chart->SetGraphSize(600, 300); // 24 wide, 60 high, at (30, 7)
     chart->SetGraphTitle(Text(L"Title"));
@@ -420,7 +420,7 @@ TEST_F(Chart2dWindow, CreatingTheGraphShowsAHiddenWindow)
     RECT rect = {0, 0, 640, 400};
     chart->Create(&rect, WireHandle(host.m_hWnd), 7);
     ::ShowWindow(Handle(), SW_HIDE);
-    chart->CreateGraph(kBar);
+    chart->CreateGraph(Bar);
     EXPECT_TRUE(::IsWindowVisible(Handle()));
     ::ShowWindow(Handle(), SW_HIDE);
     chart->CreateGraph(5); // whatever the kind

@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
-constexpr WPARAM kCursorCommand = 40011;
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
+constexpr WPARAM CursorCommand = 40011;
 
 // A line from (0, 0) to (10, 10); the mouse moves in client pixels of the graph.
 class FrontDoorCursor : public FrontDoorGraph
@@ -26,7 +26,7 @@ protected:
     void EnterCursor(UINT nFlags = XGC_HORIZ | XGC_VERT)
     {
         graph->SetCursorFlags(nFlags);
-        ASSERT_EQ(graph->SendMessage(WM_COMMAND, kCursorCommand, 0), S_OK);
+        ASSERT_EQ(graph->SendMessage(WM_COMMAND, CursorCommand, 0), S_OK);
     }
     void Move(int x, int y) { ::SendMessageW(Handle(), WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
     void Click(int x, int y)
@@ -198,5 +198,5 @@ TEST_F(FrontDoorCursor, DeathTest_AForcedSnapPastTheEndEndsTheProcess)
 {
     EnterCursor();
     EXPECT_EQ(graph->ForceSnap(1), S_OK); // stored as it is
-    EXPECT_EXIT(Move(200, 100), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Move(200, 100), testing::ExitedWithCode(InvalidParameter), "");
 }

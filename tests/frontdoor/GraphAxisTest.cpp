@@ -199,11 +199,11 @@ TEST(AxisWithoutHandle, DeathTest_TheObjectsOwnMethodsFault)
 
 TEST_F(AxisWrapper, DeathTest_MarkersPastTheEndEndTheProcess)
 {
-    constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
-    EXPECT_EXIT(axis->SetAxisMarker(1, 0, 0, 0), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(axis->SetMaskerLabel(0, Text(L"x")), testing::ExitedWithCode(kInvalidParameter), "");
+    constexpr int invalidParameter = static_cast<int>(0xC0000417);
+    EXPECT_EXIT(axis->SetAxisMarker(1, 0, 0, 0), testing::ExitedWithCode(invalidParameter), "");
+    EXPECT_EXIT(axis->SetMaskerLabel(0, Text(L"x")), testing::ExitedWithCode(invalidParameter), "");
     EXPECT_EXIT(axis->SetColorRange(1, 0, 1, 0, 0, Text(L""), 0),
-                testing::ExitedWithCode(kInvalidParameter), "");
+                testing::ExitedWithCode(invalidParameter), "");
 }
 
 TEST(LogAxisWithoutHandle, NothingIsDone)

@@ -62,8 +62,8 @@ TEST_F(GraphCreate, TheWindowIsAVisibleChildUnderItsId)
               WS_CHILD | WS_VISIBLE);
     RECT client = {};
     ::GetClientRect(hWnd, &client);
-    EXPECT_EQ(client.right, kWidth);
-    EXPECT_EQ(client.bottom, kHeight);
+    EXPECT_EQ(client.right, Width);
+    EXPECT_EQ(client.bottom, Height);
 }
 
 TEST_F(GraphCreate, ASecondCreateKeepsTheFirstWindow)
@@ -74,7 +74,7 @@ TEST_F(GraphCreate, ASecondCreateKeepsTheFirstWindow)
     EXPECT_EQ(Handle(), hWnd);
     RECT client = {};
     ::GetClientRect(hWnd, &client);
-    EXPECT_EQ(client.right, kWidth);
+    EXPECT_EQ(client.right, Width);
 }
 
 TEST_F(GraphCreate, TheCaptionIsIgnored)
@@ -133,6 +133,6 @@ TEST_F(GraphCreate, InvalidateMarksTheWholeWindow)
     EXPECT_EQ(graph->Invalidate(0), S_OK);
     RECT update = {};
     EXPECT_TRUE(::GetUpdateRect(Handle(), &update, FALSE));
-    EXPECT_EQ(update.right, kWidth);
-    EXPECT_EQ(update.bottom, kHeight);
+    EXPECT_EQ(update.right, Width);
+    EXPECT_EQ(update.bottom, Height);
 }

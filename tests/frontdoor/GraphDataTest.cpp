@@ -8,7 +8,7 @@ using GraphFrontDoorData = FrontDoorGraph;
 
 namespace
 {
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
 }
 
 TEST_F(GraphFrontDoorData, ACurveIsPlottedInItsColour)
@@ -185,8 +185,8 @@ TEST_F(GraphFrontDoorData, AHostileAmountOfPointsIsRefused)
 TEST_F(GraphFrontDoorData, DeathTest_IndicesOutsideEndTheProcess)
 {
     AddLine(0);
-    EXPECT_EXIT(graph->GetXAxis(nullptr, 1), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(graph->GetCurve(nullptr, -1), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(AddLine(5), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(graph->Autoscale(0, 3, 0), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(graph->GetXAxis(nullptr, 1), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(graph->GetCurve(nullptr, -1), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(AddLine(5), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(graph->Autoscale(0, 3, 0), testing::ExitedWithCode(InvalidParameter), "");
 }

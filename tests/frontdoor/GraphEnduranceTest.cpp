@@ -39,7 +39,7 @@ TEST(GraphModuleEnd, EachCycleKeepsOneGraphUntilTheModuleEnds)
 {
     // A graph holds the font of its cursor's label and two for each of its axes: what is left
     // of a destroyed graph can be counted.
-    constexpr int kFontsOfAGraph = 1 + 2 * 2;
+    constexpr int fontsOfAGraph = 1 + 2 * 2;
     Cycle(Server::Shared());
     const int nFonts = GdiCount::OfType(OBJ_FONT);
     const int nObjects = GdiCount::All();
@@ -50,7 +50,7 @@ TEST(GraphModuleEnd, EachCycleKeepsOneGraphUntilTheModuleEnds)
         const int nOthers = GdiCount::All() - nFirst;
         for (int i = 0; i < 100; ++i)
             Cycle(*server);
-        EXPECT_EQ(GdiCount::OfType(OBJ_FONT), nFirst + 100 * kFontsOfAGraph);
+        EXPECT_EQ(GdiCount::OfType(OBJ_FONT), nFirst + 100 * fontsOfAGraph);
         EXPECT_EQ(GdiCount::All() - GdiCount::OfType(OBJ_FONT), nOthers);
         EXPECT_EQ(server->CanUnloadNow(), S_OK);
     }

@@ -7,15 +7,15 @@
 class FrontDoorGraph : public testing::Test
 {
 protected:
-    static constexpr int kWidth = 400;
-    static constexpr int kHeight = 300;
+    static constexpr int Width = 400;
+    static constexpr int Height = 300;
 
     FrontDoorGraph() : graph(Server::Shared().Make<SGraph, ISGraph>()) {}
 
     void SetUp() override
     {
         ASSERT_TRUE(graph);
-        RECT rect = {0, 0, kWidth, kHeight};
+        RECT rect = {0, 0, Width, Height};
         ASSERT_EQ(graph->Create(nullptr, &rect, WireHandle(host.m_hWnd), 7), S_OK);
         ASSERT_NE(Handle(), nullptr);
     }

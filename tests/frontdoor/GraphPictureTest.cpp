@@ -37,10 +37,10 @@ TEST_F(GraphPicture, SaveBitmapWritesTheWindow)
     EXPECT_EQ(graph->SaveBitmap(Text(path.c_str())), S_OK);
     const auto bytes = ReadFile(path);
     ::DeleteFileW(path.c_str());
-    ASSERT_GE(bytes.size(), 54u + kWidth * kHeight * 4);
+    ASSERT_GE(bytes.size(), 54u + Width * Height * 4);
     EXPECT_EQ(std::memcmp(bytes.data(), "BM", 2), 0);
     DWORD pixel = 0;
-    std::memcpy(&pixel, &bytes[54 + ((kHeight - 1 - 100) * kWidth + 120) * 4], 4);
+    std::memcpy(&pixel, &bytes[54 + ((Height - 1 - 100) * Width + 120) * 4], 4);
     EXPECT_EQ(RGB((pixel >> 16) & 255, (pixel >> 8) & 255, pixel & 255), picture.At(120, 100));
 }
 

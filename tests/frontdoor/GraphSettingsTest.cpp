@@ -159,7 +159,7 @@ TEST_F(GraphSettings, RemainingSettersSucceed)
     graph->SetShowLegend(0);
     graph->SetBackColor(0x0000FF);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.Count(0x0000FF), kWidth * kHeight - (kWidth - 60) * (kHeight - 80));
+    EXPECT_EQ(picture.Count(0x0000FF), Width * Height - (Width - 60) * (Height - 80));
 }
 
 TEST_F(GraphSettings, DeathTest_AskingForTheCursorWithANullYFaults)

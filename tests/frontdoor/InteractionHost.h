@@ -42,7 +42,7 @@ enum : WPARAM {
 class FrontDoorInteraction : public FrontDoorGraph
 {
 protected:
-    static constexpr COLORREF kInner = 0x2040F0;
+    static constexpr COLORREF InnerColour = 0x2040F0;
 
     // One curve from (0, 0) to (10, 10), no legend, and axes that show what they are told.
     void SetUp() override
@@ -51,7 +51,7 @@ protected:
         ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
         FrontDoorGraph::SetUp();
         graph->SetShowLegend(0);
-        graph->SetInnerColor(kInner);
+        graph->SetInnerColor(InnerColour);
         AddLine(0);
         ShowAsTold();
         Frame();
@@ -167,10 +167,10 @@ protected:
     RECT Inner()
     {
         const Picture picture = Shoot();
-        RECT found = {kWidth, kHeight, 0, 0};
-        for (LONG y = 0; y < kHeight; ++y) {
-            for (LONG x = 0; x < kWidth; ++x) {
-                if (picture.At(x, y) != kInner)
+        RECT found = {Width, Height, 0, 0};
+        for (LONG y = 0; y < Height; ++y) {
+            for (LONG x = 0; x < Width; ++x) {
+                if (picture.At(x, y) != InnerColour)
                     continue;
                 found = {std::min(found.left, x), std::min(found.top, y), std::max(found.right, x + 1),
                          std::max(found.bottom, y + 1)};

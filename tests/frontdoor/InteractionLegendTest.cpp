@@ -26,7 +26,7 @@ protected:
         const Picture picture = Shoot();
         ULONG color = 0;
         Curve(nCurve)->GetColor(&color);
-        for (int y = 0; y < kHeight; ++y) {
+        for (int y = 0; y < Height; ++y) {
             for (int x = 0; x < 40; ++x) {
                 if (picture.At(x, y) == color)
                     return {x + 4, y + 2};

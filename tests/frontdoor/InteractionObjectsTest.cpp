@@ -9,10 +9,10 @@ namespace
 class InteractionObjects : public FrontDoorInteraction
 {
 protected:
-    static constexpr RECT kPlace = {80, 40, 180, 110};
-    static constexpr POINT kInside = {100, 60};
-    static constexpr POINT kOutside = {250, 150};
-    static constexpr COLORREF kFill = 0x30C010;
+    static constexpr RECT Place = {80, 40, 180, 110};
+    static constexpr POINT Inside = {100, 60};
+    static constexpr POINT Outside = {250, 150};
+    static constexpr COLORREF Fill = 0x30C010;
 
     void SetUp() override
     {
@@ -21,11 +21,11 @@ protected:
         AddLine(0);
         ShowAsTold();
         Curve(0)->SetVisible(0);
-        label = AddLabel(kPlace);
-        label->SetColor(kFill);
+        label = AddLabel(Place);
+        label->SetColor(Fill);
         Frame();
     }
-    bool IsShown() { return Shoot().Count(kFill) > 1000; }
+    bool IsShown() { return Shoot().Count(Fill) > 1000; }
     // Presses at `from` with a drag to `to` waiting in the queue: the frame's own loop takes it.
     void Drag(POINT from, POINT to)
     {
@@ -69,10 +69,10 @@ protected:
 TEST_F(InteractionObjects, AClickSelectsAndFramesAndOneElsewhereLetsGo)
 {
     const Picture before = Shoot();
-    Click(kInside);
+    Click(Inside);
     EXPECT_TRUE(IsSelected(label.Get()));
     EXPECT_EQ(Shoot().At(79, 39), 0u) << "a handle at the corner";
-    Click(kOutside);
+    Click(Outside);
     EXPECT_FALSE(IsSelected(label.Get()));
     EXPECT_EQ(Shoot().CountDifferences(before), 0);
     EXPECT_TRUE(Heards().empty()) << "nothing is told of objects";
@@ -81,7 +81,7 @@ TEST_F(InteractionObjects, AClickSelectsAndFramesAndOneElsewhereLetsGo)
 TEST_F(InteractionObjects, AHiddenObjectIsNeverSelected)
 {
     label->SetVisible(0);
-    Click(kInside);
+    Click(Inside);
     EXPECT_FALSE(IsSelected(label.Get()));
 }
 
@@ -101,7 +101,7 @@ TEST_F(InteractionObjects, AnObjectKeepsClicksFromTheCurvesBelow)
 TEST_F(InteractionObjects, OnlyOneObjectIsFramedAtATime)
 {
     auto second = AddLabel({200, 40, 260, 110});
-    Click(kInside);
+    Click(Inside);
     Click({220, 60});
     EXPECT_TRUE(IsSelected(second.Get()));
     const Picture picture = Shoot();
@@ -111,8 +111,8 @@ TEST_F(InteractionObjects, OnlyOneObjectIsFramedAtATime)
 
 TEST_F(InteractionObjects, TheFrameMovesAndSizesTheObject)
 {
-    Click(kInside);
-    Drag(kInside, {kInside.x + 25, kInside.y + 12});
+    Click(Inside);
+    Drag(Inside, {Inside.x + 25, Inside.y + 12});
     ExpectRect(RectOf(label.Get()), {105, 52, 205, 122});
     EXPECT_EQ(::GetCapture(), nullptr);
     Drag({206, 123}, {226, 133}); // the corner's handle, outside the box
@@ -121,29 +121,29 @@ TEST_F(InteractionObjects, TheFrameMovesAndSizesTheObject)
 
 TEST_F(InteractionObjects, EscapeLeavesTheObjectWhereItWas)
 {
-    Click(kInside);
+    Click(Inside);
     ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(140, 90));
     ::PostMessageW(Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
-    Press(kInside);
-    ExpectRect(RectOf(label.Get()), kPlace);
-    Hover(kOutside);
+    Press(Inside);
+    ExpectRect(RectOf(label.Get()), Place);
+    Hover(Outside);
 }
 
 TEST_F(InteractionObjects, AnObjectThatIsNotFramedIsNotDragged)
 {
-    Drag(kInside, {150, 90});
+    Drag(Inside, {150, 90});
     HostWindow::Pump();
-    ExpectRect(RectOf(label.Get()), kPlace);
+    ExpectRect(RectOf(label.Get()), Place);
 }
 
 TEST_F(InteractionObjects, ADoubleClickEditsInPlaceAndAClickElsewhereTakesTheText)
 {
-    DoubleClick(kInside);
+    DoubleClick(Inside);
     const HWND hEdit = ::GetWindow(Handle(), GW_CHILD);
     ASSERT_NE(hEdit, nullptr);
     EXPECT_EQ(::GetFocus(), hEdit);
     ::SetWindowTextW(hEdit, L"typed");
-    Click(kOutside);
+    Click(Outside);
     EXPECT_FALSE(::IsWindow(hEdit));
     Text text;
     label->GetText(text.Out());
@@ -155,19 +155,19 @@ TEST_F(InteractionObjects, DeleteInAHostsPlainLoopRemovesTheFramedObjectThatWasP
 {
     PostKey(VK_DELETE);
     EXPECT_TRUE(IsShown()) << "not framed";
-    Click(kInside);
+    Click(Inside);
     PostKey(VK_RETURN);
     EXPECT_TRUE(IsShown());
     label.Release();
     PostKey(VK_DELETE);
     EXPECT_FALSE(IsShown());
     PostKey(VK_DELETE);
-    Click(kInside);
+    Click(Inside);
 }
 
 TEST_F(InteractionObjects, DeleteWorksOnTheKeysWayUpToo)
 {
-    Click(kInside);
+    Click(Inside);
     label.Release();
     ::PostMessageW(Handle(), WM_KEYUP, VK_DELETE, 0);
     HostWindow::Pump();
@@ -176,11 +176,11 @@ TEST_F(InteractionObjects, DeleteWorksOnTheKeysWayUpToo)
 
 TEST_F(InteractionObjects, DeleteSparesTheFrameThatWasNotPressedLast)
 {
-    Click(kInside);
-    Press(kOutside); // nothing is pressed now, and the frame stays until the release
+    Click(Inside);
+    Press(Outside); // nothing is pressed now, and the frame stays until the release
     PostKey(VK_DELETE);
     EXPECT_TRUE(IsShown());
-    Release(kOutside);
+    Release(Outside);
 }
 
 TEST_F(InteractionObjects, TheCursorsBoxIsNotDeleted)
@@ -188,7 +188,7 @@ TEST_F(InteractionObjects, TheCursorsBoxIsNotDeleted)
     Curve(0)->SetVisible(1);
     Send(Command::cursor);
     Frame();
-    Hover(kOutside);
+    Hover(Outside);
     Send(Command::edit); // its box stays
     const RECT inner = Inner();
     const POINT inBox = {inner.left + 30, inner.top + 30};
@@ -203,38 +203,38 @@ TEST_F(InteractionObjects, TheCursorsBoxIsNotDeleted)
 
 TEST_F(InteractionObjects, ARightClickOnThePressedObjectShowsItsMenuAndTellsNothing)
 {
-    Click(kInside);
+    Click(Inside);
     bool bInMenu = false;
     OnceInALoop([&] {
         bInMenu = ::IsWindowVisible(::FindWindowW(L"#32768", nullptr)) != FALSE;
         ::EndMenu();
     });
-    RightClick(kInside);
+    RightClick(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
     EXPECT_TRUE(bInMenu);
     EXPECT_TRUE(Heards().empty());
-    RightClick(kOutside);
+    RightClick(Outside);
     EXPECT_EQ(Heards(), std::vector{FromWindow(XG_RBUTTONUP)});
 }
 
 TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheMenuIsOpen)
 {
-    Click(kInside);
+    Click(Inside);
     OnceInALoop([&] {
         label.Release();
         graph->ResetAll();
         ::EndMenu();
     });
-    RightClick(kInside);
+    RightClick(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
     EXPECT_FALSE(IsShown());
-    Click(kInside);
+    Click(Inside);
     PostKey(VK_DELETE);
 }
 
 TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheFrameIsDragged)
 {
-    Click(kInside);
+    Click(Inside);
     OnceInALoop([&] {
         label.Release();
         graph->ResetAll();
@@ -242,36 +242,36 @@ TEST_F(InteractionObjects, AHostMayResetEverythingWhileTheFrameIsDragged)
         ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(150, 90));
         ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(150, 90));
     });
-    Press(kInside);
+    Press(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
-    Hover(kInside);
+    Hover(Inside);
     EXPECT_FALSE(IsShown());
 }
 
 TEST_F(InteractionObjects, AnObjectThatTakesTheMemoryOfTheDraggedOneStaysWhereItIs)
 {
-    Click(kInside);
-    constexpr RECT kOther = {10, 10, 60, 60};
+    Click(Inside);
+    constexpr RECT place = {10, 10, 60, 60};
     std::vector<Holder<ISGraphLabel>> others;
     OnceInALoop([&] {
         label.Release();
         graph->ResetAll();
         for (int i = 0; i < 20; ++i)
-            others.push_back(AddLabel(kOther));
+            others.push_back(AddLabel(place));
         ::PostMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(150, 90));
         ::PostMessageW(Handle(), WM_LBUTTONUP, 0, MAKELPARAM(150, 90));
     });
-    Press(kInside);
+    Press(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
     for (const auto& other : others)
-        ExpectRect(RectOf(other.Get()), kOther);
+        ExpectRect(RectOf(other.Get()), place);
 }
 
 TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheFrameIsDragged)
 {
-    Click(kInside);
+    Click(Inside);
     OnceInALoop([&] { host.Destroy(); });
-    Press(kInside);
+    Press(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
     EXPECT_EQ(Handle(), nullptr);
     EXPECT_EQ(graph->Zoom(), S_OK);
@@ -280,31 +280,31 @@ TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheFrameIsDragged)
 
 TEST_F(InteractionObjects, AHostMayReleaseTheGraphAndItsWindowWhileTheFrameIsDragged)
 {
-    Click(kInside);
+    Click(Inside);
     OnceInALoop([&] {
         label.Release();
         graph.Release();
         host.Destroy();
     });
-    Press(kInside);
+    Press(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
 }
 
 TEST_F(InteractionObjects, AHostMayDestroyTheWindowWhileTheMenuIsOpen)
 {
-    Click(kInside);
+    Click(Inside);
     OnceInALoop([&] {
         host.Destroy();
         ::EndMenu();
     });
-    RightClick(kInside);
+    RightClick(Inside);
     EXPECT_TRUE(HostWindow::PumpUntil([] { return !Pending(); }));
     EXPECT_EQ(Handle(), nullptr);
 }
 
 TEST_F(InteractionObjects, AnOpenEditorGoesWithTheWindowAndTheTextStays)
 {
-    DoubleClick(kInside);
+    DoubleClick(Inside);
     host.Destroy();
     Text text;
     label->GetText(text.Out());

@@ -8,9 +8,9 @@ namespace
 
 using InteractionOperations = FrontDoorInteraction;
 
-constexpr WPARAM kEntries[] = {Command::noOp,   Command::zoom, Command::pan,
-                               Command::cursor, Command::edit, Command::measure};
-constexpr EOperation kStates[] = {opNone, opZoom, opPan, opCursor, opEditCurve, opMeasure};
+constexpr WPARAM Entries[] = {Command::noOp,   Command::zoom, Command::pan,
+                              Command::cursor, Command::edit, Command::measure};
+constexpr EOperation States[] = {opNone, opZoom, opPan, opCursor, opEditCurve, opMeasure};
 
 long AutoScaleOf(ISGraphAxis* pAxis)
 {
@@ -24,14 +24,14 @@ long AutoScaleOf(ISGraphAxis* pAxis)
 TEST_F(InteractionOperations, EveryCommandEntersItsStateFromAnyOther)
 {
     EXPECT_EQ(Operation(), opNone);
-    for (std::size_t from = 0; from < std::size(kEntries); ++from) {
-        for (std::size_t to = 0; to < std::size(kEntries); ++to) {
-            Send(kEntries[from]);
-            EXPECT_EQ(Operation(), kStates[from]);
+    for (std::size_t from = 0; from < std::size(Entries); ++from) {
+        for (std::size_t to = 0; to < std::size(Entries); ++to) {
+            Send(Entries[from]);
+            EXPECT_EQ(Operation(), States[from]);
             Clean();
-            Send(kEntries[to]);
-            EXPECT_EQ(Operation(), kStates[to]) << kEntries[from] << " then " << kEntries[to];
-            EXPECT_TRUE(IsDirty()) << kEntries[to];
+            Send(Entries[to]);
+            EXPECT_EQ(Operation(), States[to]) << Entries[from] << " then " << Entries[to];
+            EXPECT_TRUE(IsDirty()) << Entries[to];
         }
     }
     EXPECT_TRUE(Heards().empty());
@@ -61,16 +61,16 @@ TEST_F(InteractionOperations, MethodsEnterAllStatesButTheCursors)
 TEST_F(InteractionOperations, PanAndTheCursorStopRoundingOnAllAxesAndNothingElseDoes)
 {
     AddLine(1, 1, 1);
-    for (std::size_t i = 0; i < std::size(kEntries); ++i) {
+    for (std::size_t i = 0; i < std::size(Entries); ++i) {
         for (int axis = 0; axis < 2; ++axis) {
             XAxis(axis)->SetAutoScale(1);
             YAxis(axis)->SetAutoScale(1);
         }
-        Send(kEntries[i]);
-        const long bExpected = kStates[i] == opPan || kStates[i] == opCursor ? 0 : 1;
+        Send(Entries[i]);
+        const long bExpected = States[i] == opPan || States[i] == opCursor ? 0 : 1;
         for (int axis = 0; axis < 2; ++axis) {
-            EXPECT_EQ(AutoScaleOf(XAxis(axis).Get()), bExpected) << kEntries[i];
-            EXPECT_EQ(AutoScaleOf(YAxis(axis).Get()), bExpected) << kEntries[i];
+            EXPECT_EQ(AutoScaleOf(XAxis(axis).Get()), bExpected) << Entries[i];
+            EXPECT_EQ(AutoScaleOf(YAxis(axis).Get()), bExpected) << Entries[i];
         }
     }
 }
@@ -112,7 +112,7 @@ TEST_F(InteractionOperations, TheLabelCommandPutsAnEmptyLabelInTheMiddle)
 TEST_F(InteractionOperations, ThePropertiesCommandActsAsADoubleClickInAnyState)
 {
     const DialogCloser closer;
-    for (WPARAM entry : kEntries) {
+    for (WPARAM entry : Entries) {
         Send(entry);
         graph->SetCursor(Middle(RectOf(YAxis().Get())).x, At(0, 5).y);
         Heards();
@@ -156,7 +156,7 @@ TEST_F(InteractionOperations, AnyStateMayStandBeforeTheFirstFrameAndWithoutData)
 {
     const DialogCloser closer;
     graph->ResetAll();
-    for (WPARAM entry : kEntries) {
+    for (WPARAM entry : Entries) {
         if (entry == Command::measure)
             continue; // a measure needs a curve
         Send(entry);

@@ -18,7 +18,7 @@ protected:
         return ::SendMessageW(Handle(), WM_MOUSEWHEEL, MAKEWPARAM(nKeys, static_cast<WORD>(zDelta)), 0);
     }
     // The visible span is 10 on both axes at the start.
-    static constexpr double kTenth = 1.0;
+    static constexpr double Tenth = 1.0;
 };
 
 } // namespace
@@ -99,14 +99,14 @@ TEST_F(InteractionPan, AWheelMessageMovesXByATenthWhateverItsSize)
 {
     const double x = X(), y = Y();
     EXPECT_EQ(Wheel(120), 1);
-    EXPECT_NEAR(X(), x + kTenth, 1e-9);
+    EXPECT_NEAR(X(), x + Tenth, 1e-9);
     Wheel(1200);
-    EXPECT_NEAR(X(), x + 2 * kTenth, 1e-9);
+    EXPECT_NEAR(X(), x + 2 * Tenth, 1e-9);
     Wheel(0);
-    EXPECT_NEAR(X(), x + 3 * kTenth, 1e-9) << "nothing counts as forward";
+    EXPECT_NEAR(X(), x + 3 * Tenth, 1e-9) << "nothing counts as forward";
     Wheel(-1);
     Wheel(-120);
-    EXPECT_NEAR(X(), x + kTenth, 1e-9);
+    EXPECT_NEAR(X(), x + Tenth, 1e-9);
     EXPECT_EQ(Y(), y);
 }
 
@@ -121,8 +121,8 @@ TEST_F(InteractionPan, WithShiftTheWheelMovesYAndOnlyMovedAxesStopRounding)
     Clean();
     EXPECT_EQ(Wheel(120, MK_SHIFT), 1);
     EXPECT_TRUE(IsDirty());
-    EXPECT_NEAR(Y(), y + kTenth, 1e-9);
-    EXPECT_NEAR(YAt(150, 1), second + kTenth, 1e-9);
+    EXPECT_NEAR(Y(), y + Tenth, 1e-9);
+    EXPECT_NEAR(YAt(150, 1), second + Tenth, 1e-9);
     EXPECT_EQ(X(), x);
     for (int axis = 0; axis < 2; ++axis) {
         long bValue = -1;
@@ -145,8 +145,8 @@ TEST_F(InteractionPan, ArrowsMoveThePictureTheirWay)
         Clean();
         Key(row.key);
         EXPECT_TRUE(IsDirty()) << row.key;
-        EXPECT_NEAR(X(), before[0] + row.dx * kTenth, 1e-9) << row.key;
-        EXPECT_NEAR(Y(), before[1] + row.dy * kTenth, 1e-9) << row.key;
+        EXPECT_NEAR(X(), before[0] + row.dx * Tenth, 1e-9) << row.key;
+        EXPECT_NEAR(Y(), before[1] + row.dy * Tenth, 1e-9) << row.key;
     }
     EXPECT_NEAR(X(), x, 1e-9);
     EXPECT_NEAR(Y(), y, 1e-9);

@@ -5,7 +5,7 @@
 namespace
 {
 
-constexpr COLORREF kElbow = 0x0000FF;
+constexpr COLORREF Elbow = 0x0000FF;
 
 class FrontDoorMeasure : public FrontDoorGraph
 {
@@ -40,12 +40,12 @@ TEST_F(FrontDoorMeasure, ADragIsShownKeptAndDeleted)
     graph->GetOperation(&operation);
     EXPECT_EQ(operation, opMeasure);
     const Picture without = Shoot();
-    const int nBefore = without.Count(kElbow);
+    const int nBefore = without.Count(Elbow);
     Drag();
-    EXPECT_GT(Shoot().Count(kElbow), nBefore + 60); // live
+    EXPECT_GT(Shoot().Count(Elbow), nBefore + 60); // live
     Release();
     graph->NoOp();
-    EXPECT_GT(Shoot().Count(kElbow), nBefore + 60); // kept
+    EXPECT_GT(Shoot().Count(Elbow), nBefore + 60); // kept
     EXPECT_EQ(graph->DeleteMeasures(), S_OK);
     EXPECT_EQ(Shoot().CountDifferences(without), 0);
 }
@@ -67,9 +67,9 @@ TEST_F(FrontDoorMeasure, WithoutABufferTheReleaseLeavesTheSamePicture)
     graph->DeleteMeasures();
     graph->SetDoubleBuffer(0);
     Shoot();
-    const int nBefore = Picture(Handle()).Count(kElbow);
+    const int nBefore = Picture(Handle()).Count(Elbow);
     Drag();
-    EXPECT_GT(Picture(Handle()).Count(kElbow), nBefore + 60); // at once, with no frame
+    EXPECT_GT(Picture(Handle()).Count(Elbow), nBefore + 60); // at once, with no frame
     Release();
     ::UpdateWindow(Handle());
     EXPECT_EQ(Picture(Handle()).CountDifferences(buffered), 0);
@@ -77,13 +77,13 @@ TEST_F(FrontDoorMeasure, WithoutABufferTheReleaseLeavesTheSamePicture)
 
 TEST_F(FrontDoorMeasure, ManySpansAndEveryPlainClickAreKept)
 {
-    const int nBefore = Shoot().Count(kElbow);
+    const int nBefore = Shoot().Count(Elbow);
     for (int i = 0; i < 50; ++i) {
         Send(WM_LBUTTONDOWN, MK_LBUTTON, 60 + 5 * i, 100);
         Send(WM_LBUTTONUP, 0, 60 + 5 * i, 100);
     }
-    EXPECT_GT(Shoot().Count(kElbow), nBefore + 60); // arrows on most of the eleven points
-    graph->ResetAll();                              // they survive, and name a curve that is not there
+    EXPECT_GT(Shoot().Count(Elbow), nBefore + 60); // arrows on most of the eleven points
+    graph->ResetAll();                             // they survive, and name a curve that is not there
     graph->DeleteMeasures();
     Shoot();
     EXPECT_TRUE(::IsWindow(Handle()));
@@ -92,10 +92,10 @@ TEST_F(FrontDoorMeasure, ManySpansAndEveryPlainClickAreKept)
 TEST_F(FrontDoorMeasure, WithoutInteractionItMeasuresOn)
 {
     graph->SetInteraction(0);
-    const int nBefore = Shoot().Count(kElbow);
+    const int nBefore = Shoot().Count(Elbow);
     Drag();
     Release();
-    EXPECT_GT(Shoot().Count(kElbow), nBefore + 60);
+    EXPECT_GT(Shoot().Count(Elbow), nBefore + 60);
 }
 
 TEST_F(FrontDoorMeasure, DeathTest_ASpanOfARemovedCurveEndsTheProcess)

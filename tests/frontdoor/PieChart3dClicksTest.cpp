@@ -33,10 +33,10 @@ TEST_F(PieChart3dClicks, AFaceAndAWallSelectAndTheBackgroundClears)
 TEST_F(PieChart3dClicks, TheHoleSelectsNothingAndTheSamePlaceOfTheFlatStyleItsSlice)
 {
     Fill({1, 3});
-    pie->SetPieChartStyle(kDoughnut);
+    pie->SetPieChartStyle(Doughnut);
     EXPECT_EQ(Clicked(295, 365), L"");
     EXPECT_EQ(Clicked(365, 435), L"e0");
-    pie->SetPieChartStyle(kFlat);
+    pie->SetPieChartStyle(Flat);
     EXPECT_EQ(Clicked(295, 365), L"e0");
     EXPECT_EQ(Clicked(235, 365), L"e1");
 }
@@ -55,8 +55,8 @@ TEST_F(PieChart3dClicks, ASliceFromNinetyToThreeHundredShowsItsWallToTheLeftAlon
     Plain();
     Tilt(90);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(99, 390), kRed);
-    EXPECT_EQ(picture.At(431, 390), kGreen);
+    EXPECT_EQ(picture.At(99, 390), Red);
+    EXPECT_EQ(picture.At(431, 390), Green);
     EXPECT_EQ(Clicked(99, 390), L"e0");
     EXPECT_EQ(Clicked(431, 390), L"e1");
 }
@@ -67,8 +67,8 @@ TEST_F(PieChart3dClicks, ASliceAroundTheRightShowsItsWallFromThere)
     Plain();
     Tilt(300);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(450, 380), kRed);
-    EXPECT_EQ(picture.At(360, 410), kGreen);
+    EXPECT_EQ(picture.At(450, 380), Red);
+    EXPECT_EQ(picture.At(360, 410), Green);
     EXPECT_EQ(Clicked(450, 380), L"e0");
     EXPECT_EQ(Clicked(360, 410), L"e1");
 }
@@ -114,8 +114,8 @@ TEST_F(PieChart3dClicks, FewRowsCentreOnThePieWithoutABar)
     Plain();
     EXPECT_FALSE(::IsWindowVisible(Bar()));
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(570, 304), kRed);
-    EXPECT_EQ(picture.At(570, 347), kGreen);
+    EXPECT_EQ(picture.At(570, 304), Red);
+    EXPECT_EQ(picture.At(570, 347), Green);
 }
 
 TEST_F(PieChart3dClicks, ALongListScrollsToBothEnds)
@@ -150,15 +150,15 @@ TEST_F(PieChart3dClicks, ANarrowWindowKeepsThePiesSmallestSize)
     Fill({1, 3});
     Plain();
     ::MoveWindow(Handle(), 0, 0, 269, 400, TRUE);
-    EXPECT_EQ(Shoot().At(140, 210), kRed); // (30, 100) to (180, 250)
-    EXPECT_EQ(Shoot().At(190, 175), kWhite);
+    EXPECT_EQ(Shoot().At(140, 210), Red); // (30, 100) to (180, 250)
+    EXPECT_EQ(Shoot().At(190, 175), White);
     for (const int side : {0, 1, 2}) {
         ::MoveWindow(Handle(), 0, 0, side, side, TRUE);
         ::UpdateWindow(Handle());
         Clicked(0, 0);
     }
     ::MoveWindow(Handle(), 0, 0, 800, 600, TRUE);
-    EXPECT_EQ(Shoot().At(365, 435), kRed);
+    EXPECT_EQ(Shoot().At(365, 435), Red);
 }
 
 TEST_F(PieChart3dClicks, AFirstRowBeyondTheElementsShowsNoneUntilTheListMoves)
@@ -188,7 +188,7 @@ protected:
         RECT rect = {0, 0, 400, 300};
         pie->Create(Text(L"T"), &rect, WireHandle(host.m_hWnd), 1);
         for (const wchar_t* name : {L"a", L"b", L"c"}) {
-            pie->InsertItem(Text(name), Text(name), 2, kRed);
+            pie->InsertItem(Text(name), Text(name), 2, Red);
         }
         pie->SetInclineAngle(50);
         wireHWND hWnd = nullptr;

@@ -39,10 +39,10 @@ TEST_F(PieChart3dElements, EmptyAndRepeatedNamesAndValuesNotAboveZeroAreRefused)
     Fill({1, 3});
     const Picture before = Shoot();
     const double infinity = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(pie->InsertItem(Text(L""), Text(L"x"), 1, kRed), S_OK);
-    EXPECT_EQ(pie->InsertItem(Text(L"e1"), Text(L"x"), 9, kBlue), S_OK);
+    EXPECT_EQ(pie->InsertItem(Text(L""), Text(L"x"), 1, Red), S_OK);
+    EXPECT_EQ(pie->InsertItem(Text(L"e1"), Text(L"x"), 9, Blue), S_OK);
     for (const double value : {0.0, -1.0, std::nan(""), infinity, -infinity}) {
-        EXPECT_EQ(pie->InsertItem(Text(L"new"), Text(L"x"), value, kRed), S_OK);
+        EXPECT_EQ(pie->InsertItem(Text(L"new"), Text(L"x"), value, Red), S_OK);
         EXPECT_EQ(Item(L"new"), nullptr) << value;
     }
     EXPECT_FALSE(NeedsPaint());
@@ -98,7 +98,7 @@ TEST_F(PieChart3dElements, TheLightOfAllChangesTheColorsButNotTheAmounts)
 {
     Fill({1});
     Plain();
-    EXPECT_EQ(Shoot().At(265, 560), kRed);
+    EXPECT_EQ(Shoot().At(265, 560), Red);
     EXPECT_EQ(pie->SetPieElementGradientLightAll(255), S_OK);
     EXPECT_GT(GetBValue(Shoot().At(265, 560)), 225); // light at the bottom
     EXPECT_EQ(Light(L"e0"), 120.0f);
@@ -180,7 +180,7 @@ TEST_F(PieChart3dElements, AHugeValueThatGoesTakesTheTotalAlong)
 {
     const double largest = std::numeric_limits<double>::max();
     Fill({largest});
-    pie->InsertItem(Text(L"too much"), Text(L""), largest, kGreen);
+    pie->InsertItem(Text(L"too much"), Text(L""), largest, Green);
     EXPECT_EQ(Item(L"too much"), nullptr);
     Fill({1});
     EXPECT_EQ(At(200), L"e0");

@@ -9,11 +9,11 @@
 class PieChart3dTest : public testing::Test
 {
 protected:
-    static constexpr COLORREF kWhite = 0xFFFFFF;
-    static constexpr COLORREF kRed = 0x0000FF;
-    static constexpr COLORREF kGreen = 0x00C000;
-    static constexpr COLORREF kBlue = 0xFF0000;
-    enum EStyle { kTilted = 0, kDoughnut = 1, kFlat = 2 };
+    static constexpr COLORREF White = 0xFFFFFF;
+    static constexpr COLORREF Red = 0x0000FF;
+    static constexpr COLORREF Green = 0x00C000;
+    static constexpr COLORREF Blue = 0xFF0000;
+    enum EStyle { Tilted = 0, Doughnut = 1, Flat = 2 };
 
     PieChart3dTest() : pie(Server::Shared().Make<PieChart3d, IPieChart3d>()) {}
 
@@ -26,7 +26,7 @@ protected:
     // Elements named e0, e1, ... of these values, red, green and blue in turn.
     void Fill(std::initializer_list<double> values)
     {
-        const COLORREF colors[] = {kRed, kGreen, kBlue};
+        const COLORREF colors[] = {Red, Green, Blue};
         for (const double value : values) {
             const std::wstring name = L"e" + std::to_wstring(inserted);
             EXPECT_EQ(pie->InsertItem(Text(name.c_str()), Text(L"label"), value, colors[inserted % 3]),
@@ -39,7 +39,7 @@ protected:
     {
         pie->SetPieElementGradientLightAll(0);
         pie->SetPieElementGradientDarkAll(0);
-        pie->SetBackgrndColor(kWhite);
+        pie->SetBackgrndColor(White);
         pie->SetBackGroundGradientDark(0);
         pie->SetPieChartTitle(Text(L""));
     }
@@ -105,10 +105,10 @@ protected:
     {
         const Picture picture = Shoot();
         std::string marks;
-        COLORREF last = kWhite;
+        COLORREF last = White;
         for (int y = 100; y < 570; ++y) {
             const COLORREF color = picture.At(570, y);
-            const char letter = color == kRed ? 'r' : color == kGreen ? 'g' : color == kBlue ? 'b' : 0;
+            const char letter = color == Red ? 'r' : color == Green ? 'g' : color == Blue ? 'b' : 0;
             if (color != last && letter != 0) {
                 marks.push_back(letter);
             }

@@ -82,11 +82,11 @@ TEST_F(PieChart3dLooks, TitleLabelsAndPercentsTakeTheLabelColor)
 {
     Plain();
     pie->SetPieChartTitle(Text(L"MMMM"));
-    EXPECT_EQ(pie->SetLabelColor(kBlue), S_OK);
+    EXPECT_EQ(pie->SetLabelColor(Blue), S_OK);
     const Picture picture = Shoot();
-    EXPECT_GT(picture.Count({300, 25, 500, 80}, kBlue), 20);
-    EXPECT_GT(picture.Count({646, 290, 760, 318}, kBlue), 10);
-    EXPECT_GT(picture.Count({370, 455, 430, 482}, kBlue), 10); // 25.00% at (398, 468)
+    EXPECT_GT(picture.Count({300, 25, 500, 80}, Blue), 20);
+    EXPECT_GT(picture.Count({646, 290, 760, 318}, Blue), 10);
+    EXPECT_GT(picture.Count({370, 455, 430, 482}, Blue), 10); // 25.00% at (398, 468)
     EXPECT_EQ(picture.Count(0), 0);
 }
 
@@ -108,11 +108,11 @@ TEST_F(PieChart3dLooks, TheStylesOfTheInterfaceAreDoughnutFlatAndAllElseTilted)
     const Picture doughnut = Shoot();
     EXPECT_EQ(pie->SetPieChartStyle(2), S_OK);
     const Picture flat = Shoot();
-    EXPECT_EQ(doughnut.At(265, 335), kWhite);
-    EXPECT_EQ(flat.At(285, 355), kRed);
-    EXPECT_EQ(flat.At(265, 500), kWhite); // the cut between the slices
-    EXPECT_EQ(doughnut.At(269, 500), kRed);
-    EXPECT_EQ(tilted.At(431, 390), kRed);
+    EXPECT_EQ(doughnut.At(265, 335), White);
+    EXPECT_EQ(flat.At(285, 355), Red);
+    EXPECT_EQ(flat.At(265, 500), White); // the cut between the slices
+    EXPECT_EQ(doughnut.At(269, 500), Red);
+    EXPECT_EQ(tilted.At(431, 390), Red);
     for (const int style : {0, 3, 5, -1, 2147483647}) {
         pie->SetPieChartStyle(style);
         EXPECT_EQ(Shoot().CountDifferences(tilted), 0) << style;
@@ -124,8 +124,8 @@ TEST_F(PieChart3dLooks, TheStartAngleTurnsThePieClockwise)
     Plain();
     EXPECT_EQ(pie->SetStartAngle(90), S_OK);
     Picture picture = Shoot();
-    EXPECT_EQ(picture.At(165, 435), kRed);
-    EXPECT_EQ(picture.At(365, 435), kGreen);
+    EXPECT_EQ(picture.At(165, 435), Red);
+    EXPECT_EQ(picture.At(365, 435), Green);
     pie->SetStartAngle(5);
     picture = Shoot();
     pie->SetStartAngle(725);
@@ -161,14 +161,14 @@ TEST_F(PieChart3dLooks, DepthIsTheHeightOfTheWall)
     pie->SetInclineAngle(85);
     EXPECT_EQ(pie->SetDepth(100), S_OK); // half of it above and half below the middle at 335
     Picture picture = Shoot();
-    EXPECT_EQ(picture.At(265 + 10, 335 + 60), kRed);
+    EXPECT_EQ(picture.At(265 + 10, 335 + 60), Red);
     const Picture before = picture;
     for (const float depth : {-1.0f, NAN, INFINITY}) {
         EXPECT_EQ(pie->SetDepth(depth), S_OK);
         EXPECT_EQ(Redrawn().CountDifferences(before), 0);
     }
     EXPECT_EQ(pie->SetDepth(0), S_OK);
-    EXPECT_EQ(Shoot().At(265 + 10, 335 + 60), kWhite);
+    EXPECT_EQ(Shoot().At(265 + 10, 335 + 60), White);
 }
 
 TEST_F(PieChart3dLooks, FontsAreTakenByTheirFirstNinetyTwoBytes)
@@ -209,7 +209,7 @@ TEST_F(PieChart3dLooks, FontsThatDoNotExistAreTheGenericSansSerif)
 TEST_F(PieChart3dLooks, TheLabelBoxColorIsStoredAndShownNowhere)
 {
     const Picture before = Shoot();
-    EXPECT_EQ(pie->SetLabelBoxColor(kRed), S_OK);
+    EXPECT_EQ(pie->SetLabelBoxColor(Red), S_OK);
     EXPECT_TRUE(NeedsPaint());
     EXPECT_EQ(Shoot().CountDifferences(before), 0);
 }
@@ -219,7 +219,7 @@ TEST_F(PieChart3dLooks, TextsOfAnyLengthAreShownAsFarAsTheyGo)
     const std::wstring longText(50000, L'W');
     EXPECT_EQ(pie->SetPieChartTitle(Text(longText.c_str())), S_OK);
     EXPECT_EQ(pie->UpdateItemLabel(Item(L"e0"), Text(longText.c_str())), S_OK);
-    EXPECT_EQ(pie->InsertItem(Text(longText.c_str()), Text(L"%s%n%d"), 1, kBlue), S_OK);
+    EXPECT_EQ(pie->InsertItem(Text(longText.c_str()), Text(L"%s%n%d"), 1, Blue), S_OK);
     Shoot();
     EXPECT_EQ(Id(longText.c_str()), 2);
     EXPECT_EQ(NameOf(Item(longText.c_str())).size(), 50000u);

@@ -94,7 +94,7 @@ TEST_F(PieChart3dMethods, NullItemsAreRefusedWithSuccess)
     const Picture before = Shoot();
     EXPECT_EQ(pie->UpdateItemLabel(nullptr, Text(L"x")), S_OK);
     EXPECT_EQ(pie->UpdateItemValue(nullptr, 5), S_OK);
-    EXPECT_EQ(pie->UpdateItemColor(nullptr, kBlue), S_OK);
+    EXPECT_EQ(pie->UpdateItemColor(nullptr, Blue), S_OK);
     EXPECT_EQ(pie->SetPieElementGradientLight(nullptr, 5), S_OK);
     EXPECT_EQ(pie->SetPieElementGradientDark(nullptr, 5), S_OK);
     EXPECT_FALSE(NeedsPaint());
@@ -149,9 +149,9 @@ TEST_F(PieChart3dMethods, ANullLabelLeavesTheLabel)
 TEST_F(PieChart3dMethods, NullTextsStandForEmptyOnes)
 {
     Create();
-    EXPECT_EQ(pie->InsertItem(nullptr, Text(L"x"), 1, kRed), S_OK);
+    EXPECT_EQ(pie->InsertItem(nullptr, Text(L"x"), 1, Red), S_OK);
     EXPECT_EQ(Id(L""), -1);
-    EXPECT_EQ(pie->InsertItem(Text(L"a"), nullptr, 1, kRed), S_OK);
+    EXPECT_EQ(pie->InsertItem(Text(L"a"), nullptr, 1, Red), S_OK);
     EXPECT_EQ(Id(L"a"), 0);
     EXPECT_EQ(pie->RemoveItem(nullptr), S_OK);
     EXPECT_EQ(pie->SetLabelFontName(nullptr), S_OK);

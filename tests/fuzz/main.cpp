@@ -148,7 +148,7 @@ void PutIndexesInRange(CXGraph& graph)
         put(curve.m_nXAxis, graph.m_XAxes.size());
         put(curve.m_nYAxis, graph.m_YAxes.size());
         put(curve.m_nMarker, 8);
-        if (curve.m_nFillCurve != CXGraphDataSerie::kFillToBottom && curve.m_nFillCurve >= curves)
+        if (curve.m_nFillCurve != CXGraphDataSerie::FillToBottom && curve.m_nFillCurve >= curves)
             curve.m_nFillCurve = 0;
     };
     for (CXGraphDataSerie& curve : graph.m_Curves)

@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr COLORREF kGreen = 0x00FF00;
-constexpr COLORREF kBlue = 0xFF0000;
+constexpr COLORREF Green = 0x00FF00;
+constexpr COLORREF Blue = 0xFF0000;
 
 class AxisBands : public GraphTest
 {
@@ -62,71 +62,71 @@ std::vector<TLine> ArrowLines(int nDirection, int nSize)
 
 TEST_F(AxisBands, ASolidRangeOfOneColourFillsItsBand)
 {
-    Y().SetColorRange(0, 2, 4, kGreen, kGreen, L"", 6);
+    Y().SetColorRange(0, 2, 4, Green, Green, L"", 6);
     const Picture picture = Shoot();
     const int nHeight = Y().GetPointForValue({0, 2}).y - Y().GetPointForValue({0, 4}).y;
     // The axis line covers one column at the edge, tick labels none.
-    EXPECT_NEAR(picture.Count(kGreen), nHeight * graph.m_rcInner.Width(), nHeight);
-    EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 3}).y), kGreen);
+    EXPECT_NEAR(picture.Count(Green), nHeight * graph.m_rcInner.Width(), nHeight);
+    EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 3}).y), Green);
 }
 
 TEST_F(AxisBands, AnXRangeTakesThePlotsWholeHeight)
 {
-    X().SetColorRange(0, 2, 4, kGreen, kGreen, L"", 6);
+    X().SetColorRange(0, 2, 4, Green, Green, L"", 6);
     const Picture picture = Shoot();
     const int nColumn = X().GetPointForValue({3, 0}).x;
-    EXPECT_EQ(picture.At(nColumn, graph.m_rcInner.top + 1), kGreen);
-    EXPECT_EQ(picture.At(nColumn, graph.m_rcInner.bottom - 2), kGreen);
+    EXPECT_EQ(picture.At(nColumn, graph.m_rcInner.top + 1), Green);
+    EXPECT_EQ(picture.At(nColumn, graph.m_rcInner.bottom - 2), Green);
 }
 
 TEST_F(AxisBands, TwoColoursHaveNoDrawnForm)
 {
-    Y().SetColorRange(0, 2, 4, kGreen, kBlue, L"", 6);
+    Y().SetColorRange(0, 2, 4, Green, Blue, L"", 6);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.Count(kGreen), 0);
-    EXPECT_EQ(picture.Count(kBlue), 0);
+    EXPECT_EQ(picture.Count(Green), 0);
+    EXPECT_EQ(picture.Count(Blue), 0);
 }
 
 TEST_F(AxisBands, AHatchedRangeHasAFrameAndGaps)
 {
-    Y().SetColorRange(0, 2, 8, kGreen, kBlue, L"", HS_CROSS);
+    Y().SetColorRange(0, 2, 8, Green, Blue, L"", HS_CROSS);
     const Picture picture = Shoot();
     const int nBand =
         (Y().GetPointForValue({0, 2}).y - Y().GetPointForValue({0, 8}).y) * graph.m_rcInner.Width();
-    EXPECT_GT(picture.Count(kGreen), nBand / 20);
-    EXPECT_LT(picture.Count(kGreen), nBand * 3 / 4);
-    EXPECT_EQ(picture.At(graph.m_rcInner.left + 60, Y().GetPointForValue({0, 8}).y), kGreen);
+    EXPECT_GT(picture.Count(Green), nBand / 20);
+    EXPECT_LT(picture.Count(Green), nBand * 3 / 4);
+    EXPECT_EQ(picture.At(graph.m_rcInner.left + 60, Y().GetPointForValue({0, 8}).y), Green);
 }
 
 TEST_F(AxisBands, AnUnknownPatternPaintsNothing)
 {
-    Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"", 12);
-    Y().SetColorRange(1, 2, 8, kGreen, kGreen, L"", 0xFFFFFFFF);
-    EXPECT_EQ(Shoot().Count(kGreen), 0);
+    Y().SetColorRange(0, 2, 8, Green, Green, L"", 12);
+    Y().SetColorRange(1, 2, 8, Green, Green, L"", 0xFFFFFFFF);
+    EXPECT_EQ(Shoot().Count(Green), 0);
 }
 
 TEST_F(AxisBands, ThePlatformsFurtherPatternsAreDrawn)
 {
     for (UINT nStyle = 7; nStyle < 12; ++nStyle) {
-        Y().SetColorRange(0, 2, 8, kGreen, kBlue, L"", nStyle);
+        Y().SetColorRange(0, 2, 8, Green, Blue, L"", nStyle);
         const Picture picture = Shoot();
-        EXPECT_GT(picture.Count(kGreen), 2 * (graph.m_rcInner.Width() - 2)) << nStyle; // the frame
-        EXPECT_EQ(picture.Count(kBlue), 0) << nStyle;
+        EXPECT_GT(picture.Count(Green), 2 * (graph.m_rcInner.Width() - 2)) << nStyle; // the frame
+        EXPECT_EQ(picture.Count(Blue), 0) << nStyle;
     }
 }
 
 TEST_F(AxisBands, RangesOutsideThePlotEndAtItsEdge)
 {
-    Y().SetColorRange(0, 50, 60, kGreen, kGreen, L"far", 6);
-    Y().SetColorRange(1, 8, 1e300, kBlue, kBlue, L"", 6);
+    Y().SetColorRange(0, 50, 60, Green, Green, L"far", 6);
+    Y().SetColorRange(1, 8, 1e300, Blue, Blue, L"", 6);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.Count(kGreen), 0);
-    EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 9}).y), kBlue);
+    EXPECT_EQ(picture.Count(Green), 0);
+    EXPECT_EQ(picture.At(graph.m_rcInner.left + 50, Y().GetPointForValue({0, 9}).y), Blue);
 }
 
 TEST_F(AxisBands, ARangesLabelStandsInIt)
 {
-    Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"!good", 6);
+    Y().SetColorRange(0, 2, 8, Green, Green, L"!good", 6);
     const FrameRecording frame(graph);
     EXPECT_EQ(TextsOf(frame, L"!").size(), 1u);
 }
@@ -135,8 +135,8 @@ TEST_F(AxisBands, AMarkerCrossesThePlotWithItsValue)
 {
     X().m_cDisplayFmt = L"X%g";
     Y().m_cDisplayFmt = L"Y%g";
-    X().SetAxisMarker(0, 3.5, kBlue, PS_SOLID);
-    Y().SetAxisMarker(0, 4.5, kGreen, PS_SOLID);
+    X().SetAxisMarker(0, 3.5, Blue, PS_SOLID);
+    Y().SetAxisMarker(0, 4.5, Green, PS_SOLID);
     X().SetMaskerLabel(0, L"!up");
     Y().SetMaskerLabel(0, L"!right");
     const FrameRecording frame(graph);
@@ -156,7 +156,7 @@ TEST_F(AxisBands, AMarkerCrossesThePlotWithItsValue)
 TEST_F(AxisBands, AMarkerOutsideThePlotIsSkippedWithItsText)
 {
     X().m_cDisplayFmt = L"X%g";
-    X().SetAxisMarker(0, 30.5, kBlue, PS_SOLID);
+    X().SetAxisMarker(0, 30.5, Blue, PS_SOLID);
     X().SetMaskerLabel(0, L"!up");
     const FrameRecording frame(graph);
     EXPECT_TRUE(TextsOf(frame, L"!").empty());
@@ -196,15 +196,15 @@ TEST_F(AxisBands, CurvesOfOtherAxesHaveNoKey)
 TEST_F(AxisBands, KeysStandAlongTheirAxis)
 {
     graph.m_Curves[0].m_bVisible = true;
-    graph.m_Curves[0].m_crColor = kGreen;
+    graph.m_Curves[0].m_crColor = Green;
     const Picture picture = Shoot();
     const CPoint xCorner(graph.m_rcInner.right - 10, X().m_nOriginY - 5);
     const CPoint yCorner(Y().m_nOriginX - 5, Y().m_rcArea.top);
     // Their corners, clear of the number and of the axis's line.
-    EXPECT_EQ(picture.At(xCorner.x, xCorner.y), kGreen);
-    EXPECT_EQ(picture.At(xCorner.x + 9, xCorner.y), kGreen);
-    EXPECT_EQ(picture.At(yCorner.x, yCorner.y), kGreen);
-    EXPECT_EQ(picture.At(yCorner.x, yCorner.y + 9), kGreen);
+    EXPECT_EQ(picture.At(xCorner.x, xCorner.y), Green);
+    EXPECT_EQ(picture.At(xCorner.x + 9, xCorner.y), Green);
+    EXPECT_EQ(picture.At(yCorner.x, yCorner.y), Green);
+    EXPECT_EQ(picture.At(yCorner.x, yCorner.y + 9), Green);
 }
 
 TEST_F(AxisBands, AKeyIsAFilledSquareWithItsNumber)
@@ -239,15 +239,15 @@ TEST_F(AxisBands, AMonoKeyIsBlackWithAWhiteNumber)
 {
     Canvas canvas(60, 60);
     canvas.dc.m_bMono = true;
-    X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 7, 30, kGreen, false);
+    X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 7, 30, Green, false);
     EXPECT_EQ(canvas.At(10, 10), 0u);
 }
 
 TEST_F(AxisBands, ASymbolKeyIsDrawnByItsPainter)
 {
     Canvas canvas(60, 60);
-    X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 3, 20, kGreen, true);
-    EXPECT_EQ(canvas.At(20, 20), kGreen);
+    X().DrawCurveKey(&canvas.dc, CPoint(10, 10), 3, 20, Green, true);
+    EXPECT_EQ(canvas.At(20, 20), Green);
     EXPECT_EQ(canvas.At(11, 11), 0xFFFFFFu); // a diamond leaves the corners
 }
 
@@ -255,7 +255,7 @@ TEST_F(AxisBands, AnUnknownSymbolDrawsNothing)
 {
     Canvas canvas(60, 60);
     for (const int nKey : {-1, 8, INT_MAX, INT_MIN})
-        X().DrawCurveKey(&canvas.dc, CPoint(10, 10), nKey, 20, kGreen, true);
+        X().DrawCurveKey(&canvas.dc, CPoint(10, 10), nKey, 20, Green, true);
     EXPECT_EQ(canvas.At(20, 20), 0xFFFFFFu);
 }
 

@@ -204,7 +204,7 @@ TEST_F(AxisDrawing, ASelectedAxisHasAFocusFrame)
 
 TEST_F(AxisDrawing, APrinterGetsEveryLineScaled)
 {
-    graph.m_rcPrint = CRect(0, 0, kWidth, kHeight);
+    graph.m_rcPrint = CRect(0, 0, Width, Height);
     const auto plain = LinesOf(FrameRecording(graph));
     const int nLength = x.m_nLength;
     const auto scaled = LinesOf(FrameRecording(graph, [](CDCEx& dc) {

@@ -11,8 +11,8 @@
 namespace
 {
 
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
-const double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
+const double NaN = std::numeric_limits<double>::quiet_NaN();
 
 struct TRanges {
     double fMin, fMax, fCurMin, fCurMax, fStep;
@@ -106,8 +106,8 @@ TEST(AxisRange, FallingAndUndefinedBoundsAreRefused)
         const TRanges before(axis);
         EXPECT_FALSE(axis.SetRange(3, 1));
         EXPECT_FALSE(axis.SetCurrentRange(3, 1, 0.5));
-        EXPECT_FALSE(axis.SetRange(kNaN, 1));
-        EXPECT_FALSE(axis.SetCurrentRange(1, kNaN, 0.5));
+        EXPECT_FALSE(axis.SetRange(NaN, 1));
+        EXPECT_FALSE(axis.SetCurrentRange(1, NaN, 0.5));
         ExpectSame(TRanges(axis), before);
     }
 }
@@ -369,7 +369,7 @@ TEST_F(AxisOnScreen, DatesThatAreNoneSaySo)
     EXPECT_TRUE(axis.FormatValue(40000.25) == L"2009-07-06 06:00");
     EXPECT_TRUE(axis.FormatValue(-1.25) == L"1899-12-29 06:00");
     EXPECT_TRUE(axis.FormatValue(1e10) == L"Invalid DateTime");
-    EXPECT_TRUE(axis.FormatValue(kNaN) == L"Invalid DateTime");
+    EXPECT_TRUE(axis.FormatValue(NaN) == L"Invalid DateTime");
 }
 
 TEST_F(AxisOnScreen, AnIndexIsFoundByX)
@@ -384,8 +384,8 @@ TEST_F(AxisOnScreen, AnIndexIsFoundByX)
 TEST_F(AxisBoundsDeathTest, MarkersAndRangesPastTheEndEndTheProcess)
 {
     CXGraphAxis& axis = *graph.GetXAxis(0);
-    EXPECT_EXIT(axis.SetAxisMarker(1, 0, 0, 0), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(axis.SetMaskerLabel(0, L"x"), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(axis.SetColorRange(1, 0, 0, 0, 0, L"", 0), testing::ExitedWithCode(kInvalidParameter),
+    EXPECT_EXIT(axis.SetAxisMarker(1, 0, 0, 0), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(axis.SetMaskerLabel(0, L"x"), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(axis.SetColorRange(1, 0, 0, 0, 0, L"", 0), testing::ExitedWithCode(InvalidParameter),
                 "");
 }

@@ -8,12 +8,12 @@
 namespace
 {
 
-constexpr COLORREF kGreen = 0x00FF00;
+constexpr COLORREF Green = 0x00FF00;
 
 class AxisTexts : public GraphTest
 {
 protected:
-    AxisTexts() : canvas(kWidth, kHeight)
+    AxisTexts() : canvas(Width, Height)
     {
         AddLine();
         graph.m_bShowLegend = false;
@@ -134,7 +134,7 @@ TEST_F(AxisTexts, TitlesStandAtTheFarEndATickBesideTheLine)
 
 TEST_F(AxisTexts, ARangesLabelStandsTwoPixelsInsideItsBand)
 {
-    Y().SetColorRange(0, 2, 8, kGreen, kGreen, L"!good", 6);
+    Y().SetColorRange(0, 2, 8, Green, Green, L"!good", 6);
     const auto texts = Texts(L"!good");
     ASSERT_EQ(texts.size(), 1u);
     const CRect plot = graph.m_rcInner;
@@ -149,7 +149,7 @@ TEST_F(AxisTexts, ARangesLabelStandsTwoPixelsInsideItsBand)
 
 TEST_F(AxisTexts, AMarkerOfAnXAxisWritesUpwardFromTheBottom)
 {
-    X().SetAxisMarker(0, 3.5, kGreen, PS_SOLID);
+    X().SetAxisMarker(0, 3.5, Green, PS_SOLID);
     X().SetMaskerLabel(0, L"!up");
     const auto values = Texts(L"X3.5");
     const auto labels = canvas.dc.Marked(L"!up");
@@ -168,7 +168,7 @@ TEST_F(AxisTexts, AMarkerOfAnXAxisWritesUpwardFromTheBottom)
 
 TEST_F(AxisTexts, AMarkerOfAYAxisWritesItsLabelOverTheRightEnd)
 {
-    Y().SetAxisMarker(0, 4.5, kGreen, PS_SOLID);
+    Y().SetAxisMarker(0, 4.5, Green, PS_SOLID);
     Y().SetMaskerLabel(0, L"!right");
     const auto values = Texts(L"Y4.5");
     const auto labels = canvas.dc.Marked(L"!right");
@@ -188,8 +188,8 @@ TEST_F(AxisTexts, AMarkersTextsScaleWithThePage)
     canvas.dc.m_bScaleReady = canvas.dc.m_bScaling = true;
     canvas.dc.m_fScaleX = 2.0f;
     canvas.dc.m_fScaleY = 3.0f;
-    graph.m_rcPrint = CRect(0, 0, kWidth, kHeight);
-    Y().SetAxisMarker(0, 4.5, kGreen, PS_SOLID);
+    graph.m_rcPrint = CRect(0, 0, Width, Height);
+    Y().SetAxisMarker(0, 4.5, Green, PS_SOLID);
     Y().SetMaskerLabel(0, L"!right");
     Paint(); // the layout
     canvas.dc.texts.clear();

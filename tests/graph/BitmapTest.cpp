@@ -49,22 +49,22 @@ TEST_F(BitmapExport, TheFileHoldsTheWindowAsItStandsOnTheScreen)
     const Picture picture = Shoot();
     ASSERT_TRUE(graph.SaveBitmap(m_file));
     const auto bytes = Bytes();
-    ASSERT_GE(bytes.size(), 54u + kWidth * kHeight * 4);
+    ASSERT_GE(bytes.size(), 54u + Width * Height * 4);
     EXPECT_EQ(bytes[0], 'B');
     EXPECT_EQ(bytes[1], 'M');
     EXPECT_EQ(At<DWORD>(bytes, 2), bytes.size());
     EXPECT_EQ(At<DWORD>(bytes, 6), 0u);
     EXPECT_EQ(At<DWORD>(bytes, 14), 40u);
-    EXPECT_EQ(At<LONG>(bytes, 18), kWidth);
-    EXPECT_EQ(At<LONG>(bytes, 22), kHeight);
+    EXPECT_EQ(At<LONG>(bytes, 18), Width);
+    EXPECT_EQ(At<LONG>(bytes, 22), Height);
     EXPECT_EQ(At<WORD>(bytes, 26), 1);
     ASSERT_EQ(At<WORD>(bytes, 28), 32);
     EXPECT_EQ(At<DWORD>(bytes, 30), static_cast<DWORD>(BI_RGB));
     EXPECT_EQ(At<DWORD>(bytes, 10), 58u); // what the formula gives with 32 bits; the bits start at 54
     int nWrong = 0;
-    for (int y = 0; y < kHeight; ++y) {
-        for (int x = 0; x < kWidth; ++x) {
-            const auto pixel = At<DWORD>(bytes, 54 + ((kHeight - 1 - y) * kWidth + x) * 4);
+    for (int y = 0; y < Height; ++y) {
+        for (int x = 0; x < Width; ++x) {
+            const auto pixel = At<DWORD>(bytes, 54 + ((Height - 1 - y) * Width + x) * 4);
             nWrong +=
                 RGB((pixel >> 16) & 255, (pixel >> 8) & 255, pixel & 255) != picture.At(x, y) ? 1 : 0;
         }

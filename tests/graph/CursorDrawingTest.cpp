@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
 
 // Two level curves, at 2 and at 8, in a plot from 0 to 10.
 class CursorDrawing : public GraphTest
@@ -154,7 +154,7 @@ TEST_F(CursorDrawingDeathTest, AForcedSnapPastTheEndEndsTheProcess)
 {
     EnterCursor();
     graph.m_nForcedSnapCurve = 2;
-    EXPECT_EXIT(Move(Middle(), Row(5)), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Move(Middle(), Row(5)), testing::ExitedWithCode(InvalidParameter), "");
 }
 
 TEST_F(CursorDrawing, EveryFlagAddsItsLineToTheBox)

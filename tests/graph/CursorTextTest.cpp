@@ -15,7 +15,7 @@ CXGraphAxis Axis(const wchar_t* pszFormat, const wchar_t* pszLabel, bool bDateTi
     return axis;
 }
 
-constexpr double kNoon = 43831.5; // 2020-01-01 12:00
+constexpr double Noon = 43831.5; // 2020-01-01 12:00
 
 class CursorTextBox : public GraphTest
 {
@@ -32,7 +32,7 @@ TEST(CursorText, NumbersStandBetweenTheAxissPlaceAndItsTitle)
 
 TEST(CursorText, ADateTakesOneLine)
 {
-    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%Y-%m-%d\r\n%H:%M", L"UTC", true), kNoon),
+    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%Y-%m-%d\r\n%H:%M", L"UTC", true), Noon),
               L" X[01] : 2020-01-01  12:00 UTC\r\n");
     EXPECT_EQ(CursorText::XAxisLine(2, Axis(L"%Y", L"t", true), 1e300),
               L" X[02] : Invalid DateTime t\r\n");
@@ -40,15 +40,15 @@ TEST(CursorText, ADateTakesOneLine)
 
 TEST(CursorText, APercentSignInADateIsTakenForAFormat)
 {
-    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%%s %Y", L"t", true), kNoon), L" X[01] : t 2020 %s\r\n");
-    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"100%%%%", L"t", true), kNoon), L" X[01] : 100% t\r\n");
-    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%%n%%d%%f", L"t", true), kNoon), L" X[01] : %n%d%f t\r\n");
+    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%%s %Y", L"t", true), Noon), L" X[01] : t 2020 %s\r\n");
+    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"100%%%%", L"t", true), Noon), L" X[01] : 100% t\r\n");
+    EXPECT_EQ(CursorText::XAxisLine(1, Axis(L"%%n%%d%%f", L"t", true), Noon), L" X[01] : %n%d%f t\r\n");
 }
 
 TEST(CursorText, YAxesHaveNoDates)
 {
-    EXPECT_EQ(CursorText::YAxisLine(1, Axis(L"%5.1f", L"t", true), kNoon), L" Y[01] : 43831.5 t\r\n");
-    EXPECT_EQ(CursorText::YAxisLine(1, Axis(L"%Y-%m", L"t", true), kNoon), L" Y[01] : %Y-%m t\r\n");
+    EXPECT_EQ(CursorText::YAxisLine(1, Axis(L"%5.1f", L"t", true), Noon), L" Y[01] : 43831.5 t\r\n");
+    EXPECT_EQ(CursorText::YAxisLine(1, Axis(L"%Y-%m", L"t", true), Noon), L" Y[01] : %Y-%m t\r\n");
 }
 
 TEST(CursorText, FormatsFromOutsideTakeOneNumberAndReadNothingElse)
@@ -71,11 +71,10 @@ TEST(CursorText, TheCurvesLineHasBothValues)
 TEST(CursorText, TheCurvesLineWithADateHandsYToTheWholeOfIt)
 {
     EXPECT_EQ(
-        CursorText::CurveLine(L"c", 1, Axis(L"%d.%m.\n%Y", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
+        CursorText::CurveLine(L"c", 1, Axis(L"%d.%m.\n%Y", L"x", true), Noon, Axis(L"%.2f", L"y"), 2.5),
         L" c[01] : 01.01. 2020, 2.50\r\n");
-    EXPECT_EQ(
-        CursorText::CurveLine(L"c", 1, Axis(L"%%.1f", L"x", true), kNoon, Axis(L"%.2f", L"y"), 2.5),
-        L" c[01] : 2.5, %.2f\r\n");
+    EXPECT_EQ(CursorText::CurveLine(L"c", 1, Axis(L"%%.1f", L"x", true), Noon, Axis(L"%.2f", L"y"), 2.5),
+              L" c[01] : 2.5, %.2f\r\n");
 }
 
 TEST(CursorText, LongTitlesStayWhole)

@@ -129,7 +129,7 @@ TEST(CurveData, FillSettingsComeTogether)
     CXGraphDataSerie curve;
     curve.SetFillBeneath(true, 65535);
     EXPECT_TRUE(curve.m_bFillBeneath);
-    EXPECT_EQ(curve.m_nFillCurve, CXGraphDataSerie::kFillToBottom);
+    EXPECT_EQ(curve.m_nFillCurve, CXGraphDataSerie::FillToBottom);
     curve.SetFillBeneath(false, 2);
     EXPECT_FALSE(curve.m_bFillBeneath);
     EXPECT_EQ(curve.m_nFillCurve, 2);

@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
 
 class CurveDrawing : public GraphTest
 {
@@ -231,7 +231,7 @@ TEST_F(CurveDrawing, TheSmallestWidthOverASizeOfMinusOneHasMarkersToo)
     CXGraphDataSerie& curve = Add(Line());
     curve.m_nMarkerSize = -1;
     Paint();
-    Canvas canvas(kWidth, kHeight);
+    Canvas canvas(Width, Height);
     graph.m_rcInner = CRect(1 << 30, 0, -(1 << 30), 100);
     ASSERT_EQ(graph.m_rcInner.Width(), INT_MIN);
     curve.DrawMarkers(&canvas.dc);
@@ -274,7 +274,7 @@ TEST_F(CurveDrawing, NumberedMarkersShowTheCurvesPositionOrTheMarker)
     const std::vector<std::wstring> numbers{L"2", L"6"};
     for (int i = 0; i < 2; ++i) {
         const CXGraphDataSerie& curve = graph.m_Curves[i == 0 ? 1 : 2];
-        WatchedCanvas canvas(kWidth, kHeight);
+        WatchedCanvas canvas(Width, Height);
         graph.m_Curves[i == 0 ? 1 : 2].DrawMarkers(&canvas.dc);
         ASSERT_FALSE(canvas.dc.texts.empty());
         const TPoint first = At(curve.m_pData[0].fXVal, curve.m_pData[0].fYVal);
@@ -282,7 +282,7 @@ TEST_F(CurveDrawing, NumberedMarkersShowTheCurvesPositionOrTheMarker)
         for (const WatchedDC::Text& text : canvas.dc.texts)
             EXPECT_EQ(text.text, numbers[i]);
     }
-    WatchedCanvas canvas(kWidth, kHeight);
+    WatchedCanvas canvas(Width, Height);
     graph.m_Curves[3].DrawMarkers(&canvas.dc);
     EXPECT_TRUE(canvas.dc.texts.empty());
 }
@@ -309,7 +309,7 @@ TEST_F(CurveDrawing, AMonoTargetIsBlack)
     CXGraphDataSerie& curve = Add(Line());
     curve.m_crColor = 0x0000FF;
     Paint();
-    Canvas canvas(kWidth, kHeight);
+    Canvas canvas(Width, Height);
     canvas.dc.m_bMono = true;
     curve.Draw(&canvas.dc);
     const TPoint middle = At(5, 5);
@@ -319,7 +319,7 @@ TEST_F(CurveDrawing, AMonoTargetIsBlack)
 TEST_F(CurveBoundsDeathTest, AnAxisThatIsGoneEndsTheProcess)
 {
     Add(Line()).m_nYAxis = 5;
-    EXPECT_EXIT(Paint(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(InvalidParameter), "");
 }
 
 TEST_F(CurveBoundsDeathTest, AFillPartnerThatIsNoneEndsTheProcess)
@@ -328,7 +328,7 @@ TEST_F(CurveBoundsDeathTest, AFillPartnerThatIsNoneEndsTheProcess)
     curve.m_nFillCurve = 1;
     Paint();
     curve.m_bFillBeneath = true;
-    EXPECT_EXIT(Paint(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(InvalidParameter), "");
     curve.m_nFillCurve = 40000; // negative as the signed number that it is read as
-    EXPECT_EXIT(Paint(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(InvalidParameter), "");
 }

@@ -16,7 +16,7 @@ namespace
 class CurvePixels : public GraphTest
 {
 protected:
-    static constexpr COLORREF kFill = 0x30A0F0;
+    static constexpr COLORREF Fill = 0x30A0F0;
 
     CXGraphDataSerie& Add(std::vector<TDataPoint> points)
     {
@@ -82,9 +82,9 @@ protected:
         const CPenSelector none(0, 0, &dc, PS_NULL);
         std::optional<CBrushSelector> brush;
         if (curve.m_nFillStyle == 6)
-            brush.emplace(kFill, &dc);
+            brush.emplace(Fill, &dc);
         else
-            brush.emplace(curve.m_nFillStyle, kFill, &dc);
+            brush.emplace(curve.m_nFillStyle, Fill, &dc);
         dc.SetBkMode(curve.m_bFillTransparent ? TRANSPARENT : OPAQUE);
         if (curve.m_bFillTransparent)
             dc.SetROP2(R2_NOTXORPEN);
@@ -93,16 +93,16 @@ protected:
 
     void ExpectSamePixels(CXGraphDataSerie& curve, const char* pszWhat)
     {
-        curve.m_crFillColor = kFill;
-        Canvas fast(kWidth, kHeight);
-        Canvas plain(kWidth, kHeight);
+        curve.m_crFillColor = Fill;
+        Canvas fast(Width, Height);
+        Canvas plain(Width, Height);
         ClipToPlot(fast.dc);
         ClipToPlot(plain.dc);
         curve.Draw(&fast.dc);
         DrawPlainly(curve, plain.dc);
         int nDifferent = 0;
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x)
+        for (int y = 0; y < Height; ++y) {
+            for (int x = 0; x < Width; ++x)
                 nDifferent += fast.At(x, y) != plain.At(x, y) ? 1 : 0;
         }
         EXPECT_EQ(nDifferent, 0) << pszWhat << " type " << curve.m_nType << " size " << curve.m_nLineSize
@@ -120,7 +120,7 @@ std::vector<TDataPoint> Wave(int nCount, double fNoise)
     return points;
 }
 
-constexpr double kViews[][4] = {
+constexpr double Views[][4] = {
     {0, 10, -1.3, 1.3}, {4, 6, -0.4, 0.5}, {4.9, 4.95, -2, 2}, {-5, 3, 0.2, 3}};
 
 } // namespace
@@ -128,7 +128,7 @@ constexpr double kViews[][4] = {
 TEST_F(CurvePixels, SolidLinesOfAnyWidth)
 {
     CXGraphDataSerie& curve = Add(Wave(3000, 0.2));
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const int nSize : {0, 1, 2, 3, 8, 25}) {
             curve.m_nLineSize = nSize;
@@ -140,7 +140,7 @@ TEST_F(CurvePixels, SolidLinesOfAnyWidth)
 TEST_F(CurvePixels, PatternedLines)
 {
     CXGraphDataSerie& curve = Add(Wave(300, 0.05));
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const UINT nStyle : {PS_DASH, PS_DOT, PS_DASHDOT, PS_DASHDOTDOT, PS_NULL, PS_INSIDEFRAME}) {
             curve.m_nLineStyle = nStyle;
@@ -153,7 +153,7 @@ TEST_F(CurvePixels, Dots)
 {
     CXGraphDataSerie& curve = Add(Wave(400, 0.5));
     curve.m_nType = gtScatter;
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const int nSize : {1, 2, 5, 20}) {
             curve.m_nLineSize = nSize;
@@ -169,7 +169,7 @@ TEST_F(CurvePixels, CurvesInNoOrder)
     for (int i = 0; i < 500; ++i)
         points.push_back({random() % 4000 / 100.0 - 15, random() % 4000 / 1000.0 - 2});
     CXGraphDataSerie& curve = Add(points);
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const int nSize : {1, 6}) {
             curve.m_nLineSize = nSize;
@@ -182,7 +182,7 @@ TEST_F(CurvePixels, FillsToTheBottom)
 {
     CXGraphDataSerie& curve = Add(Wave(3000, 0.1));
     curve.SetFillBeneath(true, 65535);
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const bool bTransparent : {false, true}) {
             curve.m_bFillTransparent = bTransparent;
@@ -203,7 +203,7 @@ TEST_F(CurvePixels, FillsToAPartner)
     Add(shifted);
     CXGraphDataSerie& curve = graph.m_Curves[0];
     curve.SetFillBeneath(true, 1);
-    for (const auto& view : kViews) {
+    for (const auto& view : Views) {
         Show(view[0], view[1], view[2], view[3]);
         for (const bool bTransparent : {false, true}) {
             curve.m_bFillTransparent = bTransparent;
@@ -217,10 +217,10 @@ TEST_F(CurvePixels, APlotTurnedInsideOutShowsTheCurveButRecordsNothing)
     CXGraphDataSerie& curve = Add(Wave(3000, 0.1));
     Show(0, 10, -1.3, 1.3);
     for (const bool bNarrow : {true, false}) {
-        graph.m_nLeftMargin = bNarrow ? kWidth / 2 + 40 : 20;
-        graph.m_nRightMargin = bNarrow ? kWidth / 2 + 30 : 20;
-        graph.m_nTopMargin = bNarrow ? 20 : kHeight / 2 + 40;
-        graph.m_nBottomMargin = bNarrow ? 20 : kHeight / 2 + 30;
+        graph.m_nLeftMargin = bNarrow ? Width / 2 + 40 : 20;
+        graph.m_nRightMargin = bNarrow ? Width / 2 + 30 : 20;
+        graph.m_nTopMargin = bNarrow ? 20 : Height / 2 + 40;
+        graph.m_nBottomMargin = bNarrow ? 20 : Height / 2 + 30;
         Paint();
         EXPECT_LT(bNarrow ? graph.m_rcInner.Width() : graph.m_rcInner.Height(), -50);
         for (const EGraphType type : {gtLine, gtScatter}) {
@@ -229,13 +229,13 @@ TEST_F(CurvePixels, APlotTurnedInsideOutShowsTheCurveButRecordsNothing)
             EXPECT_TRUE(curve.m_Segments.empty());
         }
         curve.m_nType = gtLine;
-        Canvas canvas(kWidth, kHeight);
+        Canvas canvas(Width, Height);
         ClipToPlot(canvas.dc);
         curve.m_crColor = 0x0000FF;
         curve.Draw(&canvas.dc);
         int nDrawn = 0;
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x)
+        for (int y = 0; y < Height; ++y) {
+            for (int x = 0; x < Width; ++x)
                 nDrawn += canvas.At(x, y) == 0x0000FF ? 1 : 0;
         }
         EXPECT_GT(nDrawn, 20);
@@ -275,15 +275,15 @@ TEST_F(CurvePixels, AFillWithItselfIsNothing)
     CXGraphDataSerie& curve = Add(Wave(60, 0.1));
     Show(0, 10, -1.3, 1.3);
     curve.m_nLineStyle = PS_NULL;
-    curve.m_crFillColor = kFill;
+    curve.m_crFillColor = Fill;
     curve.m_bFillTransparent = false;
     curve.SetFillBeneath(true, 0);
-    Canvas canvas(kWidth, kHeight);
+    Canvas canvas(Width, Height);
     curve.Draw(&canvas.dc);
     int nFilled = 0;
-    for (int y = 0; y < kHeight; ++y) {
-        for (int x = 0; x < kWidth; ++x)
-            nFilled += canvas.At(x, y) == kFill ? 1 : 0;
+    for (int y = 0; y < Height; ++y) {
+        for (int x = 0; x < Width; ++x)
+            nFilled += canvas.At(x, y) == Fill ? 1 : 0;
     }
     EXPECT_EQ(nFilled, 0);
 }
@@ -292,11 +292,11 @@ TEST_F(CurvePixels, WithoutTheFlagNothingIsFilled)
 {
     CXGraphDataSerie& curve = Add(Wave(60, 0.1));
     curve.m_nFillStyle = 6;
-    curve.m_crFillColor = kFill;
+    curve.m_crFillColor = Fill;
     curve.m_bFillTransparent = false;
-    EXPECT_EQ(Shoot().Count(kFill), 0);
+    EXPECT_EQ(Shoot().Count(Fill), 0);
     curve.SetFillBeneath(true, 65535);
-    EXPECT_GT(Shoot().Count(kFill), 1000);
+    EXPECT_GT(Shoot().Count(Fill), 1000);
 }
 
 TEST_F(CurvePixels, TheContextIsLeftAsItWas)
@@ -304,7 +304,7 @@ TEST_F(CurvePixels, TheContextIsLeftAsItWas)
     CXGraphDataSerie& curve = Add(Wave(60, 0.1));
     Show(0, 10, -1.3, 1.3);
     curve.SetFillBeneath(true, 65535);
-    Canvas canvas(kWidth, kHeight);
+    Canvas canvas(Width, Height);
     const HGDIOBJ hPen = ::GetCurrentObject(canvas.dc, OBJ_PEN);
     const HGDIOBJ hBrush = ::GetCurrentObject(canvas.dc, OBJ_BRUSH);
     canvas.dc.SetBkMode(TRANSPARENT);

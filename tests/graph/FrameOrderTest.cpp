@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr COLORREF kFill = 0x30C010;
+constexpr COLORREF Fill = 0x30C010;
 
 // Two level curves, at 2 and at 8, in a plot from 0 to 10.
 class FrameOrder : public GraphTest
@@ -39,14 +39,14 @@ protected:
         CRect rect = graph.m_rcInner;
         rect.DeflateRect(10, 5);
         CXGraphLabel* label = graph.InsertLabel(rect, L"");
-        label->m_crFillColor = kFill;
+        label->m_crFillColor = Fill;
         return label;
     }
     void ExpectCovered(const Picture& picture, const CXGraphLabel& label)
     {
         CRect rect = label.m_rcObject;
         rect.DeflateRect(1, 1);
-        EXPECT_EQ(picture.Count(rect, kFill), rect.Width() * rect.Height());
+        EXPECT_EQ(picture.Count(rect, Fill), rect.Width() * rect.Height());
     }
 };
 
@@ -133,6 +133,6 @@ TEST_F(FrameOrder, TheValueOfADraggedPointLiesOnTop)
     const Picture picture = Shoot();
     const CRect place(graph.m_ptCurrent.x + 10, graph.m_ptCurrent.y, graph.m_ptCurrent.x + 60,
                       graph.m_ptCurrent.y + 13);
-    EXPECT_LT(picture.Count(place, kFill), place.Width() * place.Height() - 30);
+    EXPECT_LT(picture.Count(place, Fill), place.Width() * place.Height() - 30);
     EXPECT_TRUE(cover->m_bVisible);
 }

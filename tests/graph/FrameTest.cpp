@@ -12,9 +12,9 @@ protected:
     Frame() { graph.m_bShowLegend = false; }
 };
 
-constexpr COLORREF kBack = 0x102030;
-constexpr COLORREF kArea = 0x405060;
-constexpr COLORREF kInner = 0x708090;
+constexpr COLORREF Back = 0x102030;
+constexpr COLORREF Area = 0x405060;
+constexpr COLORREF InnerColour = 0x708090;
 
 } // namespace
 
@@ -22,17 +22,17 @@ TEST_F(Frame, WithoutAxesItShowsBackgroundAreaAndInnerRectangle)
 {
     const Picture picture = Shoot();
     EXPECT_EQ(graph.m_rcInner, CRect(6, 5, 395, 295));
-    EXPECT_EQ(picture.Count(kInner), 389 * 290);
-    EXPECT_EQ(picture.Count({5, 5, 6, 295}, kArea), 290); // the inner rectangle starts one further right
-    EXPECT_EQ(picture.Count(kArea), 290);
-    EXPECT_EQ(picture.Count(kBack), kWidth * kHeight - 390 * 290);
+    EXPECT_EQ(picture.Count(InnerColour), 389 * 290);
+    EXPECT_EQ(picture.Count({5, 5, 6, 295}, Area), 290); // the inner rectangle starts one further right
+    EXPECT_EQ(picture.Count(Area), 290);
+    EXPECT_EQ(picture.Count(Back), Width * Height - 390 * 290);
 }
 
 TEST_F(Frame, MarginsApplyToAllSides)
 {
     graph.SetGraphMargins(10, 20, 30, 40);
     Paint();
-    EXPECT_EQ(graph.m_rcInner, CRect(11, 20, kWidth - 30, kHeight - 40));
+    EXPECT_EQ(graph.m_rcInner, CRect(11, 20, Width - 30, Height - 40));
 }
 
 TEST_F(Frame, MarginsBeyondTheWindowLeaveItPaintable)
@@ -192,11 +192,11 @@ TEST_F(Frame, TheBufferedRubberBandTintsThePlot)
     const Picture picture = Shoot();
     EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(150, 180, 250, graph.m_rcInner.bottom));
     // Combined by "not xor" with what lies beneath.
-    const COLORREF tinted = ~(0xFF9696u ^ kInner) & 0xFFFFFFu;
+    const COLORREF tinted = ~(0xFF9696u ^ InnerColour) & 0xFFFFFFu;
     EXPECT_EQ(picture.At(200, 200), tinted);
-    EXPECT_EQ(picture.At(100, 200), kInner);
+    EXPECT_EQ(picture.At(100, 200), InnerColour);
     graph.m_bLButtonDown = false;
-    EXPECT_EQ(Shoot().At(200, 200), kInner);
+    EXPECT_EQ(Shoot().At(200, 200), InnerColour);
 }
 
 TEST_F(Frame, TheValueOfADraggedPointStandsBesideThePointer)

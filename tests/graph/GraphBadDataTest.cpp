@@ -21,17 +21,17 @@ protected:
     }
 };
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kDenormal = std::numeric_limits<double>::denorm_min();
-constexpr double kOdd[] = {kNan,    kInfinity, -kInfinity, 1e308,      -1e308,
-                           DBL_MAX, -DBL_MAX,  kDenormal,  -kDenormal, 0.0};
+constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double Denormal = std::numeric_limits<double>::denorm_min();
+constexpr double Odd[] = {Nan,     Infinity, -Infinity, 1e308,     -1e308,
+                          DBL_MAX, -DBL_MAX, Denormal,  -Denormal, 0.0};
 
 } // namespace
 
 TEST_F(GraphBadData, EveryOddValueAloneIsPlotted)
 {
-    for (const double value : kOdd) {
+    for (const double value : Odd) {
         graph.ResetAll();
         Plot({{value, value}});
     }
@@ -39,7 +39,7 @@ TEST_F(GraphBadData, EveryOddValueAloneIsPlotted)
 
 TEST_F(GraphBadData, OddValuesAmongSoundOnesArePlotted)
 {
-    for (const double value : kOdd) {
+    for (const double value : Odd) {
         graph.ResetAll();
         Plot({{0, 0}, {1, value}, {value, 2}, {3, 3}});
     }
@@ -47,8 +47,8 @@ TEST_F(GraphBadData, OddValuesAmongSoundOnesArePlotted)
 
 TEST_F(GraphBadData, PairsOfOddValuesArePlottedWithFillAndMarkers)
 {
-    for (const double first : kOdd) {
-        for (const double second : kOdd) {
+    for (const double first : Odd) {
+        for (const double second : Odd) {
             graph.ResetAll();
             Plot({{first, first}, {second, second}, {1, 2}});
             CXGraphDataSerie* pCurve = graph.GetCurve(0);
@@ -61,8 +61,8 @@ TEST_F(GraphBadData, PairsOfOddValuesArePlottedWithFillAndMarkers)
 
 TEST_F(GraphBadData, OddValuesAsDatesArePlotted)
 {
-    for (const double first : kOdd) {
-        for (const double second : kOdd) {
+    for (const double first : Odd) {
+        for (const double second : Odd) {
             graph.ResetAll();
             auto points = Line();
             graph.SetData(points.data(), 11, 0, 0, 0, true);
@@ -76,8 +76,8 @@ TEST_F(GraphBadData, OddValuesAsDatesArePlotted)
 
 TEST_F(GraphBadData, LogarithmicAxesTakeOddValuesToo)
 {
-    for (const double first : kOdd) {
-        for (const double second : kOdd) {
+    for (const double first : Odd) {
+        for (const double second : Odd) {
             graph.ResetAll();
             Plot({{1, 1}, {2, 100}});
             graph.GetYAxis(0)->m_AxisType = atLog;
@@ -90,7 +90,7 @@ TEST_F(GraphBadData, LogarithmicAxesTakeOddValuesToo)
 TEST_F(GraphBadData, StepsThatLeadNowhereEnd)
 {
     AddLine();
-    for (const double step : {0.0, -1.0, 1e-300, kNan, kInfinity, 1e-17}) {
+    for (const double step : {0.0, -1.0, 1e-300, Nan, Infinity, 1e-17}) {
         for (CXGraphAxis* pAxis : {graph.GetXAxis(0), graph.GetYAxis(0)}) {
             pAxis->m_bAutoScale = false;
             pAxis->m_fCurMin = 0;

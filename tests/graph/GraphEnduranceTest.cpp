@@ -38,7 +38,7 @@ int CountWindows()
     return nCount;
 }
 
-constexpr SIZE_T kMegabyte = 1 << 20;
+constexpr SIZE_T Megabyte = 1 << 20;
 
 } // namespace
 
@@ -56,7 +56,7 @@ TEST_F(GraphEndurance, TwoThousandRepaintsLeaveNothing)
         Paint();
     EXPECT_EQ(GdiCount::All(), nObjects);
     EXPECT_EQ(CountWindows(), nWindows);
-    EXPECT_LT(PrivateBytes(), nBytes + kMegabyte);
+    EXPECT_LT(PrivateBytes(), nBytes + Megabyte);
 }
 
 TEST_F(GraphEndurance, FiveHundredReplacedCurvesLeaveNothing)
@@ -76,7 +76,7 @@ TEST_F(GraphEndurance, FiveHundredReplacedCurvesLeaveNothing)
     for (int i = 0; i < 500; ++i)
         replace();
     EXPECT_EQ(GdiCount::All(), nObjects);
-    EXPECT_LT(PrivateBytes(), nBytes + 4 * kMegabyte);
+    EXPECT_LT(PrivateBytes(), nBytes + 4 * Megabyte);
 }
 
 TEST_F(GraphEndurance, FiveHundredResizesLeaveNothing)
@@ -93,7 +93,7 @@ TEST_F(GraphEndurance, FiveHundredResizesLeaveNothing)
     for (int i = 0; i < 500; ++i)
         resize(i);
     EXPECT_EQ(GdiCount::All(), nObjects);
-    EXPECT_LT(PrivateBytes(), nBytes + 2 * kMegabyte);
+    EXPECT_LT(PrivateBytes(), nBytes + 2 * Megabyte);
 }
 
 TEST_F(GraphEndurance, AHundredGraphsComeAndGo)
@@ -127,5 +127,5 @@ TEST_F(GraphEndurance, APrivateCopyIsFreedWithTheCurve)
     const SIZE_T nBytes = PrivateBytes();
     for (int i = 0; i < 100; ++i)
         cycle();
-    EXPECT_LT(PrivateBytes(), nBytes + 4 * kMegabyte);
+    EXPECT_LT(PrivateBytes(), nBytes + 4 * Megabyte);
 }

@@ -25,12 +25,12 @@ inline void PrintTo(const CRect& rect, std::ostream* stream)
 class GraphTest : public testing::Test
 {
 protected:
-    static constexpr int kWidth = 400;
-    static constexpr int kHeight = 300;
+    static constexpr int Width = 400;
+    static constexpr int Height = 300;
 
     GraphTest() : graph(*new CXGraph)
     {
-        graph.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight),
+        graph.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, Width, Height),
                      CWnd::FromHandle(host.m_hWnd), 7);
         graph.m_crBackColor = 0x102030;
         graph.m_crGraphColor = 0x405060;

@@ -163,7 +163,7 @@ TEST_F(InteractionDetail, APanOfALogAxisMovesByADifferenceOfValues)
 
 TEST_F(InteractionDetail, TrendsTakeTheNextColoursAndResetTheRangesToWhatTheySpan)
 {
-    constexpr COLORREF kNext[] = {0x0000FF, 0x008080}; // of the table of twelve
+    constexpr COLORREF next[] = {0x0000FF, 0x008080}; // of the table of twelve
     CXGraphAxis& xAxis = graph.m_XAxes[0];
     graph.m_nSelectedCurve = 0;
     for (const UINT nCommand : {40009u, 40010u}) {
@@ -172,7 +172,7 @@ TEST_F(InteractionDetail, TrendsTakeTheNextColoursAndResetTheRangesToWhatTheySpa
         Clean();
         ::SendMessageW(graph.m_hWnd, WM_COMMAND, nCommand, 0);
         const CXGraphDataSerie& trend = graph.m_Curves.back();
-        EXPECT_EQ(trend.m_crColor, kNext[nCommand - 40009]);
+        EXPECT_EQ(trend.m_crColor, next[nCommand - 40009]);
         EXPECT_EQ(trend.m_nCount, 11);
         EXPECT_TRUE(trend.m_bAutoDelete);
         ExpectRange(xAxis, 0, 10);

@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr unsigned kInvalidParameter = 0xC0000417;
+constexpr unsigned InvalidParameter = 0xC0000417;
 
 class InteractionState : public GraphTest
 {
@@ -241,14 +241,14 @@ TEST_F(InteractionState, ADragOfMarkersEndsWhereAnAxisHasFewer)
         DragTo(At(2, 9));
         DragTo(At(2, 8));
     };
-    EXPECT_EXIT(drag(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(drag(), testing::ExitedWithCode(InvalidParameter), "");
 }
 
 TEST_F(InteractionState, TrendCommandsWithoutASelectedCurveEndTheProcess)
 {
     ASSERT_EQ(graph.m_nSelectedCurve, -1);
-    EXPECT_EXIT(Send(40009), testing::ExitedWithCode(kInvalidParameter), "");
-    EXPECT_EXIT(Send(40010), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Send(40009), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(Send(40010), testing::ExitedWithCode(InvalidParameter), "");
 }
 
 TEST_F(InteractionState, APlainClickInTheMeasuresStateStoresASpan)

@@ -33,7 +33,7 @@ protected:
         for (int i = 0; i < 3; ++i)
             graph.SetData(m_points.data(), static_cast<long>(m_points.size()), i, i % 2, i % 2, i != 1);
         graph.m_Curves[2].m_bFillBeneath = true;
-        graph.m_Curves[2].m_nFillCurve = CXGraphDataSerie::kFillToBottom;
+        graph.m_Curves[2].m_nFillCurve = CXGraphDataSerie::FillToBottom;
     }
     template <class Value> Value OneOf(std::initializer_list<Value> values)
     {

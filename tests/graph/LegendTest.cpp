@@ -159,7 +159,7 @@ TEST_F(Legend, ItLiesOutsideTheGraphArea)
     const Picture picture = Shoot();
     const CRect rcRow = graph.m_LegendEntries[0].rcRow;
     EXPECT_EQ(picture.At(rcRow.left - 3, rcRow.top), 0x102030u);
-    EXPECT_EQ(picture.At(rcRow.left, kHeight - 20), 0x102030u);
+    EXPECT_EQ(picture.At(rcRow.left, Height - 20), 0x102030u);
 }
 
 TEST_F(Legend, LabelsAreTextAndNeverFormats)
@@ -174,20 +174,20 @@ TEST_F(Legend, OnAMonochromeTargetBoxAndRowsAreWhiteAndKeysBlack)
     AddThree();
     graph.m_Curves[1].m_nMarkerType = 1; // a square for its key
     Paint();
-    constexpr int kSide = 200;
+    constexpr int side = 200;
     const HDC hDC = ::CreateCompatibleDC(nullptr);
     BITMAPINFO info = {};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), kSide, -kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     void* pBits = nullptr;
     const HBITMAP hBitmap = ::CreateDIBSection(hDC, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
     const HGDIOBJ hOld = ::SelectObject(hDC, hBitmap);
-    ::PatBlt(hDC, 0, 0, kSide, kSide, BLACKNESS);
+    ::PatBlt(hDC, 0, 0, side, side, BLACKNESS);
     {
         CDCEx dc;
         dc.Attach(hDC);
         dc.NeedScale(); // which finds out of itself
         dc.m_bMono = true;
-        CRect rc(0, 0, kSide, kSide);
+        CRect rc(0, 0, side, side);
         graph.DrawLegend(&dc, rc);
         dc.Detach();
     }

@@ -7,9 +7,9 @@
 namespace
 {
 
-constexpr int kInvalidParameter = static_cast<int>(0xC0000417);
-constexpr COLORREF kRed = 0x0000FF;
-constexpr COLORREF kGuide = 0xC8C8C8;
+constexpr int InvalidParameter = static_cast<int>(0xC0000417);
+constexpr COLORREF Red = 0x0000FF;
+constexpr COLORREF Guide = 0xC8C8C8;
 
 using GraphMeasureDeathTest = GraphMeasure;
 using Corners = std::vector<CPoint>;
@@ -130,8 +130,8 @@ TEST_F(GraphMeasure, ASpanNarrowerThanItsTextShowsTheLinesAlone)
     const Picture picture = Shoot();
     const CRect plot = graph.m_rcInner;
     const int nTop = Row(8);
-    EXPECT_GT(picture.Count({plot.left, nTop, plot.right, nTop + 1}, kGuide), plot.Width() / 4);
-    EXPECT_GT(picture.Count({Column(5.2), nTop, Column(5.2) + 1, Row(2)}, kRed), 10);
+    EXPECT_GT(picture.Count({plot.left, nTop, plot.right, nTop + 1}, Guide), plot.Width() / 4);
+    EXPECT_GT(picture.Count({Column(5.2), nTop, Column(5.2) + 1, Row(2)}, Red), 10);
     EXPECT_EQ(Texts(L'y').size(), 1u);
 }
 
@@ -175,7 +175,7 @@ TEST_F(GraphMeasure, TheLiveSpanIsDrawnWhileTheButtonIsHeld)
     Press(Column(2) + 1, Row(8));
     Drag(Column(6), Row(2));
     const Picture live = Shoot();
-    EXPECT_GT(live.Count(kRed), 100);
+    EXPECT_GT(live.Count(Red), 100);
     EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(Column(2) + 1, Row(8), Column(6), Row(2)));
     EXPECT_EQ(Texts(L'y'), std::vector<std::wstring>{L"y6.000 unit"});
     Drag(graph.m_rcInner.right + 50, Row(2));
@@ -190,10 +190,10 @@ TEST_F(GraphMeasure, WithoutABufferTheLiveSpanIsDrawnAtOnce)
     Paint();
     Press(Column(2) + 1, Row(8));
     ::ValidateRect(graph.m_hWnd, nullptr);
-    const int nBefore = Picture(graph.m_hWnd).Count(kRed);
+    const int nBefore = Picture(graph.m_hWnd).Count(Red);
     Drag(Column(6), Row(2));
     EXPECT_FALSE(::GetUpdateRect(graph.m_hWnd, nullptr, FALSE));
-    EXPECT_GT(Picture(graph.m_hWnd).Count(kRed), nBefore + 100);
+    EXPECT_GT(Picture(graph.m_hWnd).Count(Red), nBefore + 100);
 }
 
 TEST_F(GraphMeasure, ASpanOfAShortenedCurveEndsAtItsLastPoint)
@@ -229,15 +229,15 @@ TEST_F(GraphMeasure, HostileFormatsAndLongTextsAreDrawnOrClipped)
     graph.GetYAxis(0)->m_cLabel = CString(std::wstring(100000, L'W').c_str());
     Paint(); // the axis's title leaves no plot
     graph.GetYAxis(0)->m_bVisible = false;
-    EXPECT_GT(Shoot().Count(kRed), 20); // the arrows show beside it
+    EXPECT_GT(Shoot().Count(Red), 20); // the arrows show beside it
 }
 
 TEST_F(GraphMeasureDeathTest, SpansThatNameNoCurveEndTheProcess)
 {
     Store(1, 20, 0, 70);
     graph.m_nCursorCurve = -1; // as the cursor's mode leaves it
-    EXPECT_EXIT(Paint(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(InvalidParameter), "");
     graph.m_nCursorCurve = 0;
     graph.DeleteCurve(1);
-    EXPECT_EXIT(Paint(), testing::ExitedWithCode(kInvalidParameter), "");
+    EXPECT_EXIT(Paint(), testing::ExitedWithCode(InvalidParameter), "");
 }

@@ -65,7 +65,7 @@ TEST_F(Notation, ItsTextIsCentredInTwelvePixelArial)
 {
     CXGraphDataNotation& note = Insert(5);
     note.m_cText = L"!note";
-    WatchedCanvas canvas(kWidth, kHeight);
+    WatchedCanvas canvas(Width, Height);
     note.Draw(&canvas.dc);
     ASSERT_EQ(canvas.dc.texts.size(), 1u);
     const WatchedDC::Text& text = canvas.dc.texts[0];

@@ -25,8 +25,8 @@ protected:
     CXGraphBitmap* picture;
 };
 
-constexpr COLORREF kRed = 0x0000FF;
-constexpr COLORREF kBlue = 0xFF0000;
+constexpr COLORREF Red = 0x0000FF;
+constexpr COLORREF Blue = 0xFF0000;
 
 // A canvas in memory that scales by two.
 class ScaledCanvas
@@ -69,22 +69,22 @@ TEST_F(PictureObject, ItIsStretchedInsideABlackBorder)
 {
     const Picture shot = Shoot();
     EXPECT_EQ(shot.Count(picture->m_rcObject, 0x000000), 102 * 102 - 100 * 100);
-    EXPECT_EQ(shot.Count({101, 51, 151, 151}, kRed), 50 * 100);
-    EXPECT_EQ(shot.Count({151, 51, 201, 151}, kBlue), 50 * 100);
+    EXPECT_EQ(shot.Count({101, 51, 151, 151}, Red), 50 * 100);
+    EXPECT_EQ(shot.Count({151, 51, 201, 151}, Blue), 50 * 100);
 }
 
 TEST_F(PictureObject, WithoutABorderItFillsItsRectangle)
 {
     picture->m_bBorder = false;
     const Picture shot = Shoot();
-    EXPECT_EQ(shot.Count({100, 50, 151, 152}, kRed), 51 * 102);
-    EXPECT_EQ(shot.Count({151, 50, 202, 152}, kBlue), 51 * 102);
+    EXPECT_EQ(shot.Count({100, 50, 151, 152}, Red), 51 * 102);
+    EXPECT_EQ(shot.Count({151, 50, 202, 152}, Blue), 51 * 102);
 }
 
 TEST_F(PictureObject, AHiddenOneIsNotDrawn)
 {
     picture->m_bVisible = false;
-    EXPECT_EQ(Shoot().Count(kRed), 0);
+    EXPECT_EQ(Shoot().Count(Red), 0);
 }
 
 TEST_F(PictureObject, OneWithoutABitmapIsItsFrameAlone)
@@ -94,7 +94,7 @@ TEST_F(PictureObject, OneWithoutABitmapIsItsFrameAlone)
     graph.m_Objects.AddTail(frame);
     const Picture shot = Shoot();
     EXPECT_EQ(shot.Count(frame->m_rcObject, 0x000000), 40 * 40 - 38 * 38);
-    EXPECT_EQ(shot.Count(frame->m_rcObject, kRed), 0);
+    EXPECT_EQ(shot.Count(frame->m_rcObject, Red), 0);
 }
 
 TEST_F(PictureObject, ItsTrackerIsDrawnAroundItWhileItIsSized)
@@ -104,7 +104,7 @@ TEST_F(PictureObject, ItsTrackerIsDrawnAroundItWhileItIsSized)
     const Picture sized = Shoot();
     EXPECT_EQ(sized.At(98, 48), 0x000000u); // a handle outside the corner
     EXPECT_NE(loose.At(98, 48), 0x000000u);
-    EXPECT_EQ(sized.Count({110, 60, 150, 140}, kRed), loose.Count({110, 60, 150, 140}, kRed));
+    EXPECT_EQ(sized.Count({110, 60, 150, 140}, Red), loose.Count({110, 60, 150, 140}, Red));
 }
 
 TEST_F(PictureObject, AClickSelectsItAndADragMovesIt)
@@ -124,8 +124,8 @@ TEST_F(PictureObject, OnAScalingCanvasPictureAndTrackerScale)
     picture->m_rcObject = CRect(10, 10, 62, 62);
     picture->BeginSize();
     picture->Draw(&canvas.m_dc);
-    EXPECT_EQ(canvas.At(60, 60), kRed);
-    EXPECT_EQ(canvas.At(100, 60), kBlue);
+    EXPECT_EQ(canvas.At(60, 60), Red);
+    EXPECT_EQ(canvas.At(100, 60), Blue);
     EXPECT_EQ(canvas.At(20, 60), 0x000000u); // the border
     EXPECT_EQ(canvas.At(18, 18), 0x000000u); // a handle at the scaled corner
     EXPECT_EQ(picture->m_Tracker.m_rect, CRect(10, 10, 62, 62));

@@ -94,7 +94,7 @@ private:
 class Page
 {
 public:
-    static constexpr float kScale = 2.0f;
+    static constexpr float Scale = 2.0f;
 
     Page()
     {
@@ -108,7 +108,7 @@ public:
         std::fill_n(m_pixels, m_size.cx * m_size.cy, 0xFFFFFF);
         ::SelectObject(hDC, m_hBitmap);
         canvas.Attach(hDC);
-        canvas.m_fScaleX = canvas.m_fScaleY = kScale;
+        canvas.m_fScaleX = canvas.m_fScaleY = Scale;
         canvas.m_bScaleReady = true;
     }
     Page(const Page&) = delete;

@@ -92,8 +92,8 @@ protected:
 
     void ExpectSamePixels(CXGraphAxis& axis, const char* pszWhat)
     {
-        WatchedCanvas fast(kWidth, kHeight);
-        WatchedCanvas plain(kWidth, kHeight);
+        WatchedCanvas fast(Width, Height);
+        WatchedCanvas plain(Width, Height);
         axis.Draw(&fast.dc);
         DrawPlainly(axis, plain.dc);
         EXPECT_TRUE(fast.Pixels() == plain.Pixels()) << pszWhat << " by " << axis.m_fStep;
@@ -103,7 +103,7 @@ protected:
     // The number of labels that a drawing of the axis puts on the canvas.
     std::size_t LabelsOf(CXGraphAxis& axis)
     {
-        WatchedCanvas canvas(kWidth, kHeight);
+        WatchedCanvas canvas(Width, Height);
         axis.Draw(&canvas.dc);
         return canvas.dc.texts.size();
     }
@@ -175,7 +175,7 @@ TEST_F(TickLabels, OfAHundredThousandOnlyThoseThatShowAreDrawn)
     for (CXGraphAxis* pAxis : {&X(), &Y()}) {
         pAxis->m_cDisplayFmt = L"%.3f";
         pAxis->m_fStep = 1e-4;
-        const auto pixels = static_cast<std::size_t>(std::max(kWidth, kHeight));
+        const auto pixels = static_cast<std::size_t>(std::max(Width, Height));
         EXPECT_LE(LabelsOf(*pAxis), 2 * pixels);
         pAxis->m_cDisplayFmt = CString(L"%.3f") + CString(L'x', 3000);
         EXPECT_LE(LabelsOf(*pAxis), 2 * pixels);
@@ -185,7 +185,7 @@ TEST_F(TickLabels, OfAHundredThousandOnlyThoseThatShowAreDrawn)
 TEST_F(TickLabels, TextsAreCutBeyondWhatAnyScreenShows)
 {
     X().m_cDisplayFmt = CString(L"%.0f") + CString(L'x', 3000);
-    WatchedCanvas canvas(kWidth, kHeight);
+    WatchedCanvas canvas(Width, Height);
     X().Draw(&canvas.dc);
     ASSERT_FALSE(canvas.dc.texts.empty());
     EXPECT_EQ(canvas.dc.texts[0].text, L"0" + std::wstring(1023, L'x'));
@@ -212,7 +212,7 @@ TEST_F(TickLabels, OneThatLiesOffTheCanvasIsNotDrawn)
 
 TEST_F(TickLabels, AHundredThousandOffTheCanvasCostLessThanAHundredOnIt)
 {
-    WatchedCanvas canvas(kWidth, kHeight);
+    WatchedCanvas canvas(Width, Height);
     Y().m_cDisplayFmt = L"%.3f";
     const auto frames = [&](int nCount) {
         return Milliseconds([&] {
@@ -233,7 +233,7 @@ TEST_F(TickLabels, AHundredThousandOffTheCanvasCostLessThanAHundredOnIt)
 
 TEST_F(TickLabels, OnAPageTheyAreMeasuredUnscaled)
 {
-    WatchedCanvas canvas(kWidth, kHeight);
+    WatchedCanvas canvas(Width, Height);
     canvas.dc.m_bScaleReady = canvas.dc.m_bScaling = true;
     canvas.dc.m_fScaleX = canvas.dc.m_fScaleY = 2.0f;
     X().m_cDisplayFmt = L"%.1f";

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr RECT place = {10, 10, 510, 360};
+constexpr RECT Place = {10, 10, 510, 360};
 
 std::wstring ScratchFile(const wchar_t* pszEnding)
 {
@@ -296,7 +296,7 @@ void OddWindows(Watch& watch)
 void Scripts::Calls(Watch& watch)
 {
     watch.Begin("calls", true);
-    Graph& graph = watch.Add(place);
+    Graph& graph = watch.Add(Place);
     watch.Step("empty", [&] { graph.Frame(); });
     watch.Step("plotted", [&] { Fill(graph); });
     AxisLooks(watch, graph);

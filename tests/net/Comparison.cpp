@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr int mostPrinted = 12;
+constexpr int MostPrinted = 12;
 
 std::optional<std::vector<std::string>> ReadLines(const std::wstring& path)
 {
@@ -46,7 +46,7 @@ int Comparison::Print(const std::wstring& before, const std::wstring& after)
     for (std::size_t i = 0; i < std::max(old->size(), now->size()); ++i) {
         if (LineAt(*old, i).starts_with("step "))
             step = LineAt(*old, i);
-        if (LineAt(*old, i) == LineAt(*now, i) || ++nDifferences > mostPrinted)
+        if (LineAt(*old, i) == LineAt(*now, i) || ++nDifferences > MostPrinted)
             continue;
         if (step != std::exchange(printedStep, step))
             std::printf("%s\n", step.c_str());

@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr int mostFrames = 5;
+constexpr int MostFrames = 5;
 
 void RunGraph(const Server& server, const HostWindow& host, Report& report, const Frames::TPlan& plan,
               int nGraph)
@@ -12,7 +12,7 @@ void RunGraph(const Server& server, const HostWindow& host, Report& report, cons
     Random random(plan.seed, static_cast<std::uint64_t>(nGraph));
     RandomGraph graph(server, host, random, plan.bBare);
     report.Step("graph " + std::to_string(nGraph));
-    for (int nFrame = 0; nFrame < mostFrames; ++nFrame) {
+    for (int nFrame = 0; nFrame < MostFrames; ++nFrame) {
         graph.Change();
         report.Line("frame %d %016llx, values %016llx", nFrame,
                     static_cast<unsigned long long>(graph.PictureSum()),

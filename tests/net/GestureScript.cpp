@@ -10,8 +10,8 @@ struct TLook {
     bool bBare; // neither axes nor legend are shown, so that no font decides the layout
 };
 
-constexpr RECT place = {20, 10, 520, 360};
-constexpr double middleOfData = 0.5;
+constexpr RECT Place = {20, 10, 520, 360};
+constexpr double MiddleOfData = 0.5;
 
 void ShowScale(ISGraphAxis* pAxis, const TLook& look, bool bX)
 {
@@ -83,13 +83,13 @@ void Clicks(Watch& watch, Graph& graph, const TLook& look)
     watch.Step("click on a y axis", [&] { graph.Click(Graph::Middle(y)); });
     watch.Step("a click after it sets a marker", [&] { graph.Click(empty); });
     watch.Step("double click on a y axis", [&] { graph.DoubleClick(Graph::Middle(y)); });
-    watch.Step("click in the legend", [&] { graph.Click({place.right - place.left - 30, 24}); });
+    watch.Step("click in the legend", [&] { graph.Click({Place.right - Place.left - 30, 24}); });
 }
 
 void Markers(Watch& watch, Graph& graph, const TLook& look)
 {
     const POINT middle = Graph::Middle(graph.Inner());
-    const double x = Data::XAt(look.scale, middleOfData);
+    const double x = Data::XAt(look.scale, MiddleOfData);
     watch.Step("markers on all axes", [&] {
         graph.XAxis()->SetAxisMarker(0, x, 0x0000FF, PS_DOT);
         graph.YAxis(0)->SetAxisMarker(0, 30, 0x00C000, PS_SOLID);
@@ -319,7 +319,7 @@ void Notes(Watch& watch, Graph& graph, const TLook& look)
 void Run(Watch& watch, const TLook& look)
 {
     watch.Begin(look.name, !look.bBare);
-    Graph& graph = watch.Add(place);
+    Graph& graph = watch.Add(Place);
     watch.Step("plotted", [&] { Fill(graph, look); });
     Clicks(watch, graph, look);
     Markers(watch, graph, look);

@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr UINT controlId = 7;
+constexpr UINT ControlId = 7;
 
 // The pixel whose value is nearest, on an axis of any scale. nFirst has the smaller value.
 int PixelOf(ISGraphAxis* pAxis, double value, int nFirst, int nLast)
@@ -29,8 +29,8 @@ Graph::Graph(const Server& server, const HostWindow& host, const RECT& place)
     : m_graph(server.Make<SGraph, ISGraph>())
 {
     RECT rect = place;
-    m_graph->Create(nullptr, &rect, host.Wire(), controlId);
-    m_graph->SetInnerColor(innerColor);
+    m_graph->Create(nullptr, &rect, host.Wire(), ControlId);
+    m_graph->SetInnerColor(InnerColor);
     (void)host.TakePosted();
     Send(Command::passOn);
     const std::vector<MSG> posted = host.TakePosted();
@@ -193,7 +193,7 @@ void Graph::Send(WPARAM nCommand) const
 RECT Graph::Inner() const
 {
     Frame();
-    return Screen(Window()).Bounds(innerColor);
+    return Screen(Window()).Bounds(InnerColor);
 }
 
 POINT Graph::At(double x, double y, int nXAxis, int nYAxis) const

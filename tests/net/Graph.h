@@ -30,7 +30,7 @@ enum : WPARAM {
 class Graph
 {
 public:
-    static constexpr COLORREF innerColor = 0x40E0F0; // nothing else in a frame has it
+    static constexpr COLORREF InnerColor = 0x40E0F0; // nothing else in a frame has it
 
     Graph(const Server& server, const HostWindow& host, const RECT& place);
 

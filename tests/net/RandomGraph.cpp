@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr int mostCurves = 8;
+constexpr int MostCurves = 8;
 
 RECT RandomPlace(Random& random)
 {
@@ -68,7 +68,7 @@ std::vector<TDataPoint> RandomGraph::Points()
 void RandomGraph::AddCurve()
 {
     const int nCurve = m_graph.CurveCount();
-    if (nCurve >= mostCurves)
+    if (nCurve >= MostCurves)
         return;
     const int nXAxis = m_random.Int(0, std::min(m_graph.XAxisCount(), 2));
     const int nYAxis = m_random.Int(0, std::min(m_graph.YAxisCount(), 3));

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr unsigned int everything = PERSIST_PROPERTIES | PERSIST_DATA | PERSIST_OBJECTS;
+constexpr unsigned int Everything = PERSIST_PROPERTIES | PERSIST_DATA | PERSIST_OBJECTS;
 
 std::wstring ScratchFile()
 {
@@ -19,7 +19,7 @@ std::wstring ScratchFile()
 SavedBytes::SavedBytes(const Graph& graph)
 {
     const std::wstring path = ScratchFile();
-    graph->Save(Text(path), everything);
+    graph->Save(Text(path), Everything);
     if (std::FILE* pFile = ::_wfopen(path.c_str(), L"rb")) {
         unsigned char block[4096];
         while (const std::size_t nRead = std::fread(block, 1, sizeof block, pFile))

@@ -9,18 +9,18 @@ using PieElements = PieWindow;
 
 namespace
 {
-constexpr double infinite = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double largest = std::numeric_limits<double>::max();
+constexpr double Infinite = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double Largest = std::numeric_limits<double>::max();
 } // namespace
 
 TEST_F(PieElements, InsertionRefusesEmptyAndRepeatedNamesAndValuesThatAreNotAboveZero)
 {
     Fill({2});
-    EXPECT_EQ(pie.InsertItem(L"", L"x", 1, kRed), nullptr);
-    EXPECT_EQ(pie.InsertItem(L"e0", L"a longer label", 1, kRed), nullptr);
-    for (const double value : {0.0, -1.0, notANumber, infinite, -infinite}) {
-        EXPECT_EQ(pie.InsertItem(L"new", L"a longer label", value, kRed), nullptr) << value;
+    EXPECT_EQ(pie.InsertItem(L"", L"x", 1, Red), nullptr);
+    EXPECT_EQ(pie.InsertItem(L"e0", L"a longer label", 1, Red), nullptr);
+    for (const double value : {0.0, -1.0, NotANumber, Infinite, -Infinite}) {
+        EXPECT_EQ(pie.InsertItem(L"new", L"a longer label", value, Red), nullptr) << value;
     }
     EXPECT_EQ(pie.m_nElements, 1);
     EXPECT_EQ(pie.m_dTotal, 2);
@@ -30,8 +30,8 @@ TEST_F(PieElements, InsertionRefusesEmptyAndRepeatedNamesAndValuesThatAreNotAbov
 
 TEST_F(PieElements, NamesDifferByCase)
 {
-    EXPECT_NE(pie.InsertItem(L"name", L"", 1, kRed), nullptr);
-    EXPECT_NE(pie.InsertItem(L"Name", L"", 1, kRed), nullptr);
+    EXPECT_NE(pie.InsertItem(L"name", L"", 1, Red), nullptr);
+    EXPECT_NE(pie.InsertItem(L"Name", L"", 1, Red), nullptr);
     EXPECT_EQ(pie.GetElementID(L"Name"), 1);
     EXPECT_EQ(pie.GetElementID(L"NAME"), -1);
     EXPECT_EQ(pie.GetPieChartItem(L"NAME"), nullptr);
@@ -39,10 +39,10 @@ TEST_F(PieElements, NamesDifferByCase)
 
 TEST_F(PieElements, HugeValuesAreTakenWhileTheTotalStaysFinite)
 {
-    ASSERT_NE(pie.InsertItem(L"a", L"", largest, kRed), nullptr);
-    EXPECT_EQ(pie.InsertItem(L"b", L"", largest, kRed), nullptr);
-    ASSERT_NE(pie.InsertItem(L"c", L"", 1, kRed), nullptr);
-    EXPECT_EQ(pie.m_dTotal, largest);
+    ASSERT_NE(pie.InsertItem(L"a", L"", Largest, Red), nullptr);
+    EXPECT_EQ(pie.InsertItem(L"b", L"", Largest, Red), nullptr);
+    ASSERT_NE(pie.InsertItem(L"c", L"", 1, Red), nullptr);
+    EXPECT_EQ(pie.m_dTotal, Largest);
 }
 
 TEST_F(PieElements, TheTotalLosesAndGainsValuesAndIsNotSummedAfresh)
@@ -54,20 +54,20 @@ TEST_F(PieElements, TheTotalLosesAndGainsValuesAndIsNotSummedAfresh)
     EXPECT_EQ(pie.RemoveItem(L"e0"), 1);
     EXPECT_EQ(pie.m_dTotal, 0);                                   // a sum of what is left would be 1
     EXPECT_EQ(Element(0).fPercent, static_cast<float>(1 / 2e17)); // no total, no new shares
-    pie.InsertItem(L"new", L"", 3, kRed);
+    pie.InsertItem(L"new", L"", 3, Red);
     EXPECT_EQ(pie.m_dTotal, 3);
 }
 
 // A decision of ours: a sum that leaves the range of numbers is refused everywhere.
 TEST_F(PieElements, ARemovalThatWouldLeaveNoFiniteTotalIsRefused)
 {
-    Fill({largest});
-    EXPECT_EQ(pie.UpdateItemValue(&Element(0), -largest), 1);
-    Fill({largest, largest});
-    EXPECT_EQ(pie.m_dTotal, largest);
+    Fill({Largest});
+    EXPECT_EQ(pie.UpdateItemValue(&Element(0), -Largest), 1);
+    Fill({Largest, Largest});
+    EXPECT_EQ(pie.m_dTotal, Largest);
     EXPECT_EQ(pie.RemoveItem(L"e0"), 0);
     EXPECT_EQ(pie.m_nElements, 3);
-    EXPECT_EQ(pie.m_dTotal, largest);
+    EXPECT_EQ(pie.m_dTotal, Largest);
     EXPECT_EQ(Order(), L"e0 e1 e2");
 }
 
@@ -98,8 +98,8 @@ TEST_F(PieElements, AnInsertedElementHasItsColorsAmountsAndOrder)
 
 TEST_F(PieElements, TheLongestLabelIsTheFirstOfEquals)
 {
-    pie.InsertItem(L"a", L"four", 1, kRed);
-    pie.InsertItem(L"b", L"also", 1, kRed);
+    pie.InsertItem(L"a", L"four", 1, Red);
+    pie.InsertItem(L"b", L"also", 1, Red);
     EXPECT_EQ(pie.m_strLongestLabel, L"four");
     pie.UpdateItemLabel(pie.GetPieChartItem(L"a"), L"x");
     EXPECT_EQ(pie.m_strLongestLabel, L"also");
@@ -112,7 +112,7 @@ TEST_F(PieElements, UpdatingAValueToZeroKeepsTheOldOne)
     Fill({1, 3});
     EXPECT_EQ(pie.UpdateItemValue(&Element(0), 0.0), 0);
     EXPECT_EQ(Element(0).dValue, 1);
-    for (const double value : {notANumber, infinite, largest * 2}) {
+    for (const double value : {NotANumber, Infinite, Largest * 2}) {
         EXPECT_EQ(pie.UpdateItemValue(&Element(0), value), 0) << value;
     }
     EXPECT_EQ(pie.m_dTotal, 4);
@@ -144,7 +144,7 @@ TEST_F(PieElements, NullItemsAreRefused)
 {
     EXPECT_EQ(pie.UpdateItemLabel(nullptr, L"x"), 0);
     EXPECT_EQ(pie.UpdateItemValue(nullptr, 1), 0);
-    EXPECT_EQ(pie.UpdateItemColor(nullptr, kRed), 0);
+    EXPECT_EQ(pie.UpdateItemColor(nullptr, Red), 0);
     EXPECT_EQ(pie.SetPieElementGradientLight(nullptr, 1), 0);
     EXPECT_EQ(pie.SetPieElementGradientDark(nullptr, 1), 0);
     EXPECT_EQ(pie.GetElementGrLight(nullptr), -1.0f);
@@ -212,7 +212,7 @@ TEST_F(PieElements, AnInsertionAfterARemovalMayRepeatANumber)
 {
     Fill({1, 2});
     pie.RemoveItem(L"e0");
-    pie.InsertItem(L"new", L"", 1, kRed);
+    pie.InsertItem(L"new", L"", 1, Red);
     EXPECT_EQ(pie.GetElementID(L"e1"), 1);
     EXPECT_EQ(pie.GetElementID(L"new"), 1);
     pie.SortToOrginalOrder();
@@ -257,7 +257,7 @@ TEST_F(PieElements, EveryChangeButTheNamedOnesAsksForAPaint)
     };
     EXPECT_TRUE(repaints([&] { pie.UpdateItemLabel(&Element(0), L"x"); }));
     EXPECT_TRUE(repaints([&] { pie.UpdateItemValue(&Element(0), 5); }));
-    EXPECT_TRUE(repaints([&] { pie.UpdateItemColor(&Element(0), kBlue); }));
+    EXPECT_TRUE(repaints([&] { pie.UpdateItemColor(&Element(0), Blue); }));
     EXPECT_TRUE(repaints([&] { pie.SetPieElementGradientLightAll(1); }));
     EXPECT_TRUE(repaints([&] { pie.SetPieElementGradientDarkAll(1); }));
     EXPECT_TRUE(repaints([&] { pie.sortPiechartElements(1); }));
@@ -265,7 +265,7 @@ TEST_F(PieElements, EveryChangeButTheNamedOnesAsksForAPaint)
     EXPECT_TRUE(repaints([&] { pie.RemoveItem(L"e0"); }));
     EXPECT_TRUE(repaints([&] { Click(1, 1); }));
     EXPECT_FALSE(repaints([&] { pie.UpdateItemValue(&Element(0), 0); }));
-    EXPECT_FALSE(repaints([&] { pie.InsertItem(L"", L"", 1, kRed); }));
+    EXPECT_FALSE(repaints([&] { pie.InsertItem(L"", L"", 1, Red); }));
     EXPECT_FALSE(repaints([&] { pie.SetParentWindowColor(0); }));
     EXPECT_FALSE(repaints([&] { pie.RemoveAllItem(); }));
 }

@@ -46,7 +46,7 @@ protected:
         CPieChartWnd wnd;
         Make(wnd, 400, 300);
         for (int i = 0; i < elements; ++i) {
-            wnd.InsertItem(Name(i), L"label", 1 + i, kRed);
+            wnd.InsertItem(Name(i), L"label", 1 + i, Red);
         }
         wnd.SetInclineAngle(50);
         for (const int style : {0, 1, 2}) {
@@ -149,7 +149,7 @@ TEST_F(PieEndurance, EachWindowHoldsOneStartOfGdiPlus)
     Fill({1}); // the other's end is not this one's
     EXPECT_TRUE(Element(0).pPath);
     Plain();
-    EXPECT_EQ(Shoot().At(400, 400), Ref(kRed));
+    EXPECT_EQ(Shoot().At(400, 400), Ref(Red));
 }
 
 // The platform's GDI+ would lose a memory context for each such text.

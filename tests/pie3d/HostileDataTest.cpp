@@ -21,14 +21,14 @@ TEST_F(PieHostile, QuartersAndHalvesOfEveryTiltAreDrawn)
     pie.SetInclineAngle(0);
     pie.SetStartAngle(0);
     Plain();
-    EXPECT_EQ(Shoot().At(365, 435), Ref(kRed));
+    EXPECT_EQ(Shoot().At(365, 435), Ref(Red));
 }
 
 TEST_F(PieHostile, SliversBesideAGiantLeaveThePieToTheGiant)
 {
-    pie.InsertItem(L"giant", L"", 1e12, kBlue);
+    pie.InsertItem(L"giant", L"", 1e12, Blue);
     for (int i = 0; i < 40; ++i) {
-        pie.InsertItem(Name(i), L"", i < 20 ? 1 : 1e6, kRed);
+        pie.InsertItem(Name(i), L"", i < 20 ? 1 : 1e6, Red);
     }
     Plain();
     for (const float incline : {0.0f, 60.0f}) {
@@ -36,8 +36,8 @@ TEST_F(PieHostile, SliversBesideAGiantLeaveThePieToTheGiant)
             pie.SetPieChartStyle(style);
             pie.SetInclineAngle(style == 2 ? incline : 0);
             const Picture picture = Shoot();
-            EXPECT_EQ(picture.At(165, 310), Ref(kBlue)) << style << ' ' << incline;
-            EXPECT_LT(picture.Count({30, 100, 501, 571}, Ref(kRed)), 1000);
+            EXPECT_EQ(picture.At(165, 310), Ref(Blue)) << style << ' ' << incline;
+            EXPECT_LT(picture.Count({30, 100, 501, 571}, Ref(Red)), 1000);
         }
     }
 }
@@ -59,7 +59,7 @@ TEST_F(PieHostile, ValuesThatNearlyCancelOutAreDrawnWithoutHarm)
     Fill({1});
     Plain();
     pie.SetInclineAngle(0);
-    EXPECT_EQ(Shoot().At(165, 435), Ref(kRed));
+    EXPECT_EQ(Shoot().At(165, 435), Ref(Red));
 }
 
 TEST_F(PieHostile, HugeAnglesTiltsAndDepthsAreDrawnWithoutHarm)
@@ -79,13 +79,13 @@ TEST_F(PieHostile, HugeAnglesTiltsAndDepthsAreDrawnWithoutHarm)
     pie.SetStartAngle(0);
     pie.SetInclineAngle(0);
     Plain();
-    EXPECT_EQ(Shoot().At(400, 400), Ref(kRed));
+    EXPECT_EQ(Shoot().At(400, 400), Ref(Red));
 }
 
 TEST_F(PieHostile, TextsOfAnyLengthAreTaken)
 {
     const CString longText(L'W', 100000);
-    pie.InsertItem(longText, longText, 1, kRed);
+    pie.InsertItem(longText, longText, 1, Red);
     pie.SetPieChartTitle(longText);
     pie.SetLabelFontName(longText);
     pie.SetTitleFontName(longText);
@@ -97,20 +97,20 @@ TEST_F(PieHostile, TextsOfAnyLengthAreTaken)
     Shoot();
     pie.SetInclineAngle(0);
     Plain();
-    EXPECT_EQ(Shoot().At(400, 400), Ref(kRed));
+    EXPECT_EQ(Shoot().At(400, 400), Ref(Red));
 }
 
 TEST_F(PieHostile, TenThousandElementsAreDrawnScrolledAndRemoved)
 {
     for (int i = 0; i < 10000; ++i) {
-        ASSERT_NE(pie.InsertItem(Name(i), Name(i), 1 + i % 7, kRed), nullptr);
+        ASSERT_NE(pie.InsertItem(Name(i), Name(i), 1 + i % 7, Red), nullptr);
     }
     pie.Settle();
     EXPECT_EQ(pie.m_nElements, 10000);
     EXPECT_EQ(pie.m_nLabelsHeight, 429982); // 10000 * 43 - 18
     Plain();
     pie.SetInclineAngle(60);
-    EXPECT_GT(Shoot().Count({200, 230, 330, 360}, Ref(kRed)), 130 * 130 / 2);
+    EXPECT_GT(Shoot().Count({200, 230, 330, 360}, Ref(Red)), 130 * 130 / 2);
     pie.m_wndScrollBar.SetScrollPos(pie.m_wndScrollBar.GetScrollLimit());
     Scroll(SB_THUMBTRACK);
     EXPECT_EQ(pie.m_nFirstLabel, 9989);

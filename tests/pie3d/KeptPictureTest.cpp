@@ -145,8 +145,8 @@ TEST_F(PieKept, ClicksAfterAnUnchangedPaintGoByTheProjectedAngles)
 
 TEST_F(PieKept, WallsOfEqualElementsThatChangePlacesAreClickedInTheirNewOnes)
 {
-    pie.InsertItem(L"a", L"", 1, kRed); // the front half, with all of the wall
-    pie.InsertItem(L"b", L"", 1, kRed);
+    pie.InsertItem(L"a", L"", 1, Red); // the front half, with all of the wall
+    pie.InsertItem(L"b", L"", 1, Red);
     pie.SetInclineAngle(60);
     Shoot();
     EXPECT_EQ(ClickedName(431, 390), L"a");
@@ -158,7 +158,7 @@ TEST_F(PieKept, WallsOfEqualElementsThatChangePlacesAreClickedInTheirNewOnes)
     Click(1, 1);
     Shoot();
     pie.RemoveItem(L"b");
-    pie.InsertItem(L"c", L"", 1, kRed);
+    pie.InsertItem(L"c", L"", 1, Red);
     pie.sortPiechartElements(0);
     Shoot();
     EXPECT_EQ(ClickedName(431, 390), L"c");
@@ -168,7 +168,7 @@ TEST_F(PieKept, SharesOfInsertionsAreComputedByWhateverComesNextAndTheBarAtOnce)
 {
     const auto insert = [&](int count) {
         for (int i = 0; i < count; ++i) {
-            pie.InsertItem(Name(pie.m_nElements), L"label", 1, kRed);
+            pie.InsertItem(Name(pie.m_nElements), L"label", 1, Red);
         }
     };
     const auto barShows = [&] { return (pie.m_wndScrollBar.GetStyle() & WS_VISIBLE) != 0; };
@@ -199,7 +199,7 @@ TEST_F(PieKept, NamesAreFoundAfterInsertionsRemovalsAndSorts)
     for (int step = 0; step < 300; ++step) {
         const CString name = Name(Below(30));
         if (Below(3) != 0) {
-            pie.InsertItem(name, L"", 1 + Below(5), kRed);
+            pie.InsertItem(name, L"", 1 + Below(5), Red);
         } else {
             pie.RemoveItem(name);
         }

@@ -41,7 +41,7 @@ protected:
 TEST_F(PieMemory, AnInsertionThatRunsOutChangesNothing)
 {
     const CString name = L"new";
-    const int failures = FailingMemory::Exhaust([&] { pie.InsertItem(name, longText, 4, kBlue); },
+    const int failures = FailingMemory::Exhaust([&] { pie.InsertItem(name, longText, 4, Blue); },
                                                 [&] { ExpectUntouched(); });
     EXPECT_GE(failures, 4); // the element, its label, the longest one, the map's node
     EXPECT_EQ(pie.m_nElements, 3);

@@ -7,8 +7,8 @@ using PiePainting = PieWindow;
 namespace
 {
 
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr RECT kTitle = {100, 25, 700, 90};
+constexpr COLORREF White = RGB(255, 255, 255);
+constexpr RECT Title = {100, 25, 700, 90};
 
 // The color that the veil of the selection gives, within rounding.
 testing::AssertionResult IsVeiled(COLORREF color, COLORREF under)
@@ -45,7 +45,7 @@ TEST_F(PiePainting, WithoutElementsThereAreTheBackgroundTheFrameAndTheTitleInEve
 {
     pie.SetBackgrndColor(0xFFC0D0E0);
     const Picture tilted = Shoot();
-    EXPECT_GT(tilted.Count(kTitle, 0), 50);
+    EXPECT_GT(tilted.Count(Title, 0), 50);
     for (const int style : {0, 1}) {
         pie.SetPieChartStyle(style);
         EXPECT_EQ(Shoot().CountDifferences(tilted), 0) << style;
@@ -62,18 +62,18 @@ TEST_F(PiePainting, TheFrameIsRoundAndTheParentsColorStandsBehindIt)
             EXPECT_EQ(picture.At(x, y), RGB(255, 0, 0)) << x << ' ' << y;
         }
     }
-    EXPECT_EQ(picture.At(15, 15), kWhite);
-    EXPECT_EQ(picture.At(400, 1), kWhite);
-    EXPECT_EQ(picture.At(1, 300), kWhite);
-    EXPECT_EQ(picture.At(785, 585), kWhite);
+    EXPECT_EQ(picture.At(15, 15), White);
+    EXPECT_EQ(picture.At(400, 1), White);
+    EXPECT_EQ(picture.At(1, 300), White);
+    EXPECT_EQ(picture.At(785, 585), White);
 }
 
 TEST_F(PiePainting, UntilTheHostSaysSoTheColorsAreTheSystemsAndWhite)
 {
     const Picture picture = Shoot();
     EXPECT_EQ(picture.At(1, 1), ::GetSysColor(COLOR_3DFACE));
-    EXPECT_EQ(picture.At(40, 10), kWhite);
-    EXPECT_EQ(picture.At(760, 590), kWhite);
+    EXPECT_EQ(picture.At(40, 10), White);
+    EXPECT_EQ(picture.At(760, 590), White);
 }
 
 TEST_F(PiePainting, ASmallWindowShowsAPartOfTheFrame)
@@ -83,8 +83,8 @@ TEST_F(PiePainting, ASmallWindowShowsAPartOfTheFrame)
     pie.MoveWindow(0, 0, 250, 120);
     const Picture picture = Shoot();
     EXPECT_EQ(picture.At(1, 1), RGB(255, 0, 0));
-    EXPECT_EQ(picture.At(248, 1), kWhite);
-    EXPECT_EQ(picture.At(1, 118), kWhite);
+    EXPECT_EQ(picture.At(248, 1), White);
+    EXPECT_EQ(picture.At(1, 118), White);
 }
 
 TEST_F(PiePainting, TheBackgroundGoesFromLightToDarkAlongTheDiagonal)
@@ -102,14 +102,14 @@ TEST_F(PiePainting, TheBackgroundGoesFromLightToDarkAlongTheDiagonal)
 TEST_F(PiePainting, TheTitleStandsInTheMiddleInTheLabelColor)
 {
     Plain();
-    pie.SetLabelColor(kBlue);
+    pie.SetLabelColor(Blue);
     pie.SetPieChartTitle(L"MMMMMMMM");
     const Picture picture = Shoot();
-    EXPECT_GT(picture.Count(kTitle, Ref(kBlue)), 50);
-    const int left = picture.Count({100, 25, 400, 90}, Ref(kBlue));
-    const int right = picture.Count({400, 25, 700, 90}, Ref(kBlue));
+    EXPECT_GT(picture.Count(Title, Ref(Blue)), 50);
+    const int left = picture.Count({100, 25, 400, 90}, Ref(Blue));
+    const int right = picture.Count({400, 25, 700, 90}, Ref(Blue));
     EXPECT_NEAR(left, right, (left + right) / 10);
-    EXPECT_EQ(picture.Count({100, 0, 700, 29}, Ref(kBlue)), 0);
+    EXPECT_EQ(picture.Count({100, 0, 700, 29}, Ref(Blue)), 0);
 }
 
 TEST_F(PiePainting, AFontThatDoesNotExistIsTheGenericSansSerif)
@@ -130,11 +130,11 @@ TEST_F(PiePainting, SlicesRunClockwiseFromTheRightInEveryStyle)
     for (const int style : {0, 1, 2}) {
         pie.SetPieChartStyle(style);
         const Picture picture = Shoot();
-        EXPECT_EQ(picture.At(365, 435), Ref(kRed)) << style;
-        EXPECT_EQ(picture.At(165, 435), Ref(kGreen)) << style;
-        EXPECT_EQ(picture.At(165, 235), Ref(kGreen)) << style;
-        EXPECT_EQ(picture.At(365, 235), Ref(kGreen)) << style;
-        EXPECT_EQ(picture.At(450, 540), kWhite) << style;
+        EXPECT_EQ(picture.At(365, 435), Ref(Red)) << style;
+        EXPECT_EQ(picture.At(165, 435), Ref(Green)) << style;
+        EXPECT_EQ(picture.At(165, 235), Ref(Green)) << style;
+        EXPECT_EQ(picture.At(365, 235), Ref(Green)) << style;
+        EXPECT_EQ(picture.At(450, 540), White) << style;
     }
 }
 
@@ -165,9 +165,9 @@ TEST_F(PiePainting, TheDoughnutHasAHoleInTheBackgroundsColor)
     Plain();
     pie.SetPieChartStyle(0);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(265, 335), kWhite); // its radius is 470 / 15 * 3 = 94
-    EXPECT_EQ(picture.At(265 - 90, 335), kWhite);
-    EXPECT_EQ(picture.At(265 - 98, 335), Ref(kGreen));
+    EXPECT_EQ(picture.At(265, 335), White); // its radius is 470 / 15 * 3 = 94
+    EXPECT_EQ(picture.At(265 - 90, 335), White);
+    EXPECT_EQ(picture.At(265 - 98, 335), Ref(Green));
 }
 
 TEST_F(PiePainting, TheFlatStylesSlicesAreCutApart)
@@ -176,10 +176,10 @@ TEST_F(PiePainting, TheFlatStylesSlicesAreCutApart)
     Plain();
     pie.SetPieChartStyle(1);
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(265, 500), kWhite); // 533 / 150 = 3 wide
-    EXPECT_EQ(picture.At(400, 335), kWhite);
-    EXPECT_EQ(picture.At(269, 500), Ref(kRed));
-    EXPECT_EQ(picture.At(261, 500), Ref(kGreen));
+    EXPECT_EQ(picture.At(265, 500), White); // 533 / 150 = 3 wide
+    EXPECT_EQ(picture.At(400, 335), White);
+    EXPECT_EQ(picture.At(269, 500), Ref(Red));
+    EXPECT_EQ(picture.At(261, 500), Ref(Green));
 }
 
 TEST_F(PiePainting, ATiltedPieHasFacesAndAWallInFront)
@@ -188,13 +188,13 @@ TEST_F(PiePainting, ATiltedPieHasFacesAndAWallInFront)
     Plain();
     pie.SetInclineAngle(60); // the faces are 156 high, 217 to 375 and 295 to 453
     const Picture picture = Shoot();
-    EXPECT_EQ(picture.At(365, 320), Ref(kRed));
-    EXPECT_EQ(picture.At(165, 320), Ref(kGreen));
-    EXPECT_EQ(picture.At(431, 390), Ref(kRed));
-    EXPECT_EQ(picture.At(99, 390), Ref(kGreen));
-    EXPECT_EQ(picture.At(265, 214), kWhite);
-    EXPECT_EQ(picture.At(265, 456), kWhite);
-    EXPECT_EQ(picture.At(431, 440), kWhite);
+    EXPECT_EQ(picture.At(365, 320), Ref(Red));
+    EXPECT_EQ(picture.At(165, 320), Ref(Green));
+    EXPECT_EQ(picture.At(431, 390), Ref(Red));
+    EXPECT_EQ(picture.At(99, 390), Ref(Green));
+    EXPECT_EQ(picture.At(265, 214), White);
+    EXPECT_EQ(picture.At(265, 456), White);
+    EXPECT_EQ(picture.At(431, 440), White);
 }
 
 TEST_F(PiePainting, WallsAreShadedFromLightToDark)
@@ -217,11 +217,11 @@ TEST_F(PiePainting, TheSelectionIsAVeilInEveryStyle)
     for (const int style : {0, 1, 2}) {
         pie.SetPieChartStyle(style);
         const Picture picture = Shoot();
-        EXPECT_TRUE(IsVeiled(picture.At(365, 435), Ref(kRed))) << style;
-        EXPECT_EQ(picture.At(165, 435), Ref(kGreen)) << style;
+        EXPECT_TRUE(IsVeiled(picture.At(365, 435), Ref(Red))) << style;
+        EXPECT_EQ(picture.At(165, 435), Ref(Green)) << style;
     }
     pie.SetInclineAngle(60);
-    EXPECT_TRUE(IsVeiled(Shoot().At(431, 390), Ref(kRed)));
+    EXPECT_TRUE(IsVeiled(Shoot().At(431, 390), Ref(Red)));
 }
 
 TEST_F(PiePainting, PercentsStandOnTheirSlices)
@@ -243,27 +243,27 @@ TEST_F(PiePainting, LabelsStandBesideTheirMarks)
 {
     Fill({1, 3});
     Plain();
-    pie.SetLabelColor(kBlue);
+    pie.SetLabelColor(Blue);
     const Picture picture = Shoot(); // two rows of 25 with a gap of 18 about 335
-    EXPECT_EQ(picture.At(570, 304), Ref(kRed));
-    EXPECT_EQ(picture.At(570, 347), Ref(kGreen));
-    EXPECT_EQ(picture.At(570, 325), kWhite);
-    EXPECT_EQ(picture.At(600, 304), kWhite); // the mark is 46 wide
-    EXPECT_GT(picture.Count({646, 290, 760, 318}, Ref(kBlue)), 20);
-    EXPECT_EQ(picture.Count({600, 290, 646, 318}, Ref(kBlue)), 0);
+    EXPECT_EQ(picture.At(570, 304), Ref(Red));
+    EXPECT_EQ(picture.At(570, 347), Ref(Green));
+    EXPECT_EQ(picture.At(570, 325), White);
+    EXPECT_EQ(picture.At(600, 304), White); // the mark is 46 wide
+    EXPECT_GT(picture.Count({646, 290, 760, 318}, Ref(Blue)), 20);
+    EXPECT_EQ(picture.Count({600, 290, 646, 318}, Ref(Blue)), 0);
 }
 
 TEST_F(PiePainting, ThePercentColumnHasItsBoxAndItsTexts)
 {
     Fill({1, 3});
     Plain();
-    pie.SetLabelBoxColor(kGreen);
+    pie.SetLabelBoxColor(Green);
     const RECT column = {690, 270, 760, 370};
-    EXPECT_EQ(Shoot().Count(column, Ref(kGreen)), 0);
+    EXPECT_EQ(Shoot().Count(column, Ref(Green)), 0);
     pie.m_bLabelPercent = TRUE;
     pie.Invalidate();
     const Picture picture = Shoot();
-    EXPECT_GT(picture.Count(column, Ref(kGreen)), 500);
+    EXPECT_GT(picture.Count(column, Ref(Green)), 500);
     EXPECT_GT(picture.Count(column, 0), 20);
 }
 

@@ -32,8 +32,8 @@ TEST_F(PiePens, OfTheDoughnutAreLightAndOnePixelWide)
 {
     Fill({1, 3});
     pie.SetPieChartStyle(0);
-    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", LightenColor(kRed, 160), "1"),
-                                      Pen("pie", LightenColor(kGreen, 160), "1")}));
+    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", LightenColor(Red, 160), "1"),
+                                      Pen("pie", LightenColor(Green, 160), "1")}));
     EXPECT_EQ(Painted("ellipse"), TLines{"ellipse brush 1"}); // the hole, in the background's brush
 }
 
@@ -52,8 +52,8 @@ TEST_F(PiePens, OfTheTiltedPieAreTheSlicesColour)
 {
     Fill({1, 3});
     pie.SetInclineAngle(60);
-    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", kRed, "0.2"), Pen("pie", kGreen, "0.2")}));
-    EXPECT_EQ(Painted("path"), (TLines{Pen("path", kRed, "0.5"), Pen("path", kGreen, "0.5")}));
+    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", Red, "0.2"), Pen("pie", Green, "0.2")}));
+    EXPECT_EQ(Painted("path"), (TLines{Pen("path", Red, "0.5"), Pen("path", Green, "0.5")}));
 }
 
 TEST_F(PiePens, OfTheSelectionFollowTheSlicesOwn)
@@ -62,23 +62,23 @@ TEST_F(PiePens, OfTheSelectionFollowTheSlicesOwn)
     pie.m_crSelected = 0xFF102030;
     Element(0).bSelected = TRUE;
     pie.SetPieChartStyle(0);
-    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", LightenColor(kRed, 160), "1"), "pie FF102030 1",
-                                      Pen("pie", LightenColor(kGreen, 160), "1")}));
+    EXPECT_EQ(Painted("pie"), (TLines{Pen("pie", LightenColor(Red, 160), "1"), "pie FF102030 1",
+                                      Pen("pie", LightenColor(Green, 160), "1")}));
     pie.SetPieChartStyle(1);
     EXPECT_EQ(Painted("pie"), TLines{"pie FF102030 1"});
     pie.SetPieChartStyle(2);
     pie.SetInclineAngle(60);
     EXPECT_EQ(Painted("pie"),
-              (TLines{Pen("pie", kRed, "0.2"), "pie FF102030 1", Pen("pie", kGreen, "0.2")}));
+              (TLines{Pen("pie", Red, "0.2"), "pie FF102030 1", Pen("pie", Green, "0.2")}));
     EXPECT_EQ(Painted("path"),
-              (TLines{Pen("path", kRed, "0.5"), "path FF102030 1", Pen("path", kGreen, "0.5")}));
+              (TLines{Pen("path", Red, "0.5"), "path FF102030 1", Pen("path", Green, "0.5")}));
 }
 
 TEST_F(PiePens, OfTheMarksAreLightAndTwoPixelsWide)
 {
     Fill({1, 3}); // rows of 25 with a gap of 18, from 335 - 43
-    EXPECT_EQ(Painted("box"), (TLines{Pen("box", LightenColor(kRed, 200), "2: 550,292 46,25"),
-                                      Pen("box", LightenColor(kGreen, 200), "2: 550,335 46,25")}));
+    EXPECT_EQ(Painted("box"), (TLines{Pen("box", LightenColor(Red, 200), "2: 550,292 46,25"),
+                                      Pen("box", LightenColor(Green, 200), "2: 550,335 46,25")}));
 }
 
 TEST_F(PiePens, OfTheSeparatorsAreTheBoxesLightColour)
@@ -109,10 +109,10 @@ TEST_F(PiePens, OfTheSeparatorsAreTheBoxesLightColour)
 
 TEST_F(PiePens, OfASliceTooThinForAnOutlineDrawItsRadii)
 {
-    pie.InsertItem(L"thin", L"", 1, kRed); // 0.036 degrees
-    pie.InsertItem(L"rest", L"", 9999, kGreen);
+    pie.InsertItem(L"thin", L"", 1, Red); // 0.036 degrees
+    pie.InsertItem(L"rest", L"", 9999, Green);
     for (const auto& [style, pen] :
-         {std::pair{0, Pen("line", LightenColor(kRed, 160), "1")}, {2, Pen("line", kRed, "0.2")}}) {
+         {std::pair{0, Pen("line", LightenColor(Red, 160), "1")}, {2, Pen("line", Red, "0.2")}}) {
         pie.SetPieChartStyle(style);
         const TLines lines = Painted("line");
         ASSERT_EQ(lines.size(), 2u) << style;

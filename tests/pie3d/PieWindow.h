@@ -13,9 +13,9 @@
 class PieWindow : public testing::Test
 {
 protected:
-    static constexpr PieColors::Argb kRed = 0xFFFF0000;
-    static constexpr PieColors::Argb kGreen = 0xFF00C000;
-    static constexpr PieColors::Argb kBlue = 0xFF0000FF;
+    static constexpr PieColors::Argb Red = 0xFFFF0000;
+    static constexpr PieColors::Argb Green = 0xFF00C000;
+    static constexpr PieColors::Argb Blue = 0xFF0000FF;
 
     PieWindow() { Make(pie); }
     ~PieWindow() override { pie.DestroyWindow(); }
@@ -28,7 +28,7 @@ protected:
     // Elements of these values, named e0, e1, ... and red, green, blue in turn.
     void Fill(std::initializer_list<double> values)
     {
-        const PieColors::Argb colors[] = {kRed, kGreen, kBlue};
+        const PieColors::Argb colors[] = {Red, Green, Blue};
         for (const double value : values) {
             const int number = pie.m_nElements;
             pie.InsertItem(Name(number), L"label", value, colors[number % 3]);

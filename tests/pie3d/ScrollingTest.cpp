@@ -193,13 +193,13 @@ TEST_F(PieLongList, AFirstRowBeyondTheElementsShowsNoLabelUntilTheNextScroll)
     Fill({1, 2});
     Plain();
     const RECT list = {520, 80, 755, 590};
-    EXPECT_EQ(Shoot().Count(list, Ref(kRed)), 0);
+    EXPECT_EQ(Shoot().Count(list, Ref(Red)), 0);
     Scroll(SB_LINEUP);
     EXPECT_EQ(pie.m_nFirstLabel, 7);
     pie.SendMessage(WM_SIZE, 0, 0);
     EXPECT_EQ(pie.m_nFirstLabel, 0);
     pie.Invalidate();
-    EXPECT_GT(Shoot().Count(list, Ref(kRed)), 500);
+    EXPECT_GT(Shoot().Count(list, Ref(Red)), 500);
 }
 
 TEST_F(PieLongList, TheRowsThatShowAreThoseFromTheFirst)
@@ -208,7 +208,7 @@ TEST_F(PieLongList, TheRowsThatShowAreThoseFromTheFirst)
     pie.m_wndScrollBar.ShowWindow(SW_HIDE);
     Scroll(SB_LINEDOWN);
     const Picture picture = Shoot();
-    const PieColors::Argb colors[] = {kGreen, kBlue, kRed};
+    const PieColors::Argb colors[] = {Green, Blue, Red};
     for (int row = 0; row < 11; ++row) {
         EXPECT_EQ(picture.At(570, 112 + 43 * row), Ref(colors[row % 3])) << row;
     }

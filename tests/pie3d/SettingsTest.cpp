@@ -146,7 +146,7 @@ TEST_F(PieSettings, AFaceWithoutItsEndIsReadNoFurther)
 TEST_F(PieSettings, AnObjectWithoutAWindowTakesDataAndPaintsNothing)
 {
     CPieChartWnd loose;
-    EXPECT_NE(loose.InsertItem(L"a", L"", 1, kRed), nullptr);
+    EXPECT_NE(loose.InsertItem(L"a", L"", 1, Red), nullptr);
     EXPECT_EQ(loose.SetDepth(10), 1);
     loose.SetStartAngle(40);
     loose.sortPiechartElements(1);
@@ -203,11 +203,11 @@ private:
 
 TEST_F(PieRepaints, EverySetterOfTheWindowErasesButTheParentsColour)
 {
-    EXPECT_TRUE(Erases([&] { pie.SetBackgrndColor(kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.SetBackgrndColor(Red); }));
     EXPECT_TRUE(Erases([&] { pie.SetBackGroundGradientLight(1); }));
     EXPECT_TRUE(Erases([&] { pie.SetBackGroundGradientDark(1); }));
-    EXPECT_TRUE(Erases([&] { pie.SetLabelColor(kRed); }));
-    EXPECT_TRUE(Erases([&] { pie.SetLabelBoxColor(kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelColor(Red); }));
+    EXPECT_TRUE(Erases([&] { pie.SetLabelBoxColor(Red); }));
     EXPECT_TRUE(Erases([&] { pie.SetLabelFontName(L"Arial"); }));
     EXPECT_TRUE(Erases([&] { pie.SetTitleFontName(L"Arial"); }));
     EXPECT_TRUE(Erases([&] { pie.SetPieChartTitle(L"x"); }));
@@ -223,12 +223,12 @@ TEST_F(PieRepaints, EverySetterOfTheWindowErasesButTheParentsColour)
 
 TEST_F(PieRepaints, EveryChangeOfTheElementsErasesButTheRemovalOfAll)
 {
-    EXPECT_TRUE(Erases([&] { pie.InsertItem(L"new", L"", 1, kRed); }));
+    EXPECT_TRUE(Erases([&] { pie.InsertItem(L"new", L"", 1, Red); }));
     EXPECT_TRUE(Erases([&] { pie.RemoveItem(L"new"); }));
     EXPECT_TRUE(Erases([&] { pie.RemoveItemByIndex(2); }));
     EXPECT_TRUE(Erases([&] { pie.UpdateItemLabel(&Element(0), L"x"); }));
     EXPECT_TRUE(Erases([&] { pie.UpdateItemValue(&Element(0), 5); }));
-    EXPECT_TRUE(Erases([&] { pie.UpdateItemColor(&Element(0), kBlue); }));
+    EXPECT_TRUE(Erases([&] { pie.UpdateItemColor(&Element(0), Blue); }));
     EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientLight(&Element(0), 1); }));
     EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientDark(&Element(0), 1); }));
     EXPECT_TRUE(Erases([&] { pie.SetPieElementGradientLightAll(1); }));

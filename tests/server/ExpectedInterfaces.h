@@ -3,7 +3,7 @@
 
 #include "server/ExpectedPieces.h"
 
-inline constexpr ExpectedMethod methodsOfISGraph[] = {
+inline constexpr ExpectedMethod MethodsOfISGraph[] = {
     {1, "SetData",
      "out ISGraphDataSerie** pSerie, in TDataPoint* pValues, in long nCount, in int nCurve, "
      "in int nXAxis, in int nYAxis, in long bAutoDelete"},
@@ -78,7 +78,7 @@ inline constexpr ExpectedMethod methodsOfISGraph[] = {
     {69, "GetXGraphXgcInfo", "in XGRAPH_XGC nMsg, in BSTR bstrCaption"},
 };
 
-inline constexpr ExpectedMethod methodsOfIChart2d[] = {
+inline constexpr ExpectedMethod MethodsOfIChart2d[] = {
     {1, "ShowGraphLegend", "in long legend"},
     {2, "GetGraphLegendTextColor", "out ulong* color"},
     {3, "SetGraphLegendTextColor", "in ulong color"},
@@ -127,7 +127,7 @@ inline constexpr ExpectedMethod methodsOfIChart2d[] = {
     {46, "Create", "in tagRECT* rect, in wireHWND hWnd, in uint nID"},
 };
 
-inline constexpr ExpectedMethod methodsOfIPieChart3d[] = {
+inline constexpr ExpectedMethod MethodsOfIPieChart3d[] = {
     {1, "Create", "in BSTR bstrCaption, in tagRECT* rect, in wireHWND hWnd, in uint nID"},
     {2, "PostMessage", "in uint message, in UINT_PTR wParam, in LONG_PTR lParam"},
     {3, "SendMessage", "in uint message, in UINT_PTR wParam, in LONG_PTR lParam"},
@@ -172,17 +172,17 @@ inline constexpr ExpectedMethod methodsOfIPieChart3d[] = {
 };
 
 // In the order of the product's tables. The one without methods of its own has no table.
-inline constexpr ExpectedInterface expectedInterfaces[] = {
-    {"ISObject", "IDispatch", "{D8C5A43F-6850-44AB-9852-46A03F795FEE}", methodsOfISObject},
-    {"ISGraphObject", "ISObject", "{40C4BE95-C0C1-4FD5-8F9D-E15060E25B62}", methodsOfISGraphObject},
-    {"ISGraphAxis", "ISGraphObject", "{053D3815-35DD-4489-B913-E7A4A36E6DE4}", methodsOfISGraphAxis},
-    {"ISGraphLogAxis", "ISGraphAxis", "{8AE09D08-7719-4660-A5E3-A261EB0AA41C}", methodsOfISGraphLogAxis},
+inline constexpr ExpectedInterface ExpectedInterfaces[] = {
+    {"ISObject", "IDispatch", "{D8C5A43F-6850-44AB-9852-46A03F795FEE}", MethodsOfISObject},
+    {"ISGraphObject", "ISObject", "{40C4BE95-C0C1-4FD5-8F9D-E15060E25B62}", MethodsOfISGraphObject},
+    {"ISGraphAxis", "ISGraphObject", "{053D3815-35DD-4489-B913-E7A4A36E6DE4}", MethodsOfISGraphAxis},
+    {"ISGraphLogAxis", "ISGraphAxis", "{8AE09D08-7719-4660-A5E3-A261EB0AA41C}", MethodsOfISGraphLogAxis},
     {"ISGraphDataSerie", "ISGraphObject", "{EFBDCB31-0A47-406E-B96F-906E78D0DB56}",
-     methodsOfISGraphDataSerie},
-    {"ISGraphLabel", "ISGraphObject", "{F668D721-B480-4E38-A1B3-C2781900DA27}", methodsOfISGraphLabel},
-    {"ISGraphBitmap", "ISGraphObject", "{D95EF098-A408-4854-9D85-ECA84CC0F840}", methodsOfISGraphBitmap},
+     MethodsOfISGraphDataSerie},
+    {"ISGraphLabel", "ISGraphObject", "{F668D721-B480-4E38-A1B3-C2781900DA27}", MethodsOfISGraphLabel},
+    {"ISGraphBitmap", "ISGraphObject", "{D95EF098-A408-4854-9D85-ECA84CC0F840}", MethodsOfISGraphBitmap},
     {"ISGraphDataNotation", "IDispatch", "{E96291DD-864F-4818-B52D-548B1E57A699}", {}},
-    {"ISGraph", "IDispatch", "{90F21AE5-DB57-409D-885A-90CB78805E86}", methodsOfISGraph},
-    {"IChart2d", "IDispatch", "{ECE4272A-8D64-4BB9-A23E-A12A14C194D9}", methodsOfIChart2d},
-    {"IPieChart3d", "IDispatch", "{89A56F93-B412-440B-BE54-0E9E93412BEB}", methodsOfIPieChart3d},
+    {"ISGraph", "IDispatch", "{90F21AE5-DB57-409D-885A-90CB78805E86}", MethodsOfISGraph},
+    {"IChart2d", "IDispatch", "{ECE4272A-8D64-4BB9-A23E-A12A14C194D9}", MethodsOfIChart2d},
+    {"IPieChart3d", "IDispatch", "{89A56F93-B412-440B-BE54-0E9E93412BEB}", MethodsOfIPieChart3d},
 };

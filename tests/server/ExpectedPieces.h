@@ -17,12 +17,12 @@ struct ExpectedInterface {
     std::span<const ExpectedMethod> methods;
 };
 
-inline constexpr ExpectedMethod methodsOfISObject[] = {
+inline constexpr ExpectedMethod MethodsOfISObject[] = {
     {1, "SetObjectHandle", "in uint* hObj"},
     {2, "GetObjectHandle", "out uint** hObj"},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphObject[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphObject[] = {
     {5, "SetRect", "in tagRECT* pRect"},        {6, "GetRect", "out tagRECT* pRect"},
     {7, "SetSelected", "in long bValue"},       {8, "GetSelected", "out long* pbValue"},
     {9, "SetVisible", "in long bValue"},        {10, "GetVisible", "out long* pbValue"},
@@ -30,7 +30,7 @@ inline constexpr ExpectedMethod methodsOfISGraphObject[] = {
     {13, "GetGraph", "out IDispatch** pGraph"},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphAxis[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphAxis[] = {
     {21, "SetAxisType", "in EAxisType type"},
     {22, "GetAxisType", "out EAxisType* pType"},
     {23, "SetShowMarker", "in long bValue"},
@@ -68,13 +68,13 @@ inline constexpr ExpectedMethod methodsOfISGraphAxis[] = {
     {53, "DeleteAllColorRanges", ""},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphLogAxis[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphLogAxis[] = {
     {60, "SetRange", "in double fMin, in double fMax"},
     {61, "GetValueForPos", "in int nPos, out double* pValue"},
     {62, "SetAxisType", "in EAxisType type"},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphDataSerie[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphDataSerie[] = {
     {20, "GetGraph", "out IDispatch** pRef"},
     {21, "GetLinearTrend", "out TDataPoint** pRef, in long nPoints"},
     {22, "GetCubicTrend", "out TDataPoint** pRef, in long nPoints"},
@@ -115,7 +115,7 @@ inline constexpr ExpectedMethod methodsOfISGraphDataSerie[] = {
     {57, "SetLineStyle", "in uint nValue"},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphLabel[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphLabel[] = {
     {80, "SetFont", "in uint* pLogFontw"},       {81, "SetText", "in BSTR pText"},
     {82, "GetText", "out BSTR* pText"},          {83, "SetColor", "in ulong color"},
     {84, "GetColor", "out ulong* pColor"},       {85, "SetTextColor", "in ulong color"},
@@ -126,7 +126,7 @@ inline constexpr ExpectedMethod methodsOfISGraphLabel[] = {
     {94, "GetCurve", "out int* pValue"},
 };
 
-inline constexpr ExpectedMethod methodsOfISGraphBitmap[] = {
+inline constexpr ExpectedMethod MethodsOfISGraphBitmap[] = {
     {20, "SetBorder", "in long bValue"},
     {21, "SetBitmap", "in uint* hBitmap"},
     {22, "GetBorder", "out long* pbValue"},

@@ -130,7 +130,7 @@ using Refused = std::map<int, HRESULT>;
 TEST_F(LateBinding, EveryNameHasItsNumberInEveryClass)
 {
     std::map<std::string, const ExpectedInterface*> byName;
-    for (const ExpectedInterface& row : expectedInterfaces) {
+    for (const ExpectedInterface& row : ExpectedInterfaces) {
         byName[row.name] = &row;
     }
     for (const ServerClass& row : serverClasses) {
@@ -189,19 +189,19 @@ TEST_F(LateBinding, DescriptionIsThatOfTheInterface)
 
 TEST_F(LateBinding, EntriesOfInterfacesThatDeclareNothingAgainAreInTheirPlace)
 {
-    EXPECT_EQ(Refusals(Object<SGraphAxis>(), methodsOfISGraphAxis, 18), Refused{});
-    EXPECT_EQ(Refusals(Object<SGraphBitmap>(), methodsOfISGraphBitmap, 18), Refused{});
+    EXPECT_EQ(Refusals(Object<SGraphAxis>(), MethodsOfISGraphAxis, 18), Refused{});
+    EXPECT_EQ(Refusals(Object<SGraphBitmap>(), MethodsOfISGraphBitmap, 18), Refused{});
 }
 
 TEST_F(LateBinding, LabelRefusesTheTwoEntriesPastItsTable)
 {
-    EXPECT_EQ(Refusals(Object<SGraphLabel>(), methodsOfISGraphLabel, 18),
+    EXPECT_EQ(Refusals(Object<SGraphLabel>(), MethodsOfISGraphLabel, 18),
               (Refused{{93, E_NOTIMPL}, {94, E_NOTIMPL}}));
 }
 
 TEST_F(LateBinding, CurveRefusesTheEntryPastItsTable)
 {
-    EXPECT_EQ(Refusals(Object<SGraphDataSerie>(), methodsOfISGraphDataSerie, 18),
+    EXPECT_EQ(Refusals(Object<SGraphDataSerie>(), MethodsOfISGraphDataSerie, 18),
               (Refused{{57, E_NOTIMPL}}));
 }
 
@@ -209,8 +209,8 @@ TEST_F(LateBinding, LogAxisRefusesTheTwoEntriesPastItsTable)
 {
     const auto axis = Object<SGraphLogAxis>();
 
-    EXPECT_EQ(Refusals(axis, methodsOfISGraphAxis, 18), Refused{});
-    EXPECT_EQ(Refusals(axis, methodsOfISGraphLogAxis, 51), (Refused{{61, E_NOTIMPL}, {62, E_NOTIMPL}}));
+    EXPECT_EQ(Refusals(axis, MethodsOfISGraphAxis, 18), Refused{});
+    EXPECT_EQ(Refusals(axis, MethodsOfISGraphLogAxis, 51), (Refused{{61, E_NOTIMPL}, {62, E_NOTIMPL}}));
 }
 
 TEST_F(LateBinding, RefusalsReachTheCallerOfInvoke)

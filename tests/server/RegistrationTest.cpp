@@ -12,8 +12,8 @@
 namespace
 {
 
-constexpr wchar_t libid[] = L"{6C24BE93-2D8D-4820-8FFF-AF9FC63007F8}";
-constexpr wchar_t absent[] = L"(none)";
+constexpr wchar_t Libid[] = L"{6C24BE93-2D8D-4820-8FFF-AF9FC63007F8}";
+constexpr wchar_t Absent[] = L"(none)";
 
 std::wstring Value(const std::wstring& key, const wchar_t* name = nullptr)
 {
@@ -21,7 +21,7 @@ std::wstring Value(const std::wstring& key, const wchar_t* name = nullptr)
     DWORD size = sizeof text;
     const LSTATUS status =
         RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
-    return status == ERROR_SUCCESS ? text : absent;
+    return status == ERROR_SUCCESS ? text : Absent;
 }
 
 bool Exists(const std::wstring& key)
@@ -80,10 +80,10 @@ TEST_F(Registration, EveryClassTellsWhereItLives)
         EXPECT_EQ(Value(key + L"\\ProgID"), progId + L".1");
         EXPECT_EQ(Value(key + L"\\VersionIndependentProgID"), progId);
         EXPECT_TRUE(Exists(key + L"\\Programmable"));
-        EXPECT_EQ(Value(key + L"\\Programmable"), absent);
+        EXPECT_EQ(Value(key + L"\\Programmable"), Absent);
         EXPECT_EQ(Value(key + L"\\InprocServer32"), Server::PathBesideProgram());
         EXPECT_EQ(Value(key + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
-        EXPECT_EQ(Value(key + L"\\TypeLib"), libid);
+        EXPECT_EQ(Value(key + L"\\TypeLib"), Libid);
     }
 }
 
@@ -95,7 +95,7 @@ TEST_F(Registration, TypeLibraryIsFoundByItsIdentifier)
     ASSERT_EQ(QueryPathOfRegTypeLib(id, 1, 0, 1033, &path), S_OK);
     EXPECT_EQ(_wcsicmp(path, Server::PathBesideProgram().c_str()), 0) << Narrow(path);
     SysFreeString(path);
-    EXPECT_EQ(Value(std::wstring(L"TypeLib\\") + libid + L"\\1.0"), L"Vantoplex 1.0 Type Library");
+    EXPECT_EQ(Value(std::wstring(L"TypeLib\\") + Libid + L"\\1.0"), L"Vantoplex 1.0 Type Library");
     Holder<ITypeLib> library;
     EXPECT_EQ(LoadRegTypeLib(id, 1, 0, 1033, library.Out()), S_OK);
 }
@@ -147,7 +147,7 @@ TEST_F(Registration, UnregisteringKeepsTheSystemsKeysAlone)
         EXPECT_FALSE(Exists(std::wstring(L"Vantoplex.") + row.name));
         EXPECT_FALSE(Exists(std::wstring(L"Vantoplex.") + row.name + L".1"));
     }
-    EXPECT_FALSE(Exists(std::wstring(L"TypeLib\\") + libid + L"\\1.0"));
+    EXPECT_FALSE(Exists(std::wstring(L"TypeLib\\") + Libid + L"\\1.0"));
 }
 
 TEST_F(Registration, UnregisteringTwiceSucceeds)

@@ -170,7 +170,7 @@ TEST_F(TypeLib, CarriesItsIdentity)
 
 TEST_F(TypeLib, InterfacesAreDualAndFitForAutomation)
 {
-    for (const ExpectedInterface& expected : expectedInterfaces) {
+    for (const ExpectedInterface& expected : ExpectedInterfaces) {
         const TYPEATTR dispatch = Attributes(Find(expected.name));
         EXPECT_EQ(dispatch.typekind, TKIND_DISPATCH) << expected.name;
         EXPECT_EQ(GuidText(dispatch.guid), expected.iid) << expected.name;
@@ -186,7 +186,7 @@ TEST_F(TypeLib, InterfacesAreDualAndFitForAutomation)
 
 TEST_F(TypeLib, InterfacesDeriveAsPromised)
 {
-    for (const ExpectedInterface& expected : expectedInterfaces) {
+    for (const ExpectedInterface& expected : ExpectedInterfaces) {
         const Holder<ITypeInfo> table = Table(expected.name);
         HREFTYPE reference = 0;
         Holder<ITypeInfo> base;
@@ -200,7 +200,7 @@ TEST_F(TypeLib, InterfacesDeriveAsPromised)
 
 TEST_F(TypeLib, MethodsStandInOrderWithTheirNumbersAndParameters)
 {
-    for (const ExpectedInterface& expected : expectedInterfaces) {
+    for (const ExpectedInterface& expected : ExpectedInterfaces) {
         const Holder<ITypeInfo> table = Table(expected.name);
         ASSERT_EQ(Attributes(table).cFuncs, expected.methods.size()) << expected.name;
         for (UINT index = 0; index < expected.methods.size(); ++index) {
@@ -218,7 +218,7 @@ TEST_F(TypeLib, MethodsStandInOrderWithTheirNumbersAndParameters)
 TEST_F(TypeLib, EveryDeclaredMethodHasAnEntryOfItsOwn)
 {
     std::map<std::string, int> entries{{"IDispatch", 7}};
-    for (const ExpectedInterface& expected : expectedInterfaces) {
+    for (const ExpectedInterface& expected : ExpectedInterfaces) {
         const Holder<ITypeInfo> table = Table(expected.name);
         int entry = entries.at(expected.base);
         for (UINT index = 0; index < expected.methods.size(); ++index) {
@@ -238,7 +238,7 @@ TEST_F(TypeLib, HelpStringsOfMethods)
         {"ISGraph::GetXGraphXgcInfo", "method no use now"},
         {"ISGraphLabel::SetFont", "PLOGFONTW pLogFontw"}};
     std::map<std::string, std::string> found;
-    for (const ExpectedInterface& expected : expectedInterfaces) {
+    for (const ExpectedInterface& expected : ExpectedInterfaces) {
         const Holder<ITypeInfo> table = Table(expected.name);
         for (UINT index = 0; index < expected.methods.size(); ++index) {
             const Method method = Describe(table, index);

@@ -5,7 +5,7 @@
 
 namespace
 {
-constexpr int mostCurves = 6, mostAxes = 3;
+constexpr int MostCurves = 6, mostAxes = 3;
 } // namespace
 
 std::unique_ptr<Actor> Actors::MakeGraph(const Server& server, wireHWND parent, const RECT& place)
@@ -77,7 +77,7 @@ void GraphActor::Plot(Random& random, Log& log)
     const int nCurve = Curves();
     const int nX = random.Int(0, std::min(Count(&ISGraph::GetXAxisCount), mostAxes - 1));
     const int nY = random.Int(0, std::min(Count(&ISGraph::GetYAxisCount), mostAxes - 1));
-    if (nCurve >= mostCurves)
+    if (nCurve >= MostCurves)
         return;
     s_lent.push_back(Points(random));
     const int bOwned = random.Int(0, 1);

@@ -7,8 +7,8 @@
 
 namespace
 {
-constexpr DWORD mostTime = 180'000; // milliseconds for one run; more is a hang
-constexpr int mostTries = 400;
+constexpr DWORD MostTime = 180'000; // milliseconds for one run; more is a hang
+constexpr int MostTries = 400;
 
 std::wstring ProgramPath()
 {
@@ -90,7 +90,7 @@ bool Shrinking::Survives(const TRun& run, const std::vector<int>& steps)
                           &startup, &process))
         return false;
     DWORD nCode = 1;
-    if (::WaitForSingleObject(process.hProcess, mostTime) == WAIT_OBJECT_0)
+    if (::WaitForSingleObject(process.hProcess, MostTime) == WAIT_OBJECT_0)
         ::GetExitCodeProcess(process.hProcess, &nCode);
     else
         ::TerminateProcess(process.hProcess, 1);
@@ -104,9 +104,9 @@ void Shrinking::PrintShortest(const TRun& run)
 {
     std::vector<int> steps = BegunSteps(run);
     int nTries = 0;
-    for (std::size_t nBlock = std::max<std::size_t>(1, steps.size() / 2); nTries < mostTries;) {
+    for (std::size_t nBlock = std::max<std::size_t>(1, steps.size() / 2); nTries < MostTries;) {
         bool bShorter = false;
-        for (std::size_t nAt = 0; nAt < steps.size() && nTries < mostTries;) {
+        for (std::size_t nAt = 0; nAt < steps.size() && nTries < MostTries;) {
             std::vector<int> fewer = steps;
             fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(nAt),
                         fewer.begin() +

@@ -11,12 +11,12 @@ public:
     explicit FailingMemory(int number) noexcept { s_left = number; }
     FailingMemory(const FailingMemory&) = delete;
     FailingMemory& operator=(const FailingMemory&) = delete;
-    ~FailingMemory() { s_left = never; }
+    ~FailingMemory() { s_left = Never; }
 
     // One allocation; false if it is to fail.
     static bool Take() noexcept
     {
-        if (s_left == never)
+        if (s_left == Never)
             return true;
         return s_left > 0 && s_left-- > 0;
     }
@@ -45,6 +45,6 @@ private:
         }
     }
 
-    static constexpr int never = -1;
-    inline static int s_left = never;
+    static constexpr int Never = -1;
+    inline static int s_left = Never;
 };

@@ -10,7 +10,7 @@
 namespace FaultingCall
 {
 
-inline constexpr DWORD faulted = 0xFA17;
+inline constexpr DWORD Faulted = 0xFA17;
 
 inline DWORD& WatchedThread() noexcept
 {
@@ -36,7 +36,7 @@ inline LONG CALLBACK EndThreadAtFault(EXCEPTION_POINTERS* info)
     }
     CONTEXT& context = *info->ContextRecord;
     context.Rsp = ((context.Rsp - 0x200) & ~DWORD64{15}) - 8; // as right after a call
-    context.Rcx = faulted;
+    context.Rcx = Faulted;
     context.Rip = reinterpret_cast<DWORD64>(&ExitThread);
     return EXCEPTION_CONTINUE_EXECUTION;
 }
@@ -61,7 +61,7 @@ inline DWORD WINAPI Run(void* call)
     RemoveVectoredExceptionHandler(handler);
     WatchedThread() = 0;
     AtFault() = {};
-    return code == faulted;
+    return code == Faulted;
 }
 
 } // namespace FaultingCall

@@ -41,12 +41,12 @@ public:
         m_steps.push_back({std::move(caption), std::move(action)});
     }
     // For the popup menu that is open.
-    void WhenMenu(Action action) { m_steps.push_back({kMenu, std::move(action)}); }
+    void WhenMenu(Action action) { m_steps.push_back({Menu, std::move(action)}); }
 
     void CancelWhatIsLeft() { m_bCancels = true; }
     [[nodiscard]] bool HasCancelled() const { return m_hCancelled != nullptr; }
 
-    static constexpr const wchar_t* kMenu = L"a popup menu";
+    static constexpr const wchar_t* Menu = L"a popup menu";
 
     // The dialog of this thread that takes input, or with `bOwner` also one that waits for a dialog
     // of its own; null if there is none.
@@ -67,7 +67,7 @@ private:
         bool bOwner;
         HWND hFound;
     };
-    static constexpr int kPatience = 1500; // ticks without a step that could run
+    static constexpr int Patience = 1500; // ticks without a step that could run
 
     static ModalScript*& Current()
     {
@@ -92,7 +92,7 @@ private:
             return TRUE;
         wchar_t text[128] = {};
         ::GetWindowTextW(hWnd, text, 128);
-        if (search.pCaption == nullptr || (bMenu ? std::wstring(kMenu) : text) == *search.pCaption) {
+        if (search.pCaption == nullptr || (bMenu ? std::wstring(Menu) : text) == *search.pCaption) {
             search.hFound = hWnd;
             return FALSE;
         }
@@ -121,11 +121,11 @@ private:
             ::PostMessageW(hLeft, WM_COMMAND, IDCANCEL, 0);
             return;
         }
-        if (hLeft == nullptr || ++m_nWaited < (m_steps.empty() ? kPatience / 3 : kPatience))
+        if (hLeft == nullptr || ++m_nWaited < (m_steps.empty() ? Patience / 3 : Patience))
             return;
         ADD_FAILURE() << "a window is left open, while waited for: " << NextName();
         m_steps.clear();
-        m_nWaited = kPatience - 20;
+        m_nWaited = Patience - 20;
         ::PostMessageW(hLeft, WM_CLOSE, 0, 0);
     }
 

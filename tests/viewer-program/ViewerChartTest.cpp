@@ -12,11 +12,11 @@ using ViewerRun::TemporaryFile;
 namespace
 {
 
-constexpr COLORREF first = RGB(0x1F, 0x5F, 0xB4);
-constexpr COLORREF second = RGB(0xD6, 0x27, 0x28);
+constexpr COLORREF First = RGB(0x1F, 0x5F, 0xB4);
+constexpr COLORREF Second = RGB(0xD6, 0x27, 0x28);
 
 // The first year is the largest, so that nothing rises above the scale.
-constexpr std::string_view power = "year,source,made\n"
+constexpr std::string_view Power = "year,source,made\n"
                                    "2001-01-01,Coal,40\n2001-01-01,Wind,20\n"
                                    "2002-01-01,Coal,30\n2002-01-01,Wind,25\n";
 
@@ -25,7 +25,7 @@ class ViewerChart : public testing::Test
 protected:
     Pixels Draw(const std::wstring& options, const wchar_t* size = L"600x400")
     {
-        const TemporaryFile data(L"power.csv", power);
+        const TemporaryFile data(L"power.csv", Power);
         const TemporaryFile picture(L"power.png");
         const Result result =
             RunViewer(L"\"" + data.Path() + L"\" --group source --no-legend --title T --png \"" +
@@ -52,26 +52,26 @@ TEST_F(ViewerChart, BarsHaveHeightsInProportionToTheirValues)
 
     EXPECT_EQ(600, pixels.Width());
     EXPECT_EQ(400, pixels.Height());
-    const double ratio = double(Count(pixels, first)) / Count(pixels, second);
+    const double ratio = double(Count(pixels, First)) / Count(pixels, Second);
     EXPECT_NEAR(70.0 / 45, ratio, 0.1);
 }
 
 TEST_F(ViewerChart, ATickOfTheAnimationShowsThatMomentOnAnyMachine)
 {
-    const int whole = Count(Draw(L"--chart bar"), first);
+    const int whole = Count(Draw(L"--chart bar"), First);
 
     const Pixels half = Draw(L"--chart bar --animation grow --tick 49");
     const Pixels again = Draw(L"--chart bar --animation grow --tick 49");
 
-    EXPECT_NEAR(0.5, double(Count(half, first)) / whole, 0.05);
-    EXPECT_EQ(Count(half, first), Count(again, first));
+    EXPECT_NEAR(0.5, double(Count(half, First)) / whole, 0.05);
+    EXPECT_EQ(Count(half, First), Count(again, First));
 }
 
 TEST_F(ViewerChart, LinesReachAsFarAsTheirTick)
 {
-    const Pixels::Columns whole = Draw(L"--chart line").ColumnsWith(first);
+    const Pixels::Columns whole = Draw(L"--chart line").ColumnsWith(First);
 
-    const Pixels::Columns part = Draw(L"--chart line --animation draw --tick 24").ColumnsWith(first);
+    const Pixels::Columns part = Draw(L"--chart line --animation draw --tick 24").ColumnsWith(First);
 
     EXPECT_GT(whole.count, 50);
     EXPECT_NEAR(0.5, double(part.count) / whole.count, 0.1);
@@ -81,8 +81,8 @@ TEST_F(ViewerChart, SlicesShareTheFlatPieByTheirPercents)
 {
     const Pixels pixels = Draw(L"--chart pie --pick 2001");
 
-    EXPECT_NEAR(2, double(Count(pixels, first)) / Count(pixels, second), 0.1);
-    EXPECT_LT(Count(Draw(L"--chart pie --pick 2001 --animation sweep --tick 30"), second), 10);
+    EXPECT_NEAR(2, double(Count(pixels, First)) / Count(pixels, Second), 0.1);
+    EXPECT_LT(Count(Draw(L"--chart pie --pick 2001 --animation sweep --tick 30"), Second), 10);
 }
 
 TEST_F(ViewerChart, ThePieHasItsThreeStyles)
@@ -109,7 +109,7 @@ TEST_F(ViewerChart, AGradientFadesFromTopToBottom)
 
 TEST_F(ViewerChart, RefusesAPickThatIsNotThere)
 {
-    const TemporaryFile data(L"power.csv", power);
+    const TemporaryFile data(L"power.csv", Power);
 
     const Result result = RunViewer(L"\"" + data.Path() + L"\" --chart pie --pick 1999 --png x.png");
 

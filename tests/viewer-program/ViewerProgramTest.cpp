@@ -14,10 +14,10 @@ using ViewerRun::TemporaryFile;
 namespace
 {
 
-constexpr COLORREF firstCurve = RGB(0x1F, 0x5F, 0xB4);
-constexpr COLORREF secondCurve = RGB(0xD6, 0x27, 0x28);
+constexpr COLORREF FirstCurve = RGB(0x1F, 0x5F, 0xB4);
+constexpr COLORREF SecondCurve = RGB(0xD6, 0x27, 0x28);
 
-constexpr std::string_view weather = "date,temp,wind\n"
+constexpr std::string_view Weather = "date,temp,wind\n"
                                      "2012-01-01,12.8,4.7\n"
                                      "2012-01-02,10.6,\n"
                                      "2012-01-03,11.7,2.3\n"
@@ -71,7 +71,7 @@ TEST(ViewerProgram, AFileWithoutNumbersEndsWithOne)
 
 TEST(ViewerProgram, DrawsAPictureOfTheSizeAskedForAndTellsWhatItSkipped)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     const TemporaryFile picture(L"weather.png");
 
     const Result result = RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) +
@@ -83,8 +83,8 @@ TEST(ViewerProgram, DrawsAPictureOfTheSizeAskedForAndTellsWhatItSkipped)
     const Pixels pixels(picture.Path());
     EXPECT_EQ(500, pixels.Width());
     EXPECT_EQ(300, pixels.Height());
-    EXPECT_GT(pixels.ColumnsWith(firstCurve).count, 100);
-    EXPECT_GT(pixels.ColumnsWith(secondCurve).count, 100);
+    EXPECT_GT(pixels.ColumnsWith(FirstCurve).count, 100);
+    EXPECT_GT(pixels.ColumnsWith(SecondCurve).count, 100);
 }
 
 TEST(ViewerProgram, DrawsDatesBefore1970AcrossTheWholePlot)
@@ -96,7 +96,7 @@ TEST(ViewerProgram, DrawsDatesBefore1970AcrossTheWholePlot)
                                     L" --size 800x400 --no-legend");
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
-    const Pixels::Columns columns = Pixels(picture.Path()).ColumnsWith(firstCurve);
+    const Pixels::Columns columns = Pixels(picture.Path()).ColumnsWith(FirstCurve);
     EXPECT_GT(columns.last - columns.first, 500);
 }
 
@@ -109,7 +109,7 @@ TEST(ViewerProgram, ASingleRowShowsItsPoint)
         RunViewer(Quoted(data.Path()) + L" --png " + Quoted(picture.Path()) + L" --no-legend");
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
-    EXPECT_GE(Pixels(picture.Path()).ColumnsWith(firstCurve).count, 7);
+    EXPECT_GE(Pixels(picture.Path()).ColumnsWith(FirstCurve).count, 7);
 }
 
 TEST(ViewerProgram, DrawsPicturesLargerThanTheScreen)
@@ -128,7 +128,7 @@ TEST(ViewerProgram, DrawsPicturesLargerThanTheScreen)
     EXPECT_EQ(width, pixels.Width());
     EXPECT_EQ(height, pixels.Height());
     // The line rises from the lower left: a column for every pixel of its way, without a gap.
-    const Pixels::Columns columns = pixels.ColumnsWith(firstCurve);
+    const Pixels::Columns columns = pixels.ColumnsWith(FirstCurve);
     EXPECT_GT(columns.last, width - 300);
     EXPECT_EQ(columns.last - columns.first + 1, columns.count);
     EXPECT_NE(RGB(0, 0, 0), pixels.At(width - 1, height - 1));

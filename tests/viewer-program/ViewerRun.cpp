@@ -19,7 +19,7 @@ namespace ViewerRun
 namespace
 {
 
-constexpr DWORD longestRun = 60'000;
+constexpr DWORD LongestRun = 60'000;
 
 std::wstring UniquePath(std::wstring_view name)
 {
@@ -80,7 +80,7 @@ Process::~Process()
 {
     if (WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT) {
         TerminateProcess(m_process.hProcess, 1);
-        WaitForSingleObject(m_process.hProcess, longestRun);
+        WaitForSingleObject(m_process.hProcess, LongestRun);
     }
     CloseHandle(m_process.hThread);
     CloseHandle(m_process.hProcess);
@@ -89,7 +89,7 @@ Process::~Process()
 DWORD Process::ExitCode()
 {
     DWORD code = 0xFFFFFFFF;
-    if (WaitForSingleObject(m_process.hProcess, longestRun) == WAIT_OBJECT_0) {
+    if (WaitForSingleObject(m_process.hProcess, LongestRun) == WAIT_OBJECT_0) {
         GetExitCodeProcess(m_process.hProcess, &code);
     }
     return code;

@@ -12,8 +12,8 @@ using ViewerRun::TemporaryFile;
 namespace
 {
 
-constexpr COLORREF curve = RGB(0x1F, 0x5F, 0xB4);
-constexpr COLORREF trend = RGB(0xD6, 0x27, 0x28);
+constexpr COLORREF Curve = RGB(0x1F, 0x5F, 0xB4);
+constexpr COLORREF Trend = RGB(0xD6, 0x27, 0x28);
 
 class ViewerScript : public testing::Test
 {
@@ -161,7 +161,7 @@ TEST_F(ViewerScript, TrendsAndAveragesBecomeCurvesOfTheirOwn)
 
     EXPECT_EQ(0u, result.exitCode);
     EXPECT_TRUE(Tells(result, "8 curves")) << result.output;
-    EXPECT_GT(Picture("command linear-trend").ColumnsWith(trend).count, 200);
+    EXPECT_GT(Picture("command linear-trend").ColumnsWith(Trend).count, 200);
 }
 
 TEST_F(ViewerScript, AGraphFileBringsItsSettingsBack)
@@ -221,7 +221,7 @@ TEST_F(ViewerScript, TheWholeWindowIsPicturedWithItsBars)
     EXPECT_EQ(700, pixels.Width());
     // Less the menu, which the size of the client area doesn't hold.
     EXPECT_GT(pixels.Height(), 450);
-    EXPECT_GT(pixels.ColumnsWith(curve).count, 200);
+    EXPECT_GT(pixels.ColumnsWith(Curve).count, 200);
 }
 
 TEST_F(ViewerScript, OtherChartsHaveNoModes)

@@ -18,7 +18,7 @@ using ViewerRun::TemporaryFile;
 namespace
 {
 
-constexpr std::string_view weather = "date,temp,wind\n"
+constexpr std::string_view Weather = "date,temp,wind\n"
                                      "2012-01-01,12.8,4.7\n"
                                      "2012-01-02,10.6,\n"
                                      "2012-01-03,11.7,2.3\n"
@@ -65,7 +65,7 @@ HWND WaitForFrame(DWORD process)
 
 TEST(ViewerWindow, TheGraphFillsTheWindowAndResizesWithIt)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -102,7 +102,7 @@ std::wstring StatusOf(HWND frame)
 
 TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -139,7 +139,7 @@ TEST(ViewerWindow, TheStatusBarSaysThatAResetViewIsWhole)
 
 TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -239,7 +239,7 @@ TEST(ViewerWindow, TheKeysAreShownInABoxOfTwoColumns)
 
 TEST(ViewerWindow, TheStatusBarTellsTheRowsThatWereLeftOut)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -266,7 +266,7 @@ HWND WaitForMenu()
 
 TEST(ViewerWindow, ARightClickOnTheGraphOpensItsMenu)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);

@@ -27,7 +27,7 @@ std::u16string Refusal(std::u16string_view text, const Options& options = {})
     return u"";
 }
 
-constexpr std::u16string_view weather = u"date,rain,temp,wind,sky\n"
+constexpr std::u16string_view Weather = u"date,rain,temp,wind,sky\n"
                                         u"2012-01-01,0,12.8,4.7,drizzle\n"
                                         u"2012-01-02,10.9,,4.5,rain\n"
                                         u"2012-01-03,0.8,n/a,2.3,rain\n"
@@ -35,7 +35,7 @@ constexpr std::u16string_view weather = u"date,rain,temp,wind,sky\n"
 
 TEST(PlotPlan, PlotsTheFirstColumnAgainstAllNumericOnes)
 {
-    const PlotPlan plan = Plan(weather);
+    const PlotPlan plan = Plan(Weather);
 
     ASSERT_EQ(3u, plan.curves.size());
     EXPECT_EQ(u"rain", plan.curves[0].label);
@@ -50,7 +50,7 @@ TEST(PlotPlan, PlotsTheFirstColumnAgainstAllNumericOnes)
 
 TEST(PlotPlan, SkipsAndCountsRowsThatHoldNoValue)
 {
-    const PlotPlan plan = Plan(weather);
+    const PlotPlan plan = Plan(Weather);
 
     EXPECT_EQ(4u, plan.rows);
     EXPECT_EQ(0u, plan.curves[0].skipped);
@@ -70,7 +70,7 @@ TEST(PlotPlan, PutsColumnsOnASecondAxis)
     options.y = {u"temp"};
     options.y2 = {u"rain", u"WIND"};
 
-    const PlotPlan plan = Plan(weather, options);
+    const PlotPlan plan = Plan(Weather, options);
 
     ASSERT_EQ(3u, plan.curves.size());
     ASSERT_EQ(2u, plan.y.size());
@@ -86,7 +86,7 @@ TEST(PlotPlan, LeavesColumnsOfTheSecondAxisOutOfTheFirst)
     Options options;
     options.y2 = {u"wind"};
 
-    const PlotPlan plan = Plan(weather, options);
+    const PlotPlan plan = Plan(Weather, options);
 
     ASSERT_EQ(3u, plan.curves.size());
     EXPECT_EQ(u"rain", plan.curves[0].label);
@@ -112,7 +112,7 @@ TEST(PlotPlan, MakesACurveForEachWordOfAGroup)
     options.group = u"sky";
     options.y = {u"wind"};
 
-    const PlotPlan plan = Plan(weather, options);
+    const PlotPlan plan = Plan(Weather, options);
 
     ASSERT_EQ(2u, plan.curves.size());
     EXPECT_EQ(u"drizzle", plan.curves[0].label);
@@ -149,7 +149,7 @@ TEST(PlotPlan, NamesTheColumnsThatExistWhenOneIsMissing)
     Options options;
     options.y = {u"pressure"};
 
-    const std::u16string text = Refusal(weather, options);
+    const std::u16string text = Refusal(Weather, options);
 
     EXPECT_NE(std::u16string::npos, text.find(u"\"pressure\""));
     EXPECT_NE(std::u16string::npos, text.find(u"\"wind\""));
@@ -160,11 +160,11 @@ TEST(PlotPlan, RefusesWhatCannotBePlotted)
     EXPECT_FALSE(Refusal(u"a,b\nx,y\n").empty());
     Options words;
     words.y = {u"sky"};
-    EXPECT_FALSE(Refusal(weather, words).empty());
+    EXPECT_FALSE(Refusal(Weather, words).empty());
     Options mixed;
     mixed.x = u"wind";
     mixed.y = {u"rain", u"date"};
-    EXPECT_FALSE(Refusal(weather, mixed).empty());
+    EXPECT_FALSE(Refusal(Weather, mixed).empty());
     Options emptyX;
     emptyX.x = u"e";
     EXPECT_FALSE(Refusal(u"e,b\n,1\n,2\n", emptyX).empty());
@@ -189,7 +189,7 @@ TEST(PlotPlan, DatesBefore1970GetARangeOfTheirOwn)
     EXPECT_LE(plan.x.low, plan.curves[0].points[0].x);
     EXPECT_GE(plan.x.high, plan.curves[0].points[1].x);
     EXPECT_EQ(u"%Y", plan.x.format);
-    EXPECT_TRUE(Plan(weather).x.autoScale);
+    EXPECT_TRUE(Plan(Weather).x.autoScale);
 }
 
 } // namespace

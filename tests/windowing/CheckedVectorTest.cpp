@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstdlib>
 #include <map>
 #include <string>
@@ -142,4 +143,17 @@ TEST(CheckedVector, HandlerOfTheHostsOwnRunTimeIsFound)
 TEST(CheckedVector, HandlerThatReturnsDoesNotSaveTheProcess)
 {
     EXPECT_EQ(ExitCodeOf(L"ignored"), 0xC0000417u);
+}
+
+TEST(CheckedVector, ErasesOnlyWhereAnElementIs)
+{
+    CCheckedVector<int> numbers{1, 2, 3};
+    for (const int outside : {-1, 3, INT_MIN, INT_MAX}) {
+        EXPECT_FALSE(numbers.IsInside(outside)) << outside;
+        EXPECT_FALSE(numbers.EraseAt(outside)) << outside;
+    }
+    EXPECT_EQ(numbers.size(), 3u);
+    EXPECT_TRUE(numbers.IsInside(2));
+    EXPECT_TRUE(numbers.EraseAt(1));
+    EXPECT_EQ(numbers, (std::vector<int>{1, 3}));
 }

@@ -3,6 +3,7 @@
 // invalid-parameter handler, if one is installed, and then ends the process at once with
 // code 0xC0000417: no result could be right, and no exception crosses to the host.
 
+#include <utility>
 #include <vector>
 
 [[noreturn]] void AfxInvalidParameter() noexcept;
@@ -37,6 +38,19 @@ public:
     {
         Check(0);
         Base::pop_back();
+    }
+
+    [[nodiscard]] bool IsInside(int index) const noexcept
+    {
+        return index >= 0 && std::cmp_less(index, Base::size());
+    }
+    // False, and nothing is removed, where there is no such element.
+    bool EraseAt(int index)
+    {
+        if (!IsInside(index))
+            return false;
+        Base::erase(Base::begin() + index);
+        return true;
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/Colors.h"
 #include "framework/windowing/App.h"
 #include "framework/windowing/ModalOwner.h"
 #include "framework/windowing/Window.h"
@@ -67,7 +68,7 @@ COLORREF* CColorDialog::GetSavedCustomColors() noexcept
 {
     static std::array<COLORREF, 16> colors = [] {
         std::array<COLORREF, 16> white;
-        white.fill(RGB(255, 255, 255));
+        white.fill(White);
         return white;
     }();
     return colors.data();

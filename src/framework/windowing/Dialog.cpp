@@ -100,7 +100,7 @@ bool CDialog::CreateIndirect(UINT nIDTemplate, HWND hWndParent)
     AFX_WND_ENTRY::HookCreation(this);
     const HWND window =
         ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialog, hWndParent, &DialogProcedure, 0);
-    return AFX_WND_ENTRY::UnhookCreation() && window != nullptr && m_hWnd == window;
+    return AFX_WND_ENTRY::UnhookCreation() && window && m_hWnd == window;
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)

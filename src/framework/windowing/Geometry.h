@@ -5,21 +5,9 @@
 // as the platform's own do. Right and bottom edges lie outside a rectangle.
 
 #include "base/Geometry.h"
+#include "base/Wrap.h"
 
 #include <windows.h>
-
-namespace Wrap
-{
-[[nodiscard]] constexpr LONG Add(LONG a, LONG b) noexcept
-{
-    return static_cast<LONG>(static_cast<ULONG>(a) + static_cast<ULONG>(b));
-}
-
-[[nodiscard]] constexpr LONG Subtract(LONG a, LONG b) noexcept
-{
-    return static_cast<LONG>(static_cast<ULONG>(a) - static_cast<ULONG>(b));
-}
-} // namespace Wrap
 
 class CPoint;
 class CRect;

@@ -48,7 +48,7 @@ public:
         if (!handle)
             return nullptr;
         const Lock lock(m_Lock);
-        const DWORD thread = GetCurrentThreadId();
+        const DWORD thread = ::GetCurrentThreadId();
         TClass* temporary = nullptr;
         for (TObject* object = Chain(handle); object; object = object->m_Link.next) {
             const HandleTableLink<TObject>& link = object->m_Link;
@@ -91,8 +91,8 @@ private:
     class Lock
     {
     public:
-        explicit Lock(SRWLOCK& lock) noexcept : m_Held(lock) { AcquireSRWLockExclusive(&m_Held); }
-        ~Lock() { ReleaseSRWLockExclusive(&m_Held); }
+        explicit Lock(SRWLOCK& lock) noexcept : m_Held(lock) { ::AcquireSRWLockExclusive(&m_Held); }
+        ~Lock() { ::ReleaseSRWLockExclusive(&m_Held); }
         Lock(const Lock&) = delete;
         Lock& operator=(const Lock&) = delete;
 

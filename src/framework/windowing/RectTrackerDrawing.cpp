@@ -1,13 +1,12 @@
 // The look of a tracker: outline, hatching and handles.
 
+#include "base/Colors.h"
 #include "framework/windowing/DeviceContexts.h"
 #include "framework/windowing/RectTracker.h"
 #include "framework/windowing/Window.h"
 
 namespace
 {
-constexpr COLORREF Black = RGB(0, 0, 0);
-constexpr COLORREF White = RGB(255, 255, 255);
 constexpr int HandleCount = 8;
 
 // Diagonals four pixels apart: the clear bits are drawn in the text colour.

@@ -1,11 +1,11 @@
 #include "graph/tools/CursorTool.h"
 
+#include "base/Wrap.h"
 #include "draw/DCEx.h"
 #include "draw/Selectors.h"
 #include "draw/WindowCanvas.h"
 #include "graph/CursorText.h"
 #include "graph/PointSearch.h"
-#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 #include <algorithm>
@@ -36,8 +36,9 @@ void CCursorTool::Enter()
     m_Graph.m_nCursorCurve = m_Graph.m_nForcedSnapCurve;
     if ((m_Graph.m_nCursorFlags & XGC_LEGEND) != 0) {
         const CRect& rcInner = m_Graph.m_rcInner;
-        m_Graph.m_CursorLabel.m_rcObject.SetRect(WrapAdd(rcInner.left, 1), rcInner.top,
-                                                 WrapAdd(rcInner.left, 150), WrapAdd(rcInner.top, 50));
+        m_Graph.m_CursorLabel.m_rcObject.SetRect(Wrap::Add(rcInner.left, 1), rcInner.top,
+                                                 Wrap::Add(rcInner.left, 150),
+                                                 Wrap::Add(rcInner.top, 50));
     }
 }
 

@@ -50,7 +50,7 @@ bool CObjectTracker::Click(CPoint point, bool bDblClick)
                 if (!m_Graph.Owns(entry))
                     continue;
             }
-            if (!object->m_bEditing && m_pTracker == nullptr) {
+            if (!object->m_bEditing && !m_pTracker) {
                 taken = true;
                 object->BeginSize();
                 m_pTracker = &object->m_Tracker;
@@ -82,7 +82,7 @@ void CObjectTracker::DeleteCurrent()
 {
     CXGraphObject* object = m_pCurrentObject;
     const POSITION place = m_Graph.m_Objects.Find(object);
-    if (place == nullptr || !object->m_bSizing || object == &m_Graph.m_CursorLabel)
+    if (!place || !object->m_bSizing || object == &m_Graph.m_CursorLabel)
         return;
     m_Graph.m_Objects.RemoveAt(place);
     Forget();
@@ -92,7 +92,7 @@ void CObjectTracker::DeleteCurrent()
 
 bool CObjectTracker::ShowProperties(CPoint point)
 {
-    if (m_pCurrentObject == nullptr || !m_pCurrentObject->m_rcObject.PtInRect(point))
+    if (!m_pCurrentObject || !m_pCurrentObject->m_rcObject.PtInRect(point))
         return false;
     m_pCurrentObject->InvokeProperties();
     return true;
@@ -100,5 +100,5 @@ bool CObjectTracker::ShowProperties(CPoint point)
 
 bool CObjectTracker::SetPointer(CWnd* pWnd, UINT nHitTest)
 {
-    return m_pTracker != nullptr && m_pTracker->SetCursor(pWnd, nHitTest);
+    return m_pTracker && m_pTracker->SetCursor(pWnd, nHitTest);
 }

@@ -1,11 +1,11 @@
 #include "graph/tools/PointDrag.h"
 
+#include "base/Wrap.h"
 #include "draw/DCEx.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 #include "graph/DragState.h"
 #include "graph/PointSearch.h"
-#include "graph/WrapArithmetic.h"
 #include "graph/XGraph.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ void CPointDrag::Grab(CPoint point, int nCurve)
 {
     CXGraphDataSerie& curve = m_Graph.m_Curves[nCurve];
     CXGraphAxis& axis = m_Graph.m_XAxes[static_cast<std::size_t>(curve.m_nXAxis)];
-    const double x = axis.GetValueForPos(WrapSubtract(point.x, curve.m_nMarkerSize / 2));
+    const double x = axis.GetValueForPos(Wrap::Subtract(point.x, curve.m_nMarkerSize / 2));
     DragState().nCurve = nCurve;
     DragState().nPoint = PointSearch::Index(m_Graph, nCurve, x);
 }
@@ -59,5 +59,5 @@ void CPointDrag::DrawValue(CDCEx* pDC)
     pDC->SetBkMode(TRANSPARENT);
     CString strValue;
     strValue.Format(L"%.2f", m_fEditValue);
-    pDC->TextOut(WrapAdd(m_Graph.m_ptCurrent.x, distance), m_Graph.m_ptCurrent.y, strValue);
+    pDC->TextOut(Wrap::Add(m_Graph.m_ptCurrent.x, distance), m_Graph.m_ptCurrent.y, strValue);
 }

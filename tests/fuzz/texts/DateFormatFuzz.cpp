@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
     fields.nWeekDay = input.ConsumeIntegralInRange(0, 6);
     fields.nYearDay = input.ConsumeIntegralInRange(1, 366);
     const std::u16string text = DateFormat::FormatDate(RestOf(input), fields);
-    Demand(text.size() < DateFormat::kBufferSize);
+    Demand(text.size() < DateFormat::BufferSize);
     return 0;
 }

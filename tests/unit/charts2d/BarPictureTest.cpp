@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr TPoint position{10, 20};
-constexpr TSize size{200, 100}; // heights of up to 80 above 114
+constexpr TPoint Position{10, 20};
+constexpr TSize Size{200, 100}; // heights of up to 80 above 114
 
 // Three segments and two series with the values 10 * segment + series, over a maximum of 12:
 // groups at 44, 87, 130; bars 16 wide, 17 apart.
@@ -28,7 +28,7 @@ protected:
 
     TBarPicture Compose() const
     {
-        return BarPicture::Compose(CValueTable(data), animation, position, size);
+        return BarPicture::Compose(CValueTable(data), animation, Position, Size);
     }
 
     // The frame as a line: L label, B bar (series, left, height), ( fade ) with * blends.

@@ -15,12 +15,12 @@
 namespace
 {
 
-constexpr TPoint position{10, 20};
-constexpr TSize size{200, 100};
-constexpr TPoint right{210, 70};
-constexpr TPoint left{10, 70};
-constexpr TPoint top{110, 20};
-constexpr TPoint bottom{110, 120};
+constexpr TPoint Position{10, 20};
+constexpr TSize Size{200, 100};
+constexpr TPoint Right{210, 70};
+constexpr TPoint Left{10, 70};
+constexpr TPoint Top{110, 20};
+constexpr TPoint Bottom{110, 120};
 
 std::vector<double> Percents(const CFlatPieData& data)
 {
@@ -38,7 +38,7 @@ void Fill(CFlatPieData& data, std::initializer_list<double> percents)
 
 TFlatPiePicture Compose(const CFlatPieData& data, CFlatPieAnimation& animation)
 {
-    return FlatPiePicture::Compose(data, animation, position, size);
+    return FlatPiePicture::Compose(data, animation, Position, Size);
 }
 
 using TPercents = std::vector<double>;
@@ -117,13 +117,13 @@ TEST(FlatPieData, TotalOutlivesAClearUntilTheNextSegment)
 TEST(FlatPieGeometry, PointsGoCounterclockwiseFromTheRight)
 {
     using namespace FlatPieGeometry;
-    EXPECT_EQ(Start(position, size), right);
-    EXPECT_EQ(ByHalves(position, size, Angle(25)), top);
-    EXPECT_EQ(ByHalves(position, size, Angle(50)), left);
-    EXPECT_EQ(ByHalves(position, size, Angle(75)), bottom);
-    EXPECT_EQ(Rounded(position, size, Angle(25), {}), top);
-    EXPECT_EQ(Rounded(position, size, Angle(50), {}), left);
-    EXPECT_EQ(Rounded(position, size, Angle(75), {}), bottom);
+    EXPECT_EQ(Start(Position, Size), Right);
+    EXPECT_EQ(ByHalves(Position, Size, Angle(25)), Top);
+    EXPECT_EQ(ByHalves(Position, Size, Angle(50)), Left);
+    EXPECT_EQ(ByHalves(Position, Size, Angle(75)), Bottom);
+    EXPECT_EQ(Rounded(Position, Size, Angle(25), {}), Top);
+    EXPECT_EQ(Rounded(Position, Size, Angle(50), {}), Left);
+    EXPECT_EQ(Rounded(Position, Size, Angle(75), {}), Bottom);
 }
 
 TEST(FlatPieGeometry, TheTwoWaysOfRoundingDifferOnAnOddBox)
@@ -139,20 +139,20 @@ TEST(FlatPieGeometry, TheTwoWaysOfRoundingDifferOnAnOddBox)
 TEST(FlatPieGeometry, AngleOutsideTheCircleLeavesThePointBefore)
 {
     using namespace FlatPieGeometry;
-    EXPECT_EQ(Rounded(position, size, -0.1, {1, 2}), (TPoint{1, 2}));
-    EXPECT_EQ(Rounded(position, size, 6.3, {1, 2}), (TPoint{1, 2}));
-    EXPECT_EQ(Rounded(position, size, fullCircle, {1, 2}), right);
-    EXPECT_EQ(Rounded(position, size, std::nextafter(fullCircle, 7.0), {1, 2}), (TPoint{1, 2}));
+    EXPECT_EQ(Rounded(Position, Size, -0.1, {1, 2}), (TPoint{1, 2}));
+    EXPECT_EQ(Rounded(Position, Size, 6.3, {1, 2}), (TPoint{1, 2}));
+    EXPECT_EQ(Rounded(Position, Size, FullCircle, {1, 2}), Right);
+    EXPECT_EQ(Rounded(Position, Size, std::nextafter(FullCircle, 7.0), {1, 2}), (TPoint{1, 2}));
 }
 
 TEST(FlatPieGeometry, BoundsHoldTheMiddleTheEndsAndTheFarthestPoints)
 {
     using FlatPieGeometry::Bounds;
-    EXPECT_EQ(Bounds(position, size, right, top), (TRect{108, 20, 210, 73}));
-    EXPECT_EQ(Bounds(position, size, top, bottom), (TRect{10, 20, 113, 120}));
-    EXPECT_EQ(Bounds(position, size, bottom, right), (TRect{108, 68, 210, 120}));
-    EXPECT_EQ(Bounds(position, size, right, right), (TRect{10, 20, 210, 120}));
-    EXPECT_EQ(Bounds(position, size, left, top), (TRect{10, 20, 210, 120})); // three quarters
+    EXPECT_EQ(Bounds(Position, Size, Right, Top), (TRect{108, 20, 210, 73}));
+    EXPECT_EQ(Bounds(Position, Size, Top, Bottom), (TRect{10, 20, 113, 120}));
+    EXPECT_EQ(Bounds(Position, Size, Bottom, Right), (TRect{108, 68, 210, 120}));
+    EXPECT_EQ(Bounds(Position, Size, Right, Right), (TRect{10, 20, 210, 120}));
+    EXPECT_EQ(Bounds(Position, Size, Left, Top), (TRect{10, 20, 210, 120})); // three quarters
 }
 
 TEST(FlatPiePicture, StillSlicesFollowOneAnother)
@@ -162,8 +162,8 @@ TEST(FlatPiePicture, StillSlicesFollowOneAnother)
     Fill(data, {25, 50});
     const auto picture = Compose(data, animation);
     ASSERT_EQ(picture.Slices.size(), 2U);
-    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, right, top}));
-    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
+    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, Right, Top}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, Top, Bottom}));
 }
 
 TEST(FlatPiePicture, FullCircleIsWholeWhenStillAndMissingFromASweep)
@@ -175,7 +175,7 @@ TEST(FlatPiePicture, FullCircleIsWholeWhenStillAndMissingFromASweep)
     ASSERT_EQ(picture.Slices.size(), 1U);
     EXPECT_EQ(picture.Slices[0].ptStart, picture.Slices[0].ptEnd);
 
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     animation.m_dAnimationPercent = 101;
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
     EXPECT_EQ(animation.m_dDrawnPercent, 100);
@@ -196,15 +196,15 @@ TEST(FlatPiePicture, SweepLeavesOutEqualPointsAndDrawsThoseOnOneRadial)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {30, 0.0001, 10});
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     animation.m_dAnimationPercent = 101;
     EXPECT_EQ(Compose(data, animation).Slices.size(), 2U);
 
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
-    animation.m_ptStart = {right.x + 20, right.y}; // on the radial of the sweep's end
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
+    animation.m_ptStart = {Right.x + 20, Right.y}; // on the radial of the sweep's end
     const auto begun = Compose(data, animation).Slices;
     ASSERT_EQ(begun.size(), 1U);
-    EXPECT_EQ(begun[0], (TFlatPieSlice{data.m_pSegments, {right.x + 20, right.y}, right}));
+    EXPECT_EQ(begun[0], (TFlatPieSlice{data.m_pSegments, {Right.x + 20, Right.y}, Right}));
 }
 
 TEST(FlatPiePicture, SweepLeavesOutASliceThatRoundingSendsPastTheCircle)
@@ -213,9 +213,9 @@ TEST(FlatPiePicture, SweepLeavesOutASliceThatRoundingSendsPastTheCircle)
     CFlatPieAnimation animation;
     Fill(data, {7, 93});
     using FlatPieGeometry::Angle;
-    ASSERT_GT(Angle(7) + Angle(93), FlatPieGeometry::fullCircle);
+    ASSERT_GT(Angle(7) + Angle(93), FlatPieGeometry::FullCircle);
     ASSERT_EQ(data.m_dTotalPercent, 100);
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     animation.m_dAnimationPercent = 101;
     EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
 }
@@ -223,10 +223,10 @@ TEST(FlatPiePicture, SweepLeavesOutASliceThatRoundingSendsPastTheCircle)
 TEST(FlatPieGeometry, PointsOnOneRadialAreToldFromThoseOnOppositeOnes)
 {
     using FlatPieGeometry::OnOneRadial;
-    EXPECT_TRUE(OnOneRadial(position, size, right, right));
-    EXPECT_TRUE(OnOneRadial(position, size, left, {left.x + 1, left.y}));
-    EXPECT_FALSE(OnOneRadial(position, size, left, right));
-    EXPECT_FALSE(OnOneRadial(position, size, left, {left.x, left.y + 1}));
+    EXPECT_TRUE(OnOneRadial(Position, Size, Right, Right));
+    EXPECT_TRUE(OnOneRadial(Position, Size, Left, {Left.x + 1, Left.y}));
+    EXPECT_FALSE(OnOneRadial(Position, Size, Left, Right));
+    EXPECT_FALSE(OnOneRadial(Position, Size, Left, {Left.x, Left.y + 1}));
 }
 
 TEST(FlatPiePicture, SweepDrawsWholeSlicesAndTheOneInProgress)
@@ -234,15 +234,15 @@ TEST(FlatPiePicture, SweepDrawsWholeSlicesAndTheOneInProgress)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 50, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     for (int tick = 0; tick < 50; ++tick) {
-        animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments, Right);
         Compose(data, animation);
     }
     auto picture = Compose(data, animation);
     ASSERT_EQ(picture.Slices.size(), 2U);
-    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, right, top}));
-    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, left}));
+    EXPECT_EQ(picture.Slices[0], (TFlatPieSlice{data.m_pSegments, Right, Top}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, Top, Left}));
     EXPECT_EQ(animation.m_dDrawnPercent, 25);
 }
 
@@ -251,49 +251,49 @@ TEST(FlatPiePicture, SweepEndsWhereTheSumEnds)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     for (int tick = 0; tick < 100; ++tick)
-        animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
+        animation.Animate(data.m_dTotalPercent, data.m_nSegments, Right);
     const auto picture = Compose(data, animation);
     ASSERT_EQ(picture.Slices.size(), 2U);
-    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, left}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, Top, Left}));
 }
 
 TEST(FlatPieAnimation, SweepRunsPastAHundredAndStartsAgainWithoutAHold)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
     for (int tick = 0; tick < 101; ++tick)
-        animation.Animate(50, 3, right);
+        animation.Animate(50, 3, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 101);
-    animation.Animate(50, 3, right);
+    animation.Animate(50, 3, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 1);
-    EXPECT_DOUBLE_EQ(animation.m_dSweepAngle, FlatPieGeometry::fullCircle / 200);
+    EXPECT_DOUBLE_EQ(animation.m_dSweepAngle, FlatPieGeometry::FullCircle / 200);
 }
 
 TEST(FlatPieAnimation, FadeGoesOnToTheNextSegmentAfterFiftyTicks)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, Right);
     for (int tick = 0; tick < 50; ++tick)
-        animation.Animate(100, 2, right);
+        animation.Animate(100, 2, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 100);
-    animation.Animate(100, 2, right);
+    animation.Animate(100, 2, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 2);
     EXPECT_EQ(animation.m_nFadeSegment, 1);
     for (int tick = 0; tick < 50; ++tick)
-        animation.Animate(100, 2, right);
+        animation.Animate(100, 2, Right);
     EXPECT_EQ(animation.m_nFadeSegment, 0);
 }
 
 TEST(FlatPieAnimation, OnlyOneAnimates)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(2, CFlatPieAnimation::sweep, right);
-    animation.Animate(100, 2, right);
+    animation.SetAnimation(2, CFlatPieAnimation::sweep, Right);
+    animation.Animate(100, 2, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 0);
-    animation.SetAnimation(1, 12, right);
-    animation.Animate(100, 2, right);
+    animation.SetAnimation(1, 12, Right);
+    animation.Animate(100, 2, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 0);
 }
 
@@ -302,20 +302,20 @@ TEST(FlatPiePicture, FadingSliceGoesAsideAndEarlierOnesAreWhole)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 50, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, Right);
     auto picture = Compose(data, animation);
     ASSERT_TRUE(picture.Fading);
-    EXPECT_EQ(*picture.Fading, (TFlatPieSlice{data.m_pSegments, right, top}));
+    EXPECT_EQ(*picture.Fading, (TFlatPieSlice{data.m_pSegments, Right, Top}));
     EXPECT_TRUE(picture.Slices.empty());
 
     animation.m_nFadeSegment = 2;
-    animation.m_ptStart = bottom;
+    animation.m_ptStart = Bottom;
     picture = Compose(data, animation);
     ASSERT_TRUE(picture.Fading);
-    EXPECT_EQ(picture.Fading->ptStart, bottom);
-    EXPECT_EQ(picture.Fading->ptEnd, right);
+    EXPECT_EQ(picture.Fading->ptStart, Bottom);
+    EXPECT_EQ(picture.Fading->ptEnd, Right);
     ASSERT_EQ(picture.Slices.size(), 2U);
-    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, top, bottom}));
+    EXPECT_EQ(picture.Slices[1], (TFlatPieSlice{data.m_pSegments->pNext, Top, Bottom}));
 }
 
 TEST(FlatPiePicture, FadingAndFinishedSlicesAreDrawnWhateverTheirEnds)
@@ -323,9 +323,9 @@ TEST(FlatPiePicture, FadingAndFinishedSlicesAreDrawnWhateverTheirEnds)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {30, 0.0001, 0.0001});
-    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, Right);
     animation.m_nFadeSegment = 2;
-    animation.m_ptStart = FlatPieGeometry::ByHalves(position, size, FlatPieGeometry::Angle(30));
+    animation.m_ptStart = FlatPieGeometry::ByHalves(Position, Size, FlatPieGeometry::Angle(30));
     const auto picture = Compose(data, animation);
     ASSERT_TRUE(picture.Fading);
     EXPECT_EQ(picture.Fading->ptStart, picture.Fading->ptEnd);
@@ -338,7 +338,7 @@ TEST(FlatPiePicture, FadeWithoutASegmentToFadeHasNoSlice)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 25, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, Right);
     animation.m_nFadeSegment = 2;
     ASSERT_EQ(data.DeleteSegment(3), ERefusal::none);
     const auto picture = Compose(data, animation);
@@ -351,37 +351,37 @@ TEST(FlatPiePicture, FadeStartsWhereTheLastOneThatWasShownWholeEnded)
     CFlatPieData data;
     CFlatPieAnimation animation;
     Fill(data, {25, 25, 25});
-    animation.SetAnimation(1, CFlatPieAnimation::fade, right);
+    animation.SetAnimation(1, CFlatPieAnimation::fade, Right);
     animation.m_dAnimationPercent = 98;
-    EXPECT_EQ(Compose(data, animation).Fading->ptEnd, top);
-    EXPECT_EQ(animation.m_ptStart, right); // not at its full strength yet
+    EXPECT_EQ(Compose(data, animation).Fading->ptEnd, Top);
+    EXPECT_EQ(animation.m_ptStart, Right); // not at its full strength yet
     animation.m_dAnimationPercent = 100;
     Compose(data, animation);
-    EXPECT_EQ(animation.m_ptStart, top);
+    EXPECT_EQ(animation.m_ptStart, Top);
 
-    animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
-    EXPECT_EQ(Compose(data, animation).Fading->ptStart, top);
+    animation.Animate(data.m_dTotalPercent, data.m_nSegments, Right);
+    EXPECT_EQ(Compose(data, animation).Fading->ptStart, Top);
     animation.m_nFadeSegment = 2; // the frame at the second's full strength was never painted
-    EXPECT_EQ(Compose(data, animation).Fading->ptStart, top);
+    EXPECT_EQ(Compose(data, animation).Fading->ptStart, Top);
     animation.m_dAnimationPercent = 100;
-    animation.Animate(data.m_dTotalPercent, data.m_nSegments, right);
+    animation.Animate(data.m_dTotalPercent, data.m_nSegments, Right);
     EXPECT_EQ(animation.m_nFadeSegment, 0);
-    EXPECT_EQ(animation.m_ptStart, right);
+    EXPECT_EQ(animation.m_ptStart, Right);
 }
 
 TEST(FlatPieAnimation, StartPointIsResetWithEveryRunAndRestart)
 {
     CFlatPieAnimation animation;
-    animation.SetAnimation(1, CFlatPieAnimation::sweep, right);
-    EXPECT_EQ(animation.m_ptStart, right);
-    animation.m_ptStart = top;
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
+    EXPECT_EQ(animation.m_ptStart, Right);
+    animation.m_ptStart = Top;
     animation.m_dAnimationPercent = 100;
-    animation.Animate(100, 2, left); // to 101
-    EXPECT_EQ(animation.m_ptStart, top);
-    animation.Animate(100, 2, left); // starts again
-    EXPECT_EQ(animation.m_ptStart, left);
-    animation.Restart(bottom);
-    EXPECT_EQ(animation.m_ptStart, bottom);
+    animation.Animate(100, 2, Left); // to 101
+    EXPECT_EQ(animation.m_ptStart, Top);
+    animation.Animate(100, 2, Left); // starts again
+    EXPECT_EQ(animation.m_ptStart, Left);
+    animation.Restart(Bottom);
+    EXPECT_EQ(animation.m_ptStart, Bottom);
 }
 
 TEST(FlatPiePicture, EmptyPieAndUnknownAnimationShowNothing)
@@ -390,9 +390,9 @@ TEST(FlatPiePicture, EmptyPieAndUnknownAnimationShowNothing)
     CFlatPieAnimation animation;
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
     Fill(data, {25});
-    animation.SetAnimation(1, 12, right);
+    animation.SetAnimation(1, 12, Right);
     EXPECT_TRUE(Compose(data, animation).Slices.empty());
-    animation.SetAnimation(7, 10, right); // not 1: still
+    animation.SetAnimation(7, 10, Right); // not 1: still
     EXPECT_EQ(Compose(data, animation).Slices.size(), 1U);
 }
 

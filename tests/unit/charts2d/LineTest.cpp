@@ -9,9 +9,9 @@
 namespace
 {
 
-constexpr TPoint position{10, 20};
-constexpr TSize size{200, 100};
-constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+constexpr TPoint Position{10, 20};
+constexpr TSize Size{200, 100};
+constexpr std::int32_t Lowest = std::numeric_limits<std::int32_t>::min();
 
 class LineTest : public testing::Test
 {
@@ -38,8 +38,8 @@ protected:
             Compose();
         }
     }
-    TPoint StartPoint() const { return LineGeometry::StartPoint(position, size, data.m_nSegments); }
-    TLinePicture Compose() { return LinePicture::Compose(CValueTable(data), animation, position, size); }
+    TPoint StartPoint() const { return LineGeometry::StartPoint(Position, Size, data.m_nSegments); }
+    TLinePicture Compose() { return LinePicture::Compose(CValueTable(data), animation, Position, Size); }
 
     // The frame as a line: L label, and each line as series:from-to.
     std::string Text()
@@ -67,7 +67,7 @@ protected:
 // y = 20 + 93 - trunc(v / M * 80).
 TEST_F(LineTest, MeasuresUseAWiderAreaAndNoRoundingOfTheBarGap)
 {
-    const auto plot = LineGeometry::Measure(position, size, 3, 2);
+    const auto plot = LineGeometry::Measure(Position, Size, 3, 2);
     EXPECT_EQ(plot.Measures.nGap, 10);
     EXPECT_EQ(plot.Measures.nBarGap, 1); // 1.25
     EXPECT_EQ(plot.Measures.nGroupWidth, 37);
@@ -79,23 +79,23 @@ TEST_F(LineTest, MeasuresUseAWiderAreaAndNoRoundingOfTheBarGap)
 
 TEST_F(LineTest, HeightFactorIsTruncatedBeforeTheShare)
 {
-    const auto plot = LineGeometry::Measure(position, {200, 99}, 3, 1); // 79, not 79.2
+    const auto plot = LineGeometry::Measure(Position, {200, 99}, 3, 1); // 79, not 79.2
     EXPECT_EQ(plot.nHeight, 79);
     EXPECT_EQ(LineGeometry::PointY(plot, 1000, 1), plot.nBase - 79000);
 }
 
 TEST_F(LineTest, OverAScaleOfNothingPointsLieFarOutside)
 {
-    const auto plot = LineGeometry::Measure(position, size, 3, 2);
-    EXPECT_EQ(LineGeometry::PointY(plot, 0, 0), lowest + 113);
+    const auto plot = LineGeometry::Measure(Position, Size, 3, 2);
+    EXPECT_EQ(LineGeometry::PointY(plot, 0, 0), Lowest + 113);
     TPoint from{62, 100};
-    TPoint to{109, lowest + 113};
+    TPoint to{109, Lowest + 113};
     ASSERT_TRUE(LineGeometry::CutToDevice(from, to));
     EXPECT_EQ(from, (TPoint{62, 100}));
     EXPECT_EQ(to.y, -(1 << 16));
     EXPECT_EQ(to.x, 62); // 47 * 2^16 / 2^31 of the way
-    TPoint far{1, lowest};
-    TPoint farther{2, lowest};
+    TPoint far{1, Lowest};
+    TPoint farther{2, Lowest};
     EXPECT_FALSE(LineGeometry::CutToDevice(far, farther));
 }
 
@@ -128,11 +128,11 @@ TEST_F(LineTest, ValuesOfADeletedSegmentKeepTheirPlaceOnTheLine)
 TEST_F(LineTest, StartPointLiesBesideTheFirstPoint)
 {
     // 140 / 12 = 11, 11 * 0.125 = 1: here the two agree but for half a group
-    EXPECT_EQ(LineGeometry::StartPoint(position, size, 3), (TPoint{44, 114}));
-    EXPECT_EQ(LineGeometry::StartPoint(position, {640, 100}, 2), (TPoint{10 + 96 + 4 * 7, 114}));
+    EXPECT_EQ(LineGeometry::StartPoint(Position, Size, 3), (TPoint{44, 114}));
+    EXPECT_EQ(LineGeometry::StartPoint(Position, {640, 100}, 2), (TPoint{10 + 96 + 4 * 7, 114}));
     // the plot's own: 416 / 8 = 52, 52 * 0.125 = 6
-    EXPECT_EQ(LineGeometry::Measure(position, {640, 100}, 2, 1).Measures.nStartX, 10 + 96 + 4 * 6);
-    EXPECT_EQ(LineGeometry::StartPoint(position, {640, 100}, 1).x, 10 + 96 + 2 * 14);
+    EXPECT_EQ(LineGeometry::Measure(Position, {640, 100}, 2, 1).Measures.nStartX, 10 + 96 + 4 * 6);
+    EXPECT_EQ(LineGeometry::StartPoint(Position, {640, 100}, 1).x, 10 + 96 + 2 * 14);
 }
 
 TEST_F(LineTest, TwoSegmentsAreOneLineOfFiftyPercentAndThenHeld)
@@ -232,8 +232,8 @@ TEST_F(LineTest, PartOfALineThatHasNoLengthEndsFarToTheUpperLeft)
     EXPECT_EQ(animation.m_nSegmentPercent, 0);
     const auto steps = Compose().Steps;
     ASSERT_EQ(steps.size(), 3U); // the first label, and the line in progress of each series
-    EXPECT_EQ(steps[1].ptTo, (TPoint{lowest + steps[1].ptFrom.x, lowest + steps[1].ptFrom.y}));
-    EXPECT_EQ(steps[2].ptTo, (TPoint{lowest + steps[2].ptFrom.x, lowest + steps[2].ptFrom.y}));
+    EXPECT_EQ(steps[1].ptTo, (TPoint{Lowest + steps[1].ptFrom.x, Lowest + steps[1].ptFrom.y}));
+    EXPECT_EQ(steps[2].ptTo, (TPoint{Lowest + steps[2].ptFrom.x, Lowest + steps[2].ptFrom.y}));
 }
 
 TEST_F(LineTest, UnknownAnimationHasItsValueLabelsAlone)
@@ -262,9 +262,9 @@ TEST_F(LineTest, EveryAnimationRunsOnEveryCount)
 
 TEST_F(LineTest, PartOfALineFollowsItsDirection)
 {
-    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {1, 1}, 1, 2), (TPoint{lowest + 1, lowest + 1}));
-    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 5}, 0, 0), (TPoint{lowest + 1, lowest + 1}));
-    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 1}, 1, 0), (TPoint{lowest + 1, lowest + 1}));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {1, 1}, 1, 2), (TPoint{Lowest + 1, Lowest + 1}));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 5}, 0, 0), (TPoint{Lowest + 1, Lowest + 1}));
+    EXPECT_EQ(LineGeometry::PartialEnd({1, 1}, {5, 1}, 1, 0), (TPoint{Lowest + 1, Lowest + 1}));
     EXPECT_EQ(LineGeometry::PartialEnd({0, 0}, {0, 10}, 1, 2), (TPoint{0, 5}));
     EXPECT_EQ(LineGeometry::PartialEnd({0, 0}, {10, 0}, 1, 3), (TPoint{3, 0})); // a quotient of doubles
 }

@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t Lowest = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t Highest = std::numeric_limits<std::int32_t>::max();
 
 } // namespace
 
@@ -19,8 +19,8 @@ TEST(WindowLayout, SidesAreRaisedToTwoHundred)
     EXPECT_EQ(AtLeastSmallest(TRect{5, 6, 305, 106}), (TRect{5, 6, 305, 206}));
     EXPECT_EQ(AtLeastSmallest(TRect{100, 100, 0, 0}), (TRect{100, 100, 300, 300}));
     EXPECT_EQ(AtLeastSmallest(TSize{10, 500}), (TSize{200, 500}));
-    EXPECT_EQ(AtLeastSmallest(TSize{-10, lowest}), (TSize{200, 200}));
-    EXPECT_EQ(AtLeastSmallest(TRect{lowest, lowest, highest, highest}).Width(), 200);
+    EXPECT_EQ(AtLeastSmallest(TSize{-10, Lowest}), (TSize{200, 200}));
+    EXPECT_EQ(AtLeastSmallest(TRect{Lowest, Lowest, Highest, Highest}).Width(), 200);
 }
 
 TEST(WindowLayout, GraphAreasAreSharesOfTheWindow)
@@ -57,6 +57,6 @@ TEST(WindowLayout, FramesThatNoWindowShowsAreNotMade)
     EXPECT_TRUE(HasFrame({32767, 2000}));
     EXPECT_FALSE(HasFrame({32768, 200}));
     EXPECT_FALSE(HasFrame({20000, 20000}));
-    EXPECT_FALSE(HasFrame({highest, highest}));
+    EXPECT_FALSE(HasFrame({Highest, Highest}));
     EXPECT_FALSE(HasFrame({0, 200}));
 }

@@ -37,10 +37,10 @@ TEST(TimeUnits, HalfASecondRoundsUp)
 
 TEST(TimeUnits, AStepThatIsNoneGivesACountBeyondEveryLimit)
 {
-    constexpr unsigned kLimit = 22118400;
+    constexpr unsigned limit = 22118400;
     for (const double fDays : {-1.0, std::numeric_limits<double>::infinity(),
                                std::numeric_limits<double>::quiet_NaN(), 1e300, -1e300})
-        EXPECT_GT(TimeUnits::Split(fDays).nCount, kLimit) << fDays;
+        EXPECT_GT(TimeUnits::Split(fDays).nCount, limit) << fDays;
 }
 
 TEST(TimeUnits, AnHourOfAStepHas3600Seconds)

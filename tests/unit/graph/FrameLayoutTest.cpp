@@ -11,8 +11,8 @@ using FrameLayout::YAxis;
 namespace
 {
 
-constexpr TRect kGraph{5, 5, 395, 295};
-constexpr int kSpace = 5;
+constexpr TRect Graph{5, 5, 395, 295};
+constexpr int Space = 5;
 
 YAxis Axis(EAxisPlacement placement, int nLabelWidth, int nTitleWidth = 0, int nArcSize = 0)
 {
@@ -47,7 +47,7 @@ TEST(FrameLayout, MarginsOfAnySizeWrapInsteadOfOverflowing)
 
 TEST(FrameLayout, WithoutAxesTheInnerRectangleStartsOnePixelRight)
 {
-    EXPECT_EQ(FrameLayout::Stack(kGraph, {}, {}, kSpace), (TRect{6, 5, 395, 295}));
+    EXPECT_EQ(FrameLayout::Stack(Graph, {}, {}, Space), (TRect{6, 5, 395, 295}));
 }
 
 TEST(FrameLayout, AutomaticAxesAlternateFromTheLeft)
@@ -77,7 +77,7 @@ TEST(FrameLayout, AnAxisAddedLaterStartsItsOwnAlternationAtTheLeft)
 TEST(FrameLayout, LeftAxesStackInwardFromTheMargin)
 {
     std::vector<YAxis> axes{Axis(apLeft, 40), Axis(apLeft, 30)};
-    const TRect inner = FrameLayout::Stack(kGraph, axes, {}, kSpace);
+    const TRect inner = FrameLayout::Stack(Graph, axes, {}, Space);
     EXPECT_EQ(axes[0].nOriginX, 5 + 45);
     EXPECT_EQ(axes[1].nOriginX, 5 + 45 + 35);
     EXPECT_EQ(inner, (TRect{86, 5, 395, 295}));
@@ -86,7 +86,7 @@ TEST(FrameLayout, LeftAxesStackInwardFromTheMargin)
 TEST(FrameLayout, RightAxesStackInwardFromTheRight)
 {
     std::vector<YAxis> axes{Axis(apRight, 40), Axis(apRight, 30)};
-    const TRect inner = FrameLayout::Stack(kGraph, axes, {}, kSpace);
+    const TRect inner = FrameLayout::Stack(Graph, axes, {}, Space);
     EXPECT_EQ(axes[0].nOriginX, 395 - 45);
     EXPECT_EQ(axes[1].nOriginX, 395 - 45 - 35);
     EXPECT_EQ(inner.right, 395 - 80);
@@ -95,9 +95,9 @@ TEST(FrameLayout, RightAxesStackInwardFromTheRight)
 TEST(FrameLayout, TheArrowheadWidensALeftAxisOnly)
 {
     std::vector<YAxis> axes{Axis(apLeft, 20, 30, 7), Axis(apRight, 20, 30, 7)};
-    FrameLayout::Stack(kGraph, axes, {}, kSpace);
-    EXPECT_EQ(axes[0].nOriginX, 5 + 37 + kSpace);
-    EXPECT_EQ(axes[1].nOriginX, 395 - 30 - kSpace);
+    FrameLayout::Stack(Graph, axes, {}, Space);
+    EXPECT_EQ(axes[0].nOriginX, 5 + 37 + Space);
+    EXPECT_EQ(axes[1].nOriginX, 395 - 30 - Space);
 }
 
 TEST(FrameLayout, AHiddenAxisTakesNoRoomButKeepsAnOrigin)
@@ -105,7 +105,7 @@ TEST(FrameLayout, AHiddenAxisTakesNoRoomButKeepsAnOrigin)
     std::vector<YAxis> axes{Axis(apLeft, 40), Axis(apLeft, 30), Axis(apRight, 20)};
     axes[1].bVisible = false;
     axes[2].bVisible = false;
-    const TRect inner = FrameLayout::Stack(kGraph, axes, {}, kSpace);
+    const TRect inner = FrameLayout::Stack(Graph, axes, {}, Space);
     EXPECT_EQ(axes[1].nOriginX, 50);
     EXPECT_EQ(axes[2].nOriginX, 395);
     EXPECT_EQ(inner, (TRect{51, 5, 395, 295}));
@@ -115,7 +115,7 @@ TEST(FrameLayout, TheFirstXAxisStandsLowest)
 {
     std::vector<YAxis> yAxes{Axis(apLeft, 40)};
     std::vector<XAxis> xAxes{{true, 20}, {false, 99}, {true, 10}};
-    const TRect inner = FrameLayout::Stack(kGraph, yAxes, xAxes, kSpace);
+    const TRect inner = FrameLayout::Stack(Graph, yAxes, xAxes, Space);
     EXPECT_EQ(xAxes[0].nOriginY, 295 - 25);
     EXPECT_EQ(xAxes[1].nOriginY, 295 - 25);
     EXPECT_EQ(xAxes[2].nOriginY, 295 - 25 - 15);
@@ -127,7 +127,7 @@ TEST(FrameLayout, TheFirstXAxisStandsLowest)
 TEST(FrameLayout, ManyAxesMayEatMoreThanThereIs)
 {
     std::vector<YAxis> axes(100, Axis(apLeft, 40));
-    const TRect inner = FrameLayout::Stack(kGraph, axes, {}, kSpace);
+    const TRect inner = FrameLayout::Stack(Graph, axes, {}, Space);
     EXPECT_EQ(inner.left, 5 + 100 * 45 + 1);
     EXPECT_GT(inner.left, inner.right);
 }

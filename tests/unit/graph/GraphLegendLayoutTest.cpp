@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr TRect kGraph{5, 5, 395, 295};
+constexpr TRect Graph{5, 5, 395, 295};
 }
 
 TEST(GraphLegendLayout, TheWidestTextAndTheSumOfHeightsCount)
@@ -21,7 +21,7 @@ TEST(GraphLegendLayout, TheWidestTextAndTheSumOfHeightsCount)
 
 TEST(GraphLegendLayout, TheRightBoxTakesItsWidthAndTwentyFromTheRight)
 {
-    TRect graph = kGraph;
+    TRect graph = Graph;
     const TRect box = GraphLegendLayout::PlaceBox(EAlignment::right, {50, 62, 16}, graph);
     EXPECT_EQ(box, (TRect{395 - 66 - 10, 15, 385, 5 + 62 + 12}));
     EXPECT_EQ(graph, (TRect{5, 5, 395 - 86, 295}));
@@ -29,7 +29,7 @@ TEST(GraphLegendLayout, TheRightBoxTakesItsWidthAndTwentyFromTheRight)
 
 TEST(GraphLegendLayout, TheLeftBoxTakesItsWidthAndTwentyFromTheLeft)
 {
-    TRect graph = kGraph;
+    TRect graph = Graph;
     const TRect box = GraphLegendLayout::PlaceBox(EAlignment::left, {50, 62, 16}, graph);
     EXPECT_EQ(box, (TRect{15, 15, 5 + 66 + 10, 79}));
     EXPECT_EQ(graph, (TRect{5 + 86, 5, 395, 295}));
@@ -37,12 +37,12 @@ TEST(GraphLegendLayout, TheLeftBoxTakesItsWidthAndTwentyFromTheLeft)
 
 TEST(GraphLegendLayout, WithNoVisibleCurveTheBoxIsSixteenByTwo)
 {
-    TRect graph = kGraph;
+    TRect graph = Graph;
     const TRect box =
         GraphLegendLayout::PlaceBox(EAlignment::right, GraphLegendLayout::Measure({}), graph);
     EXPECT_EQ(box.Width(), 16);
     EXPECT_EQ(box.Height(), 2);
-    EXPECT_EQ(kGraph.right - graph.right, 36);
+    EXPECT_EQ(Graph.right - graph.right, 36);
 }
 
 TEST(GraphLegendLayout, TopAndBottomAndUnknownSidesHaveNoBox)
@@ -66,10 +66,10 @@ TEST(GraphLegendLayout, RowsStackInsideTheInnerBox)
 
 TEST(GraphLegendLayout, TheBoxGrowsWithItsRowsWhateverTheGraphsHeight)
 {
-    TRect graph = kGraph;
+    TRect graph = Graph;
     const TRect box = GraphLegendLayout::PlaceBox(EAlignment::right, {50, 16000, 16}, graph);
     EXPECT_EQ(box.bottom, 16017);
-    EXPECT_EQ(graph.bottom, kGraph.bottom);
+    EXPECT_EQ(graph.bottom, Graph.bottom);
 }
 
 TEST(GraphLegendLayout, HugeTextsWrapInsteadOfOverflowing)

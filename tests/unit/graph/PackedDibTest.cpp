@@ -7,7 +7,7 @@
 namespace
 {
 
-std::vector<int> Bytes(const std::array<std::byte, PackedDib::kFileHeaderSize>& header)
+std::vector<int> Bytes(const std::array<std::byte, PackedDib::FileHeaderSize>& header)
 {
     std::vector<int> bytes;
     for (const std::byte byte : header)

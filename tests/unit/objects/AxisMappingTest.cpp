@@ -12,41 +12,41 @@ namespace
 
 using namespace AxisMapping;
 
-constexpr TScale kHorizontal{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 50};
-constexpr TScale kVertical{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 450, .bVertical = true};
-constexpr TScale kLog{.fMin = 1, .fMax = 1000, .nLength = 300, .nOrigin = 10, .bLog = true};
-constexpr TScale kLogVertical{
+constexpr TScale Horizontal{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 50};
+constexpr TScale Vertical{.fMin = 0, .fMax = 10, .nLength = 400, .nOrigin = 450, .bVertical = true};
+constexpr TScale Log{.fMin = 1, .fMax = 1000, .nLength = 300, .nOrigin = 10, .bLog = true};
+constexpr TScale LogVertical{
     .fMin = 1, .fMax = 1000, .nLength = 300, .nOrigin = 310, .bVertical = true, .bLog = true};
-constexpr std::int32_t kNoPixel = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t NoPixel = std::numeric_limits<std::int32_t>::min();
 
 TEST(AxisMapping, HorizontalGrowsFromTheLeftEdge)
 {
-    EXPECT_EQ(ToPixel(kHorizontal, 0), 50);
-    EXPECT_EQ(ToPixel(kHorizontal, 10), 450);
-    EXPECT_EQ(ToPixel(kHorizontal, 5), 250);
-    EXPECT_EQ(ToPixel(kHorizontal, -10), -350);
+    EXPECT_EQ(ToPixel(Horizontal, 0), 50);
+    EXPECT_EQ(ToPixel(Horizontal, 10), 450);
+    EXPECT_EQ(ToPixel(Horizontal, 5), 250);
+    EXPECT_EQ(ToPixel(Horizontal, -10), -350);
 }
 
 TEST(AxisMapping, VerticalGrowsUpFromTheBottomEdge)
 {
-    EXPECT_EQ(ToPixel(kVertical, 0), 450);
-    EXPECT_EQ(ToPixel(kVertical, 10), 50);
+    EXPECT_EQ(ToPixel(Vertical, 0), 450);
+    EXPECT_EQ(ToPixel(Vertical, 10), 50);
 }
 
 TEST(AxisMapping, PixelsAreCutTowardZero)
 {
-    EXPECT_EQ(ToPixel(kHorizontal, 0.049), 51); // 51.96
-    EXPECT_EQ(ToPixel(kVertical, 0.049), 448);  // 448.04
-    EXPECT_EQ(ToPixel(kHorizontal, -1.26), 0);  // -0.4
-    EXPECT_EQ(ToPixel(kHorizontal, -1.31), -2); // -2.4
+    EXPECT_EQ(ToPixel(Horizontal, 0.049), 51); // 51.96
+    EXPECT_EQ(ToPixel(Vertical, 0.049), 448);  // 448.04
+    EXPECT_EQ(ToPixel(Horizontal, -1.26), 0);  // -0.4
+    EXPECT_EQ(ToPixel(Horizontal, -1.31), -2); // -2.4
 }
 
 TEST(AxisMapping, LogarithmicDecadesAreEvenlySpaced)
 {
-    EXPECT_EQ(ToPixel(kLog, 1), 10);
-    EXPECT_EQ(ToPixel(kLog, 1000), 310);
-    EXPECT_NEAR(ToPixel(kLog, 10), 110, 1);
-    EXPECT_NEAR(ToPixel(kLogVertical, 10), 210, 1);
+    EXPECT_EQ(ToPixel(Log, 1), 10);
+    EXPECT_EQ(ToPixel(Log, 1000), 310);
+    EXPECT_NEAR(ToPixel(Log, 10), 110, 1);
+    EXPECT_NEAR(ToPixel(LogVertical, 10), 210, 1);
 }
 
 TEST(AxisMapping, FormulasHoldToTheBit)
@@ -69,17 +69,17 @@ TEST(AxisMapping, LogarithmicFormulaHoldsToTheBit)
 {
     for (const double v : {1.0, 1.5, 3.0, 99.0, 12345.0, 0.001}) {
         const double t = (std::log10(v) - std::log10(1.0)) / (std::log10(1000.0) - std::log10(1.0));
-        EXPECT_EQ(CMapper(kLog).Place(v), 300 * t + 10);
-        EXPECT_EQ(CMapper(kLogVertical).Place(v), 310 - 300 * t);
+        EXPECT_EQ(CMapper(Log).Place(v), 300 * t + 10);
+        EXPECT_EQ(CMapper(LogVertical).Place(v), 310 - 300 * t);
     }
 }
 
 TEST(AxisMapping, ValuesComeBackFromPixels)
 {
-    EXPECT_DOUBLE_EQ(ToValue(kHorizontal, 250), 5);
-    EXPECT_DOUBLE_EQ(ToValue(kVertical, 250), 5);
-    EXPECT_DOUBLE_EQ(ToValue(kLog, 110), 10);
-    EXPECT_DOUBLE_EQ(ToValue(kLogVertical, 210), 10);
+    EXPECT_DOUBLE_EQ(ToValue(Horizontal, 250), 5);
+    EXPECT_DOUBLE_EQ(ToValue(Vertical, 250), 5);
+    EXPECT_DOUBLE_EQ(ToValue(Log, 110), 10);
+    EXPECT_DOUBLE_EQ(ToValue(LogVertical, 210), 10);
 }
 
 TEST(AxisMapping, PixelToValueAndBackDiffersByOneAtMost)
@@ -92,13 +92,13 @@ TEST(AxisMapping, PixelToValueAndBackDiffersByOneAtMost)
 TEST(AxisMapping, HostileValuesHaveNoPixel)
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(ToPixel(kHorizontal, std::nan("")), kNoPixel);
-    EXPECT_EQ(ToPixel(kHorizontal, infinity), kNoPixel);
-    EXPECT_EQ(ToPixel(kHorizontal, 1e308), kNoPixel);
-    EXPECT_EQ(ToPixel(kLog, -1), kNoPixel);
-    EXPECT_EQ(ToPixel(kLog, 0), kNoPixel);
-    EXPECT_EQ(ToPixel({.fMin = 1, .fMax = 1, .nLength = 5}, 1), kNoPixel);
-    EXPECT_EQ(ToPixel(kHorizontal, std::numeric_limits<double>::denorm_min()), 50);
+    EXPECT_EQ(ToPixel(Horizontal, std::nan("")), NoPixel);
+    EXPECT_EQ(ToPixel(Horizontal, infinity), NoPixel);
+    EXPECT_EQ(ToPixel(Horizontal, 1e308), NoPixel);
+    EXPECT_EQ(ToPixel(Log, -1), NoPixel);
+    EXPECT_EQ(ToPixel(Log, 0), NoPixel);
+    EXPECT_EQ(ToPixel({.fMin = 1, .fMax = 1, .nLength = 5}, 1), NoPixel);
+    EXPECT_EQ(ToPixel(Horizontal, std::numeric_limits<double>::denorm_min()), 50);
 }
 
 TEST(AxisMapping, PixelDifferencesWrap)
@@ -109,9 +109,9 @@ TEST(AxisMapping, PixelDifferencesWrap)
 
 TEST(AxisMapping, OnlyAFinitePositiveLinearHorizontalScaleKeepsOrder)
 {
-    EXPECT_TRUE(CMapper(kHorizontal).KeepsOrder());
-    EXPECT_FALSE(CMapper(kVertical).KeepsOrder());
-    EXPECT_FALSE(CMapper(kLog).KeepsOrder());
+    EXPECT_TRUE(CMapper(Horizontal).KeepsOrder());
+    EXPECT_FALSE(CMapper(Vertical).KeepsOrder());
+    EXPECT_FALSE(CMapper(Log).KeepsOrder());
     EXPECT_FALSE(CMapper({.fMin = 1, .fMax = 1}).KeepsOrder());
     EXPECT_FALSE(CMapper({.fMin = 2, .fMax = 1}).KeepsOrder());
     EXPECT_FALSE(CMapper({.fMin = 0, .fMax = 1, .nLength = -5}).KeepsOrder());

@@ -20,8 +20,8 @@ using ColumnWalk::TColumns;
 using ColumnWalk::TCurve;
 using ColumnWalk::TEnds;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr TColumns kPlot{100, 500};
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr TColumns Plot{100, 500};
 
 struct TWalked {
     std::vector<TSegment> segments;
@@ -79,7 +79,7 @@ private:
     CMapper m_y;
 };
 
-constexpr TScale kScale{.fMin = 0, .fMax = 100, .nLength = 400, .nOrigin = 100};
+constexpr TScale Scale{.fMin = 0, .fMax = 100, .nLength = 400, .nOrigin = 100};
 
 std::vector<TDataPoint> EvenPoints(int count, double from, double step)
 {
@@ -91,39 +91,39 @@ std::vector<TDataPoint> EvenPoints(int count, double from, double step)
 
 TEST(ColumnWalk, ARunOnOneColumnKeepsItsFirstPointAlone)
 {
-    const CWalker walker({{0, 0}, {0.1, 1}, {0.2, 0.5}, {10, 1}, {10.1, 0}, {20, 0}}, kScale);
+    const CWalker walker({{0, 0}, {0.1, 1}, {0.2, 0.5}, {10, 1}, {10.1, 0}, {20, 0}}, Scale);
     const TWalked walked = walker.Plain({INT32_MIN, INT32_MAX});
     const std::vector<TSegment> expected{{{100, 400}, {140, 100}}, {{140, 100}, {180, 400}}};
     EXPECT_EQ(walked.segments, expected);
     EXPECT_EQ(walked.ends.ptLast, (TPoint{180, 400}));
-    walker.ExpectSame(kPlot);
+    walker.ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, AColumnMayComeAgain)
 {
-    const CWalker walker({{0, 0}, {10, 0}, {0, 1}, {10, 1}}, kScale);
-    EXPECT_EQ(walker.Plain(kPlot).segments.size(), 3u);
-    walker.ExpectSame(kPlot);
+    const CWalker walker({{0, 0}, {10, 0}, {0, 1}, {10, 1}}, Scale);
+    EXPECT_EQ(walker.Plain(Plot).segments.size(), 3u);
+    walker.ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, OnePointHasNoSegments)
 {
-    const CWalker walker({{50, 0}}, kScale);
-    EXPECT_TRUE(walker.Fast(kPlot, true).segments.empty());
-    walker.ExpectSame(kPlot);
+    const CWalker walker({{50, 0}}, Scale);
+    EXPECT_TRUE(walker.Fast(Plot, true).segments.empty());
+    walker.ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, SegmentsAcrossThePlotAreKept)
 {
-    const CWalker walker({{-50, 0}, {150, 1}, {-50, 0.2}}, kScale);
-    EXPECT_EQ(walker.Fast(kPlot, false).segments.size(), 2u);
-    walker.ExpectSame(kPlot);
+    const CWalker walker({{-50, 0}, {150, 1}, {-50, 0.2}}, Scale);
+    EXPECT_EQ(walker.Fast(Plot, false).segments.size(), 2u);
+    walker.ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, DenseAndSparseAscendingCurvesEqualThePlainWalk)
 {
     for (const double step : {1e-4, 0.013, 0.25, 1.0, 7.0, 61.0})
-        CWalker(EvenPoints(5000, -200 * step, step), kScale).ExpectSame(kPlot);
+        CWalker(EvenPoints(5000, -200 * step, step), Scale).ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, ZoomedCurvesEqualThePlainWalk)
@@ -132,29 +132,29 @@ TEST(ColumnWalk, ZoomedCurvesEqualThePlainWalk)
     for (const double width : {0.5, 3.0, 40.0, 1000.0, 19999.0}) {
         for (const double from : {-5000.0, 0.0, 7777.7, 19990.0, 50000.0}) {
             const TScale scale{.fMin = from, .fMax = from + width, .nLength = 400, .nOrigin = 100};
-            CWalker(points, scale).ExpectSame(kPlot);
+            CWalker(points, scale).ExpectSame(Plot);
         }
     }
 }
 
 TEST(ColumnWalk, CurvesWithoutAnythingInThePlotEqualThePlainWalk)
 {
-    CWalker(EvenPoints(100, -1000, 1), kScale).ExpectSame(kPlot);
-    CWalker(EvenPoints(100, 1000, 1), kScale).ExpectSame(kPlot);
-    EXPECT_TRUE(CWalker(EvenPoints(100, 1000, 1), kScale).Fast(kPlot, true).segments.empty());
+    CWalker(EvenPoints(100, -1000, 1), Scale).ExpectSame(Plot);
+    CWalker(EvenPoints(100, 1000, 1), Scale).ExpectSame(Plot);
+    EXPECT_TRUE(CWalker(EvenPoints(100, 1000, 1), Scale).Fast(Plot, true).segments.empty());
 }
 
 // Places past the largest int fall on the column of those past the smallest.
 TEST(ColumnWalk, AscendingPlacesBeyondTheIntsEqualThePlainWalk)
 {
-    const std::vector<double> xs{-kInfinity, -1e308, -1e12, -1e9, -1e8, -3,       0,
-                                 20,         50,     3e8,   1e9,  1e12, kInfinity};
+    const std::vector<double> xs{-Infinity, -1e308, -1e12, -1e9, -1e8, -3,      0,
+                                 20,        50,     3e8,   1e9,  1e12, Infinity};
     for (std::size_t first = 0; first < xs.size(); ++first) {
         for (std::size_t last = first + 1; last <= xs.size(); ++last) {
             std::vector<TDataPoint> points;
             for (std::size_t i = first; i < last; ++i)
                 points.push_back({xs[i], 0.1 * static_cast<double>(i)});
-            CWalker(points, kScale).ExpectSame(kPlot);
+            CWalker(points, Scale).ExpectSame(Plot);
         }
     }
 }
@@ -162,7 +162,7 @@ TEST(ColumnWalk, AscendingPlacesBeyondTheIntsEqualThePlainWalk)
 TEST(ColumnWalk, RandomCurvesEqualThePlainWalk)
 {
     std::mt19937 random(2026);
-    const double specials[] = {kInfinity, -kInfinity, std::nan(""), 1e308, -1e308, 5e-324, 1e10, -1e10};
+    const double specials[] = {Infinity, -Infinity, std::nan(""), 1e308, -1e308, 5e-324, 1e10, -1e10};
     for (int round = 0; round < 4000; ++round) {
         std::vector<TDataPoint> points(1 + random() % 60);
         const double spread = std::exp2(random() % 14);
@@ -177,7 +177,7 @@ TEST(ColumnWalk, RandomCurvesEqualThePlainWalk)
         if (round % 2 == 0)
             std::sort(points.begin(), points.end(),
                       [](const TDataPoint& a, const TDataPoint& b) { return a.fXVal < b.fXVal; });
-        CWalker(points, kScale).ExpectSame(kPlot);
+        CWalker(points, Scale).ExpectSame(Plot);
         if (HasFailure())
             return;
     }
@@ -187,28 +187,28 @@ TEST(ColumnWalk, HostileScalesEqualThePlainWalk)
 {
     const auto points = EvenPoints(300, -20, 0.5);
     for (const auto& [low, high] :
-         {std::pair{10.0, 10.0}, std::pair{90.0, 10.0}, std::pair{-kInfinity, kInfinity},
+         {std::pair{10.0, 10.0}, std::pair{90.0, 10.0}, std::pair{-Infinity, Infinity},
           std::pair{std::nan(""), 1.0}, std::pair{-1e308, 1e308}, std::pair{0.0, 5e-324},
           std::pair{0.0, 1e300}}) {
         for (const int length : {400, 1, 0, -7}) {
             CWalker(points, {.fMin = low, .fMax = high, .nLength = length, .nOrigin = 100})
-                .ExpectSame(kPlot);
+                .ExpectSame(Plot);
             CWalker(points, {.fMin = low, .fMax = high, .nLength = length, .nOrigin = 100, .bLog = true})
-                .ExpectSame(kPlot);
+                .ExpectSame(Plot);
         }
     }
 }
 
 TEST(ColumnWalk, AnyColumnsOfInterestEqualThePlainWalk)
 {
-    const CWalker walker(EvenPoints(400, -30, 0.5), kScale);
+    const CWalker walker(EvenPoints(400, -30, 0.5), Scale);
     for (const TColumns visible :
          {TColumns{INT32_MIN, INT32_MAX}, TColumns{INT32_MIN, 100}, TColumns{300, INT32_MAX},
           TColumns{200, 200}, TColumns{INT32_MAX, INT32_MAX}})
         walker.ExpectSame(visible);
 }
 
-constexpr TScale kLogScale{.fMin = 0.01, .fMax = 1000, .nLength = 400, .nOrigin = 100, .bLog = true};
+constexpr TScale LogScale{.fMin = 0.01, .fMax = 1000, .nLength = 400, .nOrigin = 100, .bLog = true};
 
 // Even on the screen, so that each column has as many points.
 std::vector<TDataPoint> GrowingPoints(int count, double from, double factor)
@@ -222,9 +222,9 @@ std::vector<TDataPoint> GrowingPoints(int count, double from, double factor)
 TEST(ColumnWalk, LogarithmicCurvesEqualThePlainWalk)
 {
     for (const double factor : {1.00001, 1.0007, 1.01, 1.3, 9.0})
-        CWalker(GrowingPoints(20000, 1e-4, factor), kLogScale).ExpectSame(kPlot);
+        CWalker(GrowingPoints(20000, 1e-4, factor), LogScale).ExpectSame(Plot);
     for (const double step : {1e-4, 0.013, 1.0, 61.0})
-        CWalker(EvenPoints(20000, -200 * step, step), kLogScale).ExpectSame(kPlot);
+        CWalker(EvenPoints(20000, -200 * step, step), LogScale).ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, LogarithmicCurvesOnTheEdgesOfColumnsEqualThePlainWalk)
@@ -235,11 +235,11 @@ TEST(ColumnWalk, LogarithmicCurvesOnTheEdgesOfColumnsEqualThePlainWalk)
         double value = std::pow(10.0, -2 + pixel / 400.0 * 5);
         for (int i = 0; i < 20; ++i)
             value = std::nextafter(value, 0.0);
-        for (int i = 0; i < 41; ++i, value = std::nextafter(value, kInfinity))
+        for (int i = 0; i < 41; ++i, value = std::nextafter(value, Infinity))
             points.push_back({value, 0.001 * i});
     }
-    const CWalker walker(points, kLogScale);
-    for (const TColumns visible : {kPlot, TColumns{INT32_MIN, INT32_MAX}, TColumns{-5, 3},
+    const CWalker walker(points, LogScale);
+    for (const TColumns visible : {Plot, TColumns{INT32_MIN, INT32_MAX}, TColumns{-5, 3},
                                    TColumns{200, 200}, TColumns{INT32_MIN, 99}})
         walker.ExpectSame(visible);
 }
@@ -258,7 +258,7 @@ TEST(ColumnWalk, ZoomedAndShiftedLogarithmicCurvesEqualThePlainWalk)
 TEST(ColumnWalk, RandomLogarithmicCurvesEqualThePlainWalk)
 {
     std::mt19937 random(12);
-    const double specials[] = {kInfinity, -kInfinity, std::nan(""), 1e308, -1.0, 5e-324, 0.0, -0.0};
+    const double specials[] = {Infinity, -Infinity, std::nan(""), 1e308, -1.0, 5e-324, 0.0, -0.0};
     for (int round = 0; round < 3000; ++round) {
         std::vector<TDataPoint> points(1 + random() % 300);
         const double spread = 1 + random() % 6;
@@ -273,7 +273,7 @@ TEST(ColumnWalk, RandomLogarithmicCurvesEqualThePlainWalk)
         if (round % 2 == 0)
             std::sort(points.begin(), points.end(),
                       [](const TDataPoint& a, const TDataPoint& b) { return a.fXVal < b.fXVal; });
-        CWalker(points, kLogScale).ExpectSame(kPlot);
+        CWalker(points, LogScale).ExpectSame(Plot);
         if (HasFailure())
             return;
     }
@@ -296,14 +296,14 @@ TEST(ColumnWalk, ABandHoldsOnlyValuesOfItsColumns)
         if (!(band.fLow <= band.fHigh))
             continue;
         const double low = std::isfinite(band.fLow) ? band.fLow : -5.0;
-        for (const double value : {low, std::nextafter(low, kInfinity), low / 2 + band.fHigh / 2,
+        for (const double value : {low, std::nextafter(low, Infinity), low / 2 + band.fHigh / 2,
                                    std::nextafter(band.fHigh, 0.0), band.fHigh}) {
             ASSERT_TRUE(columns.Contains(x.Pixel(value))) << value << " on " << x.Pixel(value) << " of "
                                                           << columns.nFirst << " to " << columns.nLast;
         }
     }
     // Wide enough to be of use: most of a column.
-    const CMapper x(kLogScale);
+    const CMapper x(LogScale);
     const ColumnWalk::TBand band = ColumnWalk::SureBand(x, {300, 300});
     EXPECT_NEAR(x.Place(band.fLow), 300, 1e-6);
     EXPECT_NEAR(x.Place(band.fHigh), 301, 1e-6);

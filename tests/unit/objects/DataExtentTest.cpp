@@ -12,9 +12,9 @@
 namespace
 {
 
-constexpr TDataExtent kFresh{DBL_MAX, -DBL_MAX, DBL_MAX, -DBL_MAX};
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr TDataExtent Fresh{DBL_MAX, -DBL_MAX, DBL_MAX, -DBL_MAX};
+constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 // Bit for bit, so that the sign of a zero counts.
 void ExpectSame(const TDataExtent& actual, const TDataExtent& expected)
@@ -30,7 +30,7 @@ void ExpectSame(const TDataExtent& actual, const TDataExtent& expected)
 TEST(DataExtent, AFreshExtentTakesTheDatasOwn)
 {
     const std::vector<TDataPoint> points{{1, 5}, {3, -2}, {2, 9}};
-    ExpectSame(DataExtent::Widen(kFresh, points), {1, 3, -2, 9});
+    ExpectSame(DataExtent::Widen(Fresh, points), {1, 3, -2, 9});
 }
 
 TEST(DataExtent, AnExistingExtentOnlyGrows)
@@ -46,19 +46,19 @@ TEST(DataExtent, NoPointsChangeNothing)
 
 TEST(DataExtent, ValuesThatAreNoNumberWidenNothing)
 {
-    const std::vector<TDataPoint> points{{kNan, 1}, {2, kNan}, {kNan, kNan}, {1, 2}, {kNan, 7}};
-    ExpectSame(DataExtent::Widen(kFresh, points), {1, 2, 1, 7});
+    const std::vector<TDataPoint> points{{Nan, 1}, {2, Nan}, {Nan, Nan}, {1, 2}, {Nan, 7}};
+    ExpectSame(DataExtent::Widen(Fresh, points), {1, 2, 1, 7});
 }
 
 TEST(DataExtent, NothingButNanLeavesAFreshExtent)
 {
-    ExpectSame(DataExtent::Widen(kFresh, std::vector<TDataPoint>(9, {kNan, kNan})), kFresh);
+    ExpectSame(DataExtent::Widen(Fresh, std::vector<TDataPoint>(9, {Nan, Nan})), Fresh);
 }
 
 TEST(DataExtent, InfinitiesAndDenormalsAreValuesLikeOthers)
 {
-    const std::vector<TDataPoint> points{{kInfinity, -kInfinity}, {5e-324, -5e-324}};
-    ExpectSame(DataExtent::Widen(kFresh, points), {5e-324, kInfinity, -kInfinity, -5e-324});
+    const std::vector<TDataPoint> points{{Infinity, -Infinity}, {5e-324, -5e-324}};
+    ExpectSame(DataExtent::Widen(Fresh, points), {5e-324, Infinity, -Infinity, -5e-324});
 }
 
 TEST(DataExtent, AZeroBoundHasTheSignOfTheFirstZero)
@@ -67,15 +67,15 @@ TEST(DataExtent, AZeroBoundHasTheSignOfTheFirstZero)
     std::vector<TDataPoint> points(8, {-1, 1});
     points[3] = {-0.0, 0.0};
     points[4] = {0.0, -0.0};
-    ExpectSame(DataExtent::Widen(kFresh, points), DataExtent::WidenPlain(kFresh, points));
-    EXPECT_TRUE(std::signbit(DataExtent::Widen(kFresh, points).fMaxX));
-    EXPECT_FALSE(std::signbit(DataExtent::Widen(kFresh, points).fMinY));
+    ExpectSame(DataExtent::Widen(Fresh, points), DataExtent::WidenPlain(Fresh, points));
+    EXPECT_TRUE(std::signbit(DataExtent::Widen(Fresh, points).fMaxX));
+    EXPECT_FALSE(std::signbit(DataExtent::Widen(Fresh, points).fMinY));
 }
 
 TEST(DataExtent, TheFastWalkAgreesWithThePlainOneBitForBit)
 {
     std::mt19937 random(7);
-    const double specials[] = {kNan, kInfinity, -kInfinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
+    const double specials[] = {Nan, Infinity, -Infinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
     for (int round = 0; round < 2000; ++round) {
         std::vector<TDataPoint> points(random() % 70);
         for (TDataPoint& point : points) {
@@ -84,7 +84,7 @@ TEST(DataExtent, TheFastWalkAgreesWithThePlainOneBitForBit)
             };
             point = {draw(), draw()};
         }
-        const TDataExtent start = random() % 2 ? kFresh : TDataExtent{-0.0, 0.0, 1.0, 1.0};
+        const TDataExtent start = random() % 2 ? Fresh : TDataExtent{-0.0, 0.0, 1.0, 1.0};
         ExpectSame(DataExtent::Widen(start, points), DataExtent::WidenPlain(start, points));
     }
 }

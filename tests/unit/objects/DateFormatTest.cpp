@@ -14,7 +14,7 @@ using DateFormat::FormatDate;
 using DateFormat::TDateFields;
 
 // Sunday, 5 July 2026, 09:04:07, the 186th day.
-constexpr TDateFields kDate{2026, 7, 5, 9, 4, 7, 0, 186};
+constexpr TDateFields Date{2026, 7, 5, 9, 4, 7, 0, 186};
 
 TDateFields FieldsOf(const std::tm& broken)
 {
@@ -31,53 +31,53 @@ std::u16string ByRunTime(const wchar_t* format, const std::tm& broken)
 
 TEST(DateFormat, DateAndTime)
 {
-    EXPECT_EQ(FormatDate(u"%Y-%m-%d %H:%M:%S", kDate), u"2026-07-05 09:04:07");
-    EXPECT_EQ(FormatDate(u"%A %a %B %b", kDate), u"Sunday Sun July Jul");
-    EXPECT_EQ(FormatDate(u"%I:%M %p", kDate), u"09:04 AM");
+    EXPECT_EQ(FormatDate(u"%Y-%m-%d %H:%M:%S", Date), u"2026-07-05 09:04:07");
+    EXPECT_EQ(FormatDate(u"%A %a %B %b", Date), u"Sunday Sun July Jul");
+    EXPECT_EQ(FormatDate(u"%I:%M %p", Date), u"09:04 AM");
 }
 
 TEST(DateFormat, TextAroundConversionsStays)
 {
-    EXPECT_EQ(FormatDate(u"am %d. \u5E74", kDate), u"am 05. \u5E74");
-    EXPECT_EQ(FormatDate(u"", kDate), u"");
-    EXPECT_EQ(FormatDate(u"100%%", kDate), u"100%");
+    EXPECT_EQ(FormatDate(u"am %d. \u5E74", Date), u"am 05. \u5E74");
+    EXPECT_EQ(FormatDate(u"", Date), u"");
+    EXPECT_EQ(FormatDate(u"100%%", Date), u"100%");
 }
 
 TEST(DateFormat, UnknownConversionsStandAsText)
 {
-    EXPECT_EQ(FormatDate(u"%Q %k %5d %#Q %# %", kDate), u"%Q %k %5d %#Q %# %");
-    EXPECT_EQ(FormatDate(u"%s %n%i", kDate), u"%s \n%i");
-    EXPECT_EQ(FormatDate(u"%E %EQ %Od %Ed %O", kDate), u"%E %EQ 05 %Ed %O");
+    EXPECT_EQ(FormatDate(u"%Q %k %5d %#Q %# %", Date), u"%Q %k %5d %#Q %# %");
+    EXPECT_EQ(FormatDate(u"%s %n%i", Date), u"%s \n%i");
+    EXPECT_EQ(FormatDate(u"%E %EQ %Od %Ed %O", Date), u"%E %EQ 05 %Ed %O");
 }
 
 TEST(DateFormat, TheAlternateFlagTakesLeadingZerosAndBlanksAway)
 {
-    EXPECT_EQ(FormatDate(u"%#d.%#m.%#y|%#e|%#H:%#M:%#S", kDate), u"5.7.26|5|9:4:7");
-    EXPECT_EQ(FormatDate(u"%#j %#I %#U %#V %#W", kDate), u"186 9 27 27 26");
-    EXPECT_EQ(FormatDate(u"%#D|%#F|%#R|%#T|%#r", kDate), u"7/5/26|2026-7-5|9:4|9:4:7|9:4:7 AM");
-    EXPECT_EQ(FormatDate(u"%#d%d%#Od", kDate), u"5055"); // of the one conversion alone
+    EXPECT_EQ(FormatDate(u"%#d.%#m.%#y|%#e|%#H:%#M:%#S", Date), u"5.7.26|5|9:4:7");
+    EXPECT_EQ(FormatDate(u"%#j %#I %#U %#V %#W", Date), u"186 9 27 27 26");
+    EXPECT_EQ(FormatDate(u"%#D|%#F|%#R|%#T|%#r", Date), u"7/5/26|2026-7-5|9:4|9:4:7|9:4:7 AM");
+    EXPECT_EQ(FormatDate(u"%#d%d%#Od", Date), u"5055"); // of the one conversion alone
 }
 
 TEST(DateFormat, TheAlternateFlagWritesDatesInWords)
 {
-    EXPECT_EQ(FormatDate(u"%#x", kDate), u"Sunday, July 05, 2026");
-    EXPECT_EQ(FormatDate(u"%#c", kDate), u"Sunday, July 05, 2026, 09:04:07");
+    EXPECT_EQ(FormatDate(u"%#x", Date), u"Sunday, July 05, 2026");
+    EXPECT_EQ(FormatDate(u"%#c", Date), u"Sunday, July 05, 2026, 09:04:07");
 }
 
 TEST(DateFormat, ElsewhereTheAlternateFlagIsIgnored)
 {
-    EXPECT_EQ(FormatDate(u"%#a %#A %#b %#B %#h %#p %#X %#g %#G %#u %#w %#%", kDate),
-              FormatDate(u"%a %A %b %B %h %p %X %g %G %u %w %%", kDate));
+    EXPECT_EQ(FormatDate(u"%#a %#A %#b %#B %#h %#p %#X %#g %#G %#u %#w %#%", Date),
+              FormatDate(u"%a %A %b %B %h %p %X %g %G %u %w %%", Date));
 }
 
 TEST(DateFormat, TextThatDoesntFitTheBufferIsEmpty)
 {
-    EXPECT_EQ(FormatDate(std::u16string(255, u'x'), kDate).size(), 255u);
-    EXPECT_EQ(FormatDate(std::u16string(256, u'x'), kDate), u"");
+    EXPECT_EQ(FormatDate(std::u16string(255, u'x'), Date).size(), 255u);
+    EXPECT_EQ(FormatDate(std::u16string(256, u'x'), Date), u"");
     std::u16string many;
     for (int i = 0; i < 100000; ++i)
         many += u"%c";
-    EXPECT_EQ(FormatDate(many, kDate), u"");
+    EXPECT_EQ(FormatDate(many, Date), u"");
 }
 
 TEST(DateFormat, HostileFieldsAreHarmless)

@@ -12,14 +12,14 @@ namespace
 
 using namespace DateTimeSteps;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kSecond = 1.0 / 86400.0;
-const double kNaN = std::nan("");
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double Second = 1.0 / 86400.0;
+const double NaN = std::nan("");
 
 double StepInSeconds(int n, double seconds)
 {
     double step = -1;
-    CalcDateTimeStep(n, 40000.0, 40000.0 + seconds * kSecond, step);
+    CalcDateTimeStep(n, 40000.0, 40000.0 + seconds * Second, step);
     return step * 86400.0;
 }
 
@@ -31,9 +31,9 @@ std::pair<double, double> Adjusted(double lower, double upper, double step)
 
 TEST(WholeSeconds, CountsToTheNearestHalf)
 {
-    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 100.4 * kSecond), 100);
-    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 99.6 * kSecond), 100);
-    EXPECT_EQ(WholeSeconds(40000.0 + 100 * kSecond, 40000.0), -100);
+    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 100.4 * Second), 100);
+    EXPECT_EQ(WholeSeconds(40000.0, 40000.0 + 99.6 * Second), 100);
+    EXPECT_EQ(WholeSeconds(40000.0 + 100 * Second, 40000.0), -100);
 }
 
 TEST(WholeSeconds, FoldsDatesBeforeTheOrigin)
@@ -76,8 +76,8 @@ TEST(CalcDateTimeStep, NoTicksAndNoSpanGiveNoStep)
 
 TEST(CalcDateTimeStep, InfiniteAndUndefinedRangesAreEmpty)
 {
-    for (const auto& [lower, upper] : {std::pair{-kInfinity, kInfinity}, std::pair{0.0, kInfinity},
-                                       std::pair{kNaN, 1.0}, std::pair{-1.7e308, 1.7e308}}) {
+    for (const auto& [lower, upper] : {std::pair{-Infinity, Infinity}, std::pair{0.0, Infinity},
+                                       std::pair{NaN, 1.0}, std::pair{-1.7e308, 1.7e308}}) {
         double step = 7;
         EXPECT_FALSE(CalcDateTimeStep(5, lower, upper, step));
         EXPECT_EQ(step, 7);
@@ -86,7 +86,7 @@ TEST(CalcDateTimeStep, InfiniteAndUndefinedRangesAreEmpty)
 
 TEST(AdjustDateTimeRange, BoundsLandOnWholeStepsSince1970)
 {
-    const double day = kEpoch + 15000;
+    const double day = Epoch + 15000;
     const auto [lower, upper] = Adjusted(day + 0.3, day + 2.6, 1.0);
     EXPECT_DOUBLE_EQ(lower, day);
     EXPECT_DOUBLE_EQ(upper, day + 3);
@@ -94,50 +94,49 @@ TEST(AdjustDateTimeRange, BoundsLandOnWholeStepsSince1970)
 
 TEST(AdjustDateTimeRange, MultiplesStay)
 {
-    const double day = kEpoch + 15000;
+    const double day = Epoch + 15000;
     EXPECT_EQ(Adjusted(day, day + 2, 1.0), std::pair(day, day + 2));
 }
 
 TEST(AdjustDateTimeRange, ReachesPast2038)
 {
-    const double day = kEpoch + 40000;
+    const double day = Epoch + 40000;
     EXPECT_EQ(Adjusted(day + 0.5, day + 2.5, 1.0), std::pair(day, day + 3));
 }
 
 TEST(AdjustDateTimeRange, BoundsBefore1970WrapInUnsignedSeconds)
 {
-    const auto [lower, upper] = Adjusted(kEpoch - 1.5, kEpoch + 1.5, 1.0);
+    const auto [lower, upper] = Adjusted(Epoch - 1.5, Epoch + 1.5, 1.0);
     const std::uint32_t wrapped = static_cast<std::uint32_t>(-129600) / 86400 * 86400;
-    EXPECT_EQ(lower, wrapped / 24.0 / 3600.0 + kEpoch);
-    EXPECT_EQ(upper, kEpoch + 2);
+    EXPECT_EQ(lower, wrapped / 24.0 / 3600.0 + Epoch);
+    EXPECT_EQ(upper, Epoch + 2);
 }
 
 TEST(AdjustDateTimeRange, StepsUnderASecondChangeNothing)
 {
-    for (const double step : {0.0, -1.0, kNaN, 0.5 * kSecond})
-        EXPECT_EQ(Adjusted(kEpoch + 0.3, kEpoch + 0.6, step), std::pair(kEpoch + 0.3, kEpoch + 0.6))
-            << step;
+    for (const double step : {0.0, -1.0, NaN, 0.5 * Second})
+        EXPECT_EQ(Adjusted(Epoch + 0.3, Epoch + 0.6, step), std::pair(Epoch + 0.3, Epoch + 0.6)) << step;
 }
 
 TEST(AdjustDateTimeRange, StepsBeyond32BitsAreTheSmallestInt)
 {
     constexpr double unit = 2147483648.0; // seconds: the smallest int as an unsigned number
     for (const double step :
-         {2147483700.0 * kSecond, 3e9 * kSecond, 4294967296.0 * kSecond, 1e300, kInfinity}) {
-        const auto [lower, upper] = Adjusted(kEpoch + 100, kEpoch + 30000, step);
-        EXPECT_EQ(lower, kEpoch) << step;
-        EXPECT_EQ(upper, kEpoch) << step; // two units wrap to none
+         {2147483700.0 * Second, 3e9 * Second, 4294967296.0 * Second, 1e300, Infinity}) {
+        const auto [lower, upper] = Adjusted(Epoch + 100, Epoch + 30000, step);
+        EXPECT_EQ(lower, Epoch) << step;
+        EXPECT_EQ(upper, Epoch) << step; // two units wrap to none
     }
-    EXPECT_EQ(Adjusted(kEpoch + 100, kEpoch + 200, 3e9 * kSecond).second, unit / 24.0 / 3600.0 + kEpoch);
-    EXPECT_EQ(Adjusted(kEpoch, kEpoch, 3e9 * kSecond), std::pair(kEpoch, kEpoch));
+    EXPECT_EQ(Adjusted(Epoch + 100, Epoch + 200, 3e9 * Second).second, unit / 24.0 / 3600.0 + Epoch);
+    EXPECT_EQ(Adjusted(Epoch, Epoch, 3e9 * Second), std::pair(Epoch, Epoch));
 }
 
 TEST(AdjustDateTimeRange, BoundsThatAreNoDatesStay)
 {
-    const auto [lower, upper] = Adjusted(-kInfinity, 1e300, 1.0);
-    EXPECT_EQ(lower, -kInfinity);
+    const auto [lower, upper] = Adjusted(-Infinity, 1e300, 1.0);
+    EXPECT_EQ(lower, -Infinity);
     EXPECT_EQ(upper, 1e300);
-    EXPECT_TRUE(std::isnan(Adjusted(kNaN, 1, 1).first));
+    EXPECT_TRUE(std::isnan(Adjusted(NaN, 1, 1).first));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace
 
 using namespace IndexSearch;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 std::vector<TDataPoint> PointsAt(const std::vector<double>& xs)
 {
@@ -57,8 +57,8 @@ TEST(FindIndexForX, FewerThanTwoPointsGiveZero)
 TEST(FindIndexForX, HostileValuesStayInTheArray)
 {
     EXPECT_EQ(Find({0, 1, 2}, std::nan("")), 0);
-    EXPECT_EQ(Find({0, 1, 2}, kInfinity), 3);
-    EXPECT_EQ(Find({0, 1, 2}, -kInfinity), 0);
+    EXPECT_EQ(Find({0, 1, 2}, Infinity), 3);
+    EXPECT_EQ(Find({0, 1, 2}, -Infinity), 0);
     EXPECT_EQ(Find({1, 1, 1}, 1), 3);
     EXPECT_EQ(Find({std::nan(""), 1, 2}, 1), 0);
 }
@@ -83,7 +83,7 @@ TEST(FindIndexForX, LongWalksStopAtEveryPointThatEndsThem)
     // Level runs with one point out of line, which the walk may not pass.
     constexpr int count = 100;
     for (int odd = 2; odd < count; ++odd) {
-        for (const double value : {-50.0, 50.0, std::nan(""), kInfinity, -kInfinity}) {
+        for (const double value : {-50.0, 50.0, std::nan(""), Infinity, -Infinity}) {
             std::vector<double> xs(count, 10.0);
             xs[0] = 0;
             xs[1] = 1; // so that x itself is the guess
@@ -112,20 +112,20 @@ TEST(FindIndexForX, TheSearchEqualsTheWalkOnAscendingPoints)
         for (double& x : xs)
             x = static_cast<int>(random() % 30) * (random() % 5 == 0 ? 100.0 : 1.0);
         if (random() % 4 == 0)
-            xs.back() = kInfinity;
+            xs.back() = Infinity;
         if (random() % 4 == 0)
-            xs.front() = -kInfinity;
+            xs.front() = -Infinity;
         std::sort(xs.begin(), xs.end());
         const auto points = PointsAt(xs);
         for (const double x :
-             {-1.0, 0.0, 3.0, 14.5, 29.0, 700.0, 1e9, kInfinity, -kInfinity, std::nan("")})
+             {-1.0, 0.0, 3.0, 14.5, 29.0, 700.0, 1e9, Infinity, -Infinity, std::nan("")})
             ASSERT_EQ(FindIndexForXAscending(points, x), FindIndexForX(points, x)) << x;
     }
 }
 
 TEST(IsAscending, AllowsEqualNeighboursAndInfinities)
 {
-    EXPECT_TRUE(IsAscending(PointsAt({-kInfinity, 1, 1, 2, kInfinity})));
+    EXPECT_TRUE(IsAscending(PointsAt({-Infinity, 1, 1, 2, Infinity})));
     EXPECT_TRUE(IsAscending(PointsAt({1})));
     EXPECT_FALSE(IsAscending(PointsAt({1, 2, 1.5})));
     EXPECT_FALSE(IsAscending({}));

@@ -12,7 +12,7 @@ namespace
 
 using namespace LogDecades;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 std::pair<double, double> Walked(double lower, double upper, bool strict)
 {
@@ -86,7 +86,7 @@ TEST(LogWalk, BoundsInTheLastTenthOfADecadeStay)
 TEST(LogWalk, NothingToWalkForHostileBounds)
 {
     EXPECT_EQ(Walked(-1, 0, true), std::pair(-1.0, 0.0));
-    EXPECT_EQ(Walked(kInfinity, kInfinity, false), std::pair(kInfinity, kInfinity));
+    EXPECT_EQ(Walked(Infinity, Infinity, false), std::pair(Infinity, Infinity));
     EXPECT_TRUE(std::isnan(Walked(std::nan(""), 1, false).first));
 }
 
@@ -128,7 +128,7 @@ TEST(LogTicks, BoundsWithoutALogarithmHaveNone)
 TEST(LogTicks, TheWidestBoundsEnd)
 {
     EXPECT_LT(Ticks(std::numeric_limits<double>::denorm_min(), 1.7e308).size(), 10000u);
-    EXPECT_LT(Ticks(1e-300, kInfinity).size(), 10000u);
+    EXPECT_LT(Ticks(1e-300, Infinity).size(), 10000u);
 }
 
 } // namespace

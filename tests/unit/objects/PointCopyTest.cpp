@@ -13,8 +13,8 @@
 namespace
 {
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 // Each fact against the walk that finds it alone, and the copy to the last bit.
 void ExpectTheFactsOf(const std::vector<TDataPoint>& points)
@@ -25,7 +25,7 @@ void ExpectTheFactsOf(const std::vector<TDataPoint>& points)
                 std::memcmp(copy.data(), points.data(), points.size() * sizeof(TDataPoint)) == 0);
     EXPECT_EQ(facts.bAscending, IndexSearch::IsAscending(points));
     for (const TDataExtent& start :
-         {DataExtent::kNothing, TDataExtent{-0.0, 0.0, 0.0, -0.0}, TDataExtent{kNan, kNan, 5, -5}}) {
+         {DataExtent::Nothing, TDataExtent{-0.0, 0.0, 0.0, -0.0}, TDataExtent{Nan, Nan, 5, -5}}) {
         const TDataExtent widened = DataExtent::Widen(start, facts.extent);
         const TDataExtent expected = DataExtent::WidenPlain(start, points);
         EXPECT_EQ(std::memcmp(&widened, &expected, sizeof widened), 0)
@@ -54,7 +54,7 @@ TEST(PointCopy, FindsTheExtentAndTheOrderOfAnyNumberOfPoints)
 TEST(PointCopy, SeesAFallAtEachPlaceOfABlock)
 {
     for (const std::size_t place : {1u, 2u, 510u, 511u, 512u, 513u, 1023u, 1024u, 1499u}) {
-        for (const double value : {-1.0, kNan, kInfinity, -kInfinity}) {
+        for (const double value : {-1.0, Nan, Infinity, -Infinity}) {
             std::vector<TDataPoint> points = Rising(1500);
             points[place].fXVal = value;
             ExpectTheFactsOf(points);
@@ -66,7 +66,7 @@ TEST(PointCopy, SeesAFallAtEachPlaceOfABlock)
 TEST(PointCopy, RandomAndExtremeValuesGiveWhatTheSingleWalksGive)
 {
     std::mt19937 random(12);
-    const double specials[] = {kNan, kInfinity, -kInfinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
+    const double specials[] = {Nan, Infinity, -Infinity, 0.0, -0.0, 5e-324, 1e308, -1e308};
     for (int round = 0; round < 400; ++round) {
         std::vector<TDataPoint> points(random() % 1600);
         for (TDataPoint& point : points) {

@@ -11,8 +11,8 @@ namespace
 
 using namespace TickSteps;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-const double kNaN = std::nan("");
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+const double NaN = std::nan("");
 
 double NiceStep(int n, double lower, double upper, double start = -1)
 {
@@ -55,8 +55,8 @@ TEST(CalcNiceStep, EmptyRangeLeavesTheStep)
 TEST(CalcNiceStep, InfiniteUndefinedAndFallingRangesCountAsEmpty)
 {
     for (const auto& [lower, upper] :
-         {std::pair{-kInfinity, kInfinity}, std::pair{0.0, kInfinity}, std::pair{kNaN, 1.0},
-          std::pair{0.0, kNaN}, std::pair{kInfinity, kInfinity}, std::pair{-1.7e308, 1.7e308},
+         {std::pair{-Infinity, Infinity}, std::pair{0.0, Infinity}, std::pair{NaN, 1.0},
+          std::pair{0.0, NaN}, std::pair{Infinity, Infinity}, std::pair{-1.7e308, 1.7e308},
           std::pair{1.0, 0.0}}) {
         double step = 7;
         EXPECT_FALSE(CalcNiceStep(5, lower, upper, step)) << lower << " to " << upper;
@@ -107,14 +107,14 @@ TEST(FloatRemainder, TakesAThousandMillionAdditionsAtOnce)
 TEST(FloatRemainder, EndsWhereTheSumStopsGrowing)
 {
     EXPECT_EQ(FloatRemainder(1e300, 1), 1e300 - 0x1p53);
-    EXPECT_EQ(FloatRemainder(kInfinity, 1), kInfinity);
-    EXPECT_EQ(FloatRemainder(-kInfinity, 1), -kInfinity);
+    EXPECT_EQ(FloatRemainder(Infinity, 1), Infinity);
+    EXPECT_EQ(FloatRemainder(-Infinity, 1), -Infinity);
     EXPECT_EQ(FloatRemainder(5, 0), 5);
     EXPECT_EQ(FloatRemainder(5, -1), 5);
-    EXPECT_EQ(FloatRemainder(5, kNaN), 5);
-    EXPECT_EQ(FloatRemainder(5, kInfinity), 5);
-    EXPECT_TRUE(std::isnan(FloatRemainder(kNaN, 1)));
-    EXPECT_TRUE(std::isnan(FloatRemainder(kInfinity, kInfinity)));
+    EXPECT_EQ(FloatRemainder(5, NaN), 5);
+    EXPECT_EQ(FloatRemainder(5, Infinity), 5);
+    EXPECT_TRUE(std::isnan(FloatRemainder(NaN, 1)));
+    EXPECT_TRUE(std::isnan(FloatRemainder(Infinity, Infinity)));
     EXPECT_TRUE(std::isfinite(FloatRemainder(1e308, std::numeric_limits<double>::denorm_min())));
 }
 
@@ -133,8 +133,8 @@ TEST(AdjustRange, MultiplesStay)
 TEST(AdjustRange, BoundsWithoutAFiniteResultStay)
 {
     EXPECT_EQ(Adjusted(-1.7e308, 0.0, 1e308).first, -1.7e308);
-    EXPECT_EQ(Adjusted(-kInfinity, kInfinity, 1), std::pair(-kInfinity, kInfinity));
-    EXPECT_TRUE(std::isnan(Adjusted(kNaN, 1, 1).first));
+    EXPECT_EQ(Adjusted(-Infinity, Infinity, 1), std::pair(-Infinity, Infinity));
+    EXPECT_TRUE(std::isnan(Adjusted(NaN, 1, 1).first));
 }
 
 TEST(AdjustRange, BoundsThatTheStepCantReachStay)

@@ -55,8 +55,8 @@ TEST(TickWalk, AStepThatAddsNothingEndsTheWalk)
 
 TEST(TickWalk, EndsAtTheLargestNumberOfTicks)
 {
-    EXPECT_EQ(Count(0, 1e9, 1e-3), kMostTicks);
-    EXPECT_EQ(Count(0, std::numeric_limits<double>::infinity(), 1), kMostTicks);
+    EXPECT_EQ(Count(0, 1e9, 1e-3), MostTicks);
+    EXPECT_EQ(Count(0, std::numeric_limits<double>::infinity(), 1), MostTicks);
 }
 
 TEST(TickWalk, AnInfiniteStepReachesTheEnd)

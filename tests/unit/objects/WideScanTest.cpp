@@ -15,8 +15,8 @@
 namespace
 {
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 class WideScans : public testing::Test
 {
@@ -29,8 +29,8 @@ protected:
     // Mostly within 0 to 10; now and then what is no such number.
     double Draw()
     {
-        static constexpr double specials[] = {kNan,   kInfinity, -kInfinity, 0.0,      -0.0,
-                                              5e-324, -5e-324,   DBL_MAX,    -DBL_MAX, 2147483648.0};
+        static constexpr double specials[] = {Nan,    Infinity, -Infinity, 0.0,      -0.0,
+                                              5e-324, -5e-324,  DBL_MAX,   -DBL_MAX, 2147483648.0};
         if (m_random() % 60 == 0)
             return specials[m_random() % std::size(specials)];
         return static_cast<double>(m_random()) / 4294967296.0 * 10;
@@ -49,7 +49,7 @@ protected:
         std::size_t end = from;
         while (end < points.size() && passes(points[end].fXVal))
             ++end;
-        return from + (end - from) / WideScan::kTurn * WideScan::kTurn;
+        return from + (end - from) / WideScan::Turn * WideScan::Turn;
     }
     std::mt19937 m_random{2026};
 };
@@ -83,7 +83,7 @@ TEST_F(WideScans, BoundsBelongToTheValuesWithinThem)
     for (int round = 0; round < 20000; ++round) {
         const std::vector<TDataPoint> points = Points();
         const std::size_t from = points.empty() ? 0 : m_random() % points.size();
-        const double low = m_random() % 3 == 0 ? -kInfinity : Draw();
+        const double low = m_random() % 3 == 0 ? -Infinity : Draw();
         const double high = m_random() % 2 == 0 ? 9.9 : Draw();
         const std::size_t expected =
             Up(points, from, [&](double value) { return low <= value && value <= high; });
@@ -101,14 +101,14 @@ TEST_F(WideScans, DownwardsATurnEndsAtTheIndexAndTheBoundIsNotAboveItself)
         const double bound = m_random() % 2 == 0 ? 0.1 : points[m_random() % points.size()].fXVal;
         std::size_t expected = from;
         const auto passes = [&](std::size_t last) {
-            for (std::size_t i = 0; i < WideScan::kTurn; ++i) {
+            for (std::size_t i = 0; i < WideScan::Turn; ++i) {
                 if (!(points[last - i].fXVal > bound))
                     return false;
             }
             return true;
         };
-        while (expected >= WideScan::kTurn && passes(expected))
-            expected -= WideScan::kTurn;
+        while (expected >= WideScan::Turn && passes(expected))
+            expected -= WideScan::Turn;
         ASSERT_EQ(WideScan::SkipDownAbove(points, from, bound), expected) << "round " << round;
     }
 }

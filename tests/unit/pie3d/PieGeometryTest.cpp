@@ -18,13 +18,13 @@ void PrintTo(const TRect& rc, std::ostream* out)
 namespace
 {
 
-constexpr float fNear = 0.001f;
-constexpr TRect rcHand{30, 100, 230, 300}; // 200 a side about (130, 200)
+constexpr float Near = 0.001f;
+constexpr TRect Hand{30, 100, 230, 300}; // 200 a side about (130, 200)
 
 std::vector<TProjection> Projected(float incline, float start, const std::vector<float>& sweeps)
 {
     std::vector<TProjection> projections(sweeps.size());
-    ProjectAngles(rcHand, FaceRects(rcHand, incline, 0.5f), start, sweeps, projections);
+    ProjectAngles(Hand, FaceRects(Hand, incline, 0.5f), start, sweeps, projections);
     return projections;
 }
 
@@ -62,27 +62,27 @@ TEST(PieFaces, TiltFlattensAndDepthMovesTheFacesApart)
 
 TEST(PieFaces, WithoutTiltBothFacesAreTheCircle)
 {
-    const TFaces faces = FaceRects(rcHand, 0.0f, 0.5f);
+    const TFaces faces = FaceRects(Hand, 0.0f, 0.5f);
     EXPECT_EQ(faces.nSqueeze, 0);
     EXPECT_EQ(faces.nDepth, 0);
-    EXPECT_EQ(faces.rcUpper, rcHand);
-    EXPECT_EQ(faces.rcLower, rcHand);
+    EXPECT_EQ(faces.rcUpper, Hand);
+    EXPECT_EQ(faces.rcLower, Hand);
 }
 
 TEST(PieFaces, ATiltBeyondNinetyTurnsTheRectanglesOver)
 {
-    const TFaces faces = FaceRects(rcHand, 120.0f, 0.0f); // 200 * 120 / 180 = 133.3
+    const TFaces faces = FaceRects(Hand, 120.0f, 0.0f); // 200 * 120 / 180 = 133.3
     EXPECT_EQ(faces.rcUpper, (TRect{30, 233, 230, 167}));
 }
 
 TEST(PieFaces, HugeTiltsAndDepthsStayWithinWhatAWindowCanShow)
 {
     const float huge = std::numeric_limits<float>::max();
-    const TFaces faces = FaceRects(rcHand, huge, huge);
+    const TFaces faces = FaceRects(Hand, huge, huge);
     EXPECT_EQ(faces.nSqueeze, 0x4000);
     EXPECT_EQ(faces.nDepth, 0x4000);
-    const TFaces undefined = FaceRects(rcHand, std::nanf(""), std::nanf(""));
-    EXPECT_EQ(undefined.rcUpper, rcHand);
+    const TFaces undefined = FaceRects(Hand, std::nanf(""), std::nanf(""));
+    EXPECT_EQ(undefined.rcUpper, Hand);
 }
 
 TEST(PieDepth, IsRelativeToTheTiltOfEightyFive)
@@ -102,51 +102,50 @@ TEST(PieAngle, FullTurnsAreTakenOff)
 
 TEST(PieAngle, OfAPointGoesClockwiseFromTheRight)
 {
-    EXPECT_FLOAT_EQ(AngleOfPoint({230, 200}, rcHand), 0.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({140, 210}, rcHand), 45.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({130, 210}, rcHand), 90.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({120, 210}, rcHand), 135.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({30, 200}, rcHand), 180.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({120, 190}, rcHand), 225.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({130, 190}, rcHand), 270.0f);
-    EXPECT_FLOAT_EQ(AngleOfPoint({140, 190}, rcHand), 315.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({230, 200}, Hand), 0.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({140, 210}, Hand), 45.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({130, 210}, Hand), 90.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({120, 210}, Hand), 135.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({30, 200}, Hand), 180.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({120, 190}, Hand), 225.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({130, 190}, Hand), 270.0f);
+    EXPECT_FLOAT_EQ(AngleOfPoint({140, 190}, Hand), 315.0f);
 }
 
 TEST(PieAngle, OfTheCentreIsZero)
 {
-    EXPECT_EQ(AngleOfPoint({130, 200}, rcHand), 0.0f);
+    EXPECT_EQ(AngleOfPoint({130, 200}, Hand), 0.0f);
 }
 
 TEST(PieRim, PointsLieOnTheCircleWithIntegerHalves)
 {
     const TPointF down = RimPoint({30, 100, 181, 251}, 90.0f); // 151 / 2 = 75 about (105, 175)
-    EXPECT_NEAR(down.x, 105, fNear);
-    EXPECT_NEAR(down.y, 250, fNear);
-    const TPointF left = RimPoint(rcHand, 180.0f);
-    EXPECT_NEAR(left.x, 30, fNear);
-    EXPECT_NEAR(left.y, 200, fNear);
+    EXPECT_NEAR(down.x, 105, Near);
+    EXPECT_NEAR(down.y, 250, Near);
+    const TPointF left = RimPoint(Hand, 180.0f);
+    EXPECT_NEAR(left.x, 30, Near);
+    EXPECT_NEAR(left.y, 200, Near);
 }
 
 TEST(PieProjection, AnglesOfAHalvedEllipse)
 {
     // 200 * 45 / 180 = 50: half axes 100 and 50, so 45 degrees become atan(0.5) = 26.565
     const auto projections = Projected(45.0f, 0.0f, {45.0f, 45.0f, 270.0f});
-    EXPECT_NEAR(projections[0].fDrawSweep, 26.565f, fNear);
-    EXPECT_NEAR(projections[1].fDrawSweep, 63.435f, fNear);
-    EXPECT_NEAR(projections[2].fDrawSweep, 270.0f, fNear);
-    EXPECT_NEAR(projections[0].fLabelX, 200.711f, fNear); // 130 + 70.711
-    EXPECT_NEAR(projections[0].fLabelY, 235.355f, fNear); // 200 + 70.711 - 35.355
-    EXPECT_NEAR(projections[1].fLabelY, 250.0f, fNear);
+    EXPECT_NEAR(projections[0].fDrawSweep, 26.565f, Near);
+    EXPECT_NEAR(projections[1].fDrawSweep, 63.435f, Near);
+    EXPECT_NEAR(projections[2].fDrawSweep, 270.0f, Near);
+    EXPECT_NEAR(projections[0].fLabelX, 200.711f, Near); // 130 + 70.711
+    EXPECT_NEAR(projections[0].fLabelY, 235.355f, Near); // 200 + 70.711 - 35.355
+    EXPECT_NEAR(projections[1].fLabelY, 250.0f, Near);
 }
 
 TEST(PieProjection, TheStartAngleIsProjectedToo)
 {
     std::array<TProjection, 1> projections;
     const std::array sweeps{90.0f};
-    const float start =
-        ProjectAngles(rcHand, FaceRects(rcHand, 45.0f, 0.5f), 45.0f, sweeps, projections);
-    EXPECT_NEAR(start, 26.565f, fNear);
-    EXPECT_NEAR(projections[0].fDrawSweep, 126.870f, fNear); // to 153.435
+    const float start = ProjectAngles(Hand, FaceRects(Hand, 45.0f, 0.5f), 45.0f, sweeps, projections);
+    EXPECT_NEAR(start, 26.565f, Near);
+    EXPECT_NEAR(projections[0].fDrawSweep, 126.870f, Near); // to 153.435
 }
 
 TEST(PieProjection, WithoutTiltTheAnglesStay)
@@ -154,7 +153,7 @@ TEST(PieProjection, WithoutTiltTheAnglesStay)
     const std::vector<float> sweeps{10.0f, 75.5f, 180.0f, 94.5f};
     const auto projections = Projected(0.0f, 33.0f, sweeps);
     for (std::size_t i = 0; i < sweeps.size(); ++i) {
-        EXPECT_NEAR(projections[i].fDrawSweep, sweeps[i], fNear);
+        EXPECT_NEAR(projections[i].fDrawSweep, sweeps[i], Near);
     }
 }
 
@@ -190,7 +189,7 @@ TEST(PieProjection, SweepsAddUpToAFullTurn)
     for (const TProjection& projection : projections) {
         sum += projection.fDrawSweep;
     }
-    EXPECT_NEAR(sum, 360.0f, fNear);
+    EXPECT_NEAR(sum, 360.0f, Near);
 }
 
 TEST(PieProjection, StaysFiniteForHostileSweeps)
@@ -206,8 +205,8 @@ TEST(PieProjection, StaysFiniteForHostileSweeps)
 
 TEST(PieRects, InsetAndCentredSquares)
 {
-    EXPECT_EQ(Inset(rcHand, 8.0f), (TRectF{38, 108, 184, 184}));
-    EXPECT_EQ(AboutCentre(rcHand, 40.0f), (TRectF{90, 160, 80, 80}));
+    EXPECT_EQ(Inset(Hand, 8.0f), (TRectF{38, 108, 184, 184}));
+    EXPECT_EQ(AboutCentre(Hand, 40.0f), (TRectF{90, 160, 80, 80}));
 }
 
 TEST(PieAngle, DrawableAnglesAreFiniteAndWithinATurn)
@@ -238,7 +237,7 @@ TEST(PieAngle, DrawableAnglesAreFiniteAndWithinATurn)
 namespace
 {
 
-constexpr TRectF rcEllipse{30, 100, 470, 470};
+constexpr TRectF Ellipse{30, 100, 470, 470};
 
 float Outlined(const TRectF& rc, float start, float sweep)
 {
@@ -250,7 +249,7 @@ float Outlined(const TRectF& rc, float start, float sweep)
 TEST(PieOutline, OrdinaryAnglesStay)
 {
     for (const float sweep : {1.0f, 45.0f, 89.5f, 91.0f, 200.0f, 300.0f, -60.0f}) {
-        EXPECT_EQ(Outlined(rcEllipse, 33.0f, sweep), sweep);
+        EXPECT_EQ(Outlined(Ellipse, 33.0f, sweep), sweep);
         EXPECT_EQ(Outlined({30, 200, 470, 60}, 33.0f, sweep), sweep);
     }
 }
@@ -259,10 +258,10 @@ TEST(PieOutline, SweepsAboutWholeQuartersEndJustShortOfThem)
 {
     for (const float quarters : {90.0f, 180.0f, 270.0f, 360.0f}) {
         for (const float beyond : {-1e-4f, 0.0f, 1e-4f, 0.01f}) {
-            const float sweep = Outlined(rcEllipse, 33.0f, quarters + beyond);
+            const float sweep = Outlined(Ellipse, 33.0f, quarters + beyond);
             EXPECT_LT(sweep, quarters - 1e-4f);
             EXPECT_NEAR(sweep, quarters, 0.01f);
-            EXPECT_NEAR(Outlined(rcEllipse, 33.0f, -quarters - beyond), -sweep, 0.0002f);
+            EXPECT_NEAR(Outlined(Ellipse, 33.0f, -quarters - beyond), -sweep, 0.0002f);
         }
     }
 }
@@ -280,9 +279,9 @@ TEST(PieOutline, QuartersOfAFlatEllipseAreThoseOfItsCircle)
 TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
 {
     // rise 570 * 4e-7 = 2.3e-4; 235 * (1 - cos(half)) reaches it at a sweep of 0.16 degrees
-    EXPECT_EQ(Outlined(rcEllipse, 10.0f, 0.15f), 0.0f);
-    EXPECT_EQ(Outlined(rcEllipse, 10.0f, -0.15f), 0.0f);
-    EXPECT_NE(Outlined(rcEllipse, 10.0f, 0.17f), 0.0f);
+    EXPECT_EQ(Outlined(Ellipse, 10.0f, 0.15f), 0.0f);
+    EXPECT_EQ(Outlined(Ellipse, 10.0f, -0.15f), 0.0f);
+    EXPECT_NE(Outlined(Ellipse, 10.0f, 0.17f), 0.0f);
     EXPECT_EQ(Outlined({30, 300, 470, 20}, 85.0f, 10.0f), 0.0f); // 10 * (1 - cos) of a half degree
     EXPECT_EQ(Outlined({30, 300, 470, 0.9f}, 0.0f, 200.0f), 0.0f);
     EXPECT_EQ(Outlined({30, 300, 470, 0}, 0.0f, 200.0f), 0.0f);
@@ -292,17 +291,17 @@ TEST(PieOutline, ASliceTooThinForItsArcKeepsItsRadiiDownToAThousandthOfADegree)
 {
     float start = 10.0f;
     for (float sweep : {0.15f, 0.01f, 0.001f, -0.001f}) {
-        EXPECT_EQ(OutlineAngles(rcEllipse, start, sweep), EOutline::radii) << sweep;
+        EXPECT_EQ(OutlineAngles(Ellipse, start, sweep), EOutline::radii) << sweep;
     }
     float none = 0.0009f;
-    EXPECT_EQ(OutlineAngles(rcEllipse, start, none), EOutline::nothing);
+    EXPECT_EQ(OutlineAngles(Ellipse, start, none), EOutline::nothing);
     float around = 200.0f;
     EXPECT_EQ(OutlineAngles({30, 300, 470, 0.9f}, start, around), EOutline::nothing);
 }
 
 TEST(PieOutline, RadiiRunFromTheCentreToTheEllipse)
 {
-    const TRadii circle = RadiiOf(rcEllipse, 0.0f, 90.0f);
+    const TRadii circle = RadiiOf(Ellipse, 0.0f, 90.0f);
     EXPECT_EQ(circle.centre, (TPointF{265, 335}));
     EXPECT_NEAR(circle.first.x, 500.0f, 1e-3f);
     EXPECT_NEAR(circle.first.y, 335.0f, 1e-3f);

@@ -10,9 +10,9 @@ using namespace PieLabels;
 namespace
 {
 
-constexpr TRect rcWide{30, 100, 500, 570};  // of 800 x 600
-constexpr TRect rcSmall{30, 100, 180, 250}; // the smallest
-constexpr TRect rcHand{30, 100, 230, 300};  // 200 a side about (130, 200)
+constexpr TRect Wide{30, 100, 500, 570};  // of 800 x 600
+constexpr TRect Small{30, 100, 180, 250}; // the smallest
+constexpr TRect Hand{30, 100, 230, 300};  // 200 a side about (130, 200)
 
 } // namespace
 
@@ -27,11 +27,11 @@ TEST(PieLayout, TheLimitIsTwoThirdsOfTheWindowAndAtLeast180)
 
 TEST(PieLayout, RowsAndMarksGrowWithThePieUpToALimit)
 {
-    const TSizes wide = SizesFor(rcWide);
+    const TSizes wide = SizesFor(Wide);
     EXPECT_EQ(wide.nRowHeight, 25);
     EXPECT_EQ(wide.nMarkWidth, 46);
     EXPECT_EQ(wide.nRowGap, 18);
-    const TSizes small = SizesFor(rcSmall);
+    const TSizes small = SizesFor(Small);
     EXPECT_EQ(small.nRowHeight, 10);
     EXPECT_EQ(small.nMarkWidth, 18);
     EXPECT_EQ(small.nRowGap, 7);
@@ -56,15 +56,15 @@ TEST(PieLayout, HeightThatFitsCountsWholeRows)
 
 TEST(PieLayout, RowsCentreOnThePieAndNeverStartAboveIt)
 {
-    EXPECT_EQ(FirstRow(rcWide, 3, 25, 18), 271); // 335 - 129 / 2
-    EXPECT_EQ(FirstRow(rcWide, 10, 25, 18), 120);
-    EXPECT_EQ(FirstRow(rcWide, 11, 25, 18), 100);
-    EXPECT_EQ(FirstRow(rcWide, 10000, 25, 18), 100);
+    EXPECT_EQ(FirstRow(Wide, 3, 25, 18), 271); // 335 - 129 / 2
+    EXPECT_EQ(FirstRow(Wide, 10, 25, 18), 120);
+    EXPECT_EQ(FirstRow(Wide, 11, 25, 18), 100);
+    EXPECT_EQ(FirstRow(Wide, 10000, 25, 18), 100);
 }
 
 TEST(PieLayout, ColumnsStandRightOfThePie)
 {
-    const TColumns columns = ColumnsFor(rcWide, 46, 760, 60.0f, 50.0f);
+    const TColumns columns = ColumnsFor(Wide, 46, 760, 60.0f, 50.0f);
     EXPECT_EQ(columns.nMarkX, 550);
     EXPECT_EQ(columns.nTextX, 646);
     EXPECT_EQ(columns.fTextWidth, 60.0f);
@@ -74,26 +74,26 @@ TEST(PieLayout, ColumnsStandRightOfThePie)
 
 TEST(PieLayout, ALongTextEndsAtTheScrollBarsInset)
 {
-    EXPECT_EQ(ColumnsFor(rcWide, 46, 760, 114.0f, 0.0f).fTextWidth, 114.0f);
-    EXPECT_EQ(ColumnsFor(rcWide, 46, 760, 114.5f, 0.0f).fTextWidth, 114.0f);
-    EXPECT_EQ(ColumnsFor(rcWide, 46, 600, 10.0f, 0.0f).fTextWidth, -46.0f);
+    EXPECT_EQ(ColumnsFor(Wide, 46, 760, 114.0f, 0.0f).fTextWidth, 114.0f);
+    EXPECT_EQ(ColumnsFor(Wide, 46, 760, 114.5f, 0.0f).fTextWidth, 114.0f);
+    EXPECT_EQ(ColumnsFor(Wide, 46, 600, 10.0f, 0.0f).fTextWidth, -46.0f);
 }
 
 TEST(PieLayout, FontsGrowWithThePieUpToEleven)
 {
-    EXPECT_EQ(LabelFontSize(rcWide), 11);
-    EXPECT_EQ(LabelFontSize(rcSmall), 6);
-    EXPECT_EQ(PercentFontSize(rcWide), 11);
-    EXPECT_EQ(PercentFontSize(rcSmall), 7);
+    EXPECT_EQ(LabelFontSize(Wide), 11);
+    EXPECT_EQ(LabelFontSize(Small), 6);
+    EXPECT_EQ(PercentFontSize(Wide), 11);
+    EXPECT_EQ(PercentFontSize(Small), 7);
 }
 
 TEST(PiePercent, StandsOnTheElementsTrueMiddle)
 {
-    const PieGeometry::TFaces faces = PieGeometry::FaceRects(rcHand, 45.0f, 0.5f);
-    const auto flat = PercentCentre(rcHand, faces, false, 0.0f, 180.0f);
+    const PieGeometry::TFaces faces = PieGeometry::FaceRects(Hand, 45.0f, 0.5f);
+    const auto flat = PercentCentre(Hand, faces, false, 0.0f, 180.0f);
     EXPECT_NEAR(flat.x, 130.0f, 0.001f);
     EXPECT_NEAR(flat.y, 280.0f, 0.001f); // radius 2 * 200 / 5
-    const auto right = PercentCentre(rcHand, faces, false, 300.0f, 120.0f);
+    const auto right = PercentCentre(Hand, faces, false, 300.0f, 120.0f);
     EXPECT_NEAR(right.x, 210.0f, 0.001f);
     EXPECT_NEAR(right.y, 200.0f, 0.001f);
 }
@@ -101,9 +101,9 @@ TEST(PiePercent, StandsOnTheElementsTrueMiddle)
 TEST(PiePercent, IsLiftedOntoTheUpperFaceOfATiltedPie)
 {
     // squeeze 50, depth 12: the upper centre is 188, and 80 loses 50 / 5 * 4
-    const PieGeometry::TFaces faces = PieGeometry::FaceRects(rcHand, 45.0f, 0.5f);
-    EXPECT_NEAR(PercentCentre(rcHand, faces, true, 0.0f, 180.0f).y, 228.0f, 0.001f);
-    EXPECT_NEAR(PercentCentre(rcHand, faces, true, 180.0f, 180.0f).y, 148.0f, 0.001f);
+    const PieGeometry::TFaces faces = PieGeometry::FaceRects(Hand, 45.0f, 0.5f);
+    EXPECT_NEAR(PercentCentre(Hand, faces, true, 0.0f, 180.0f).y, 228.0f, 0.001f);
+    EXPECT_NEAR(PercentCentre(Hand, faces, true, 180.0f, 180.0f).y, 148.0f, 0.001f);
 }
 
 TEST(PieShare, IsThePartOfTheTotal)
