@@ -12,7 +12,7 @@ namespace
 
 constexpr double FrameTime = 1000.0 / 60; // milliseconds
 
-// A dialog tells its owner when it is shown and has nothing more to do: it is then drawn whole,
+// A dialog notifies its owner when it is shown and has nothing more to do: it is then drawn whole,
 // and closed.
 LRESULT CALLBACK OwnerProcedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {

@@ -9,7 +9,7 @@
 #   VANTOPLEX_BUILD     where the prefixes live (wine-env.sh)
 #   VANTOPLEX_DISPLAY   ":77": use this display, which you started (Xvfb :77 -screen 0 1600x1200x24 &),
 #                       and leave Wine's server running for a minute. Quick runs save two seconds each.
-#                       "own": use DISPLAY as it stands, for a person who wants to see the window.
+#                       "own": use DISPLAY as it is, for a person who wants to see the window.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 

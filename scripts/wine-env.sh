@@ -49,7 +49,7 @@ wine_stop_server() {
   timeout 20 "$wine_server_program" -w >/dev/null 2>&1 </dev/null || true
 }
 
-# Xvfb picks a free number itself and tells it, so parallel starts can't collide.
+# Xvfb picks a free number itself and prints it, so parallel starts can't collide.
 wine_start_display() {
   local number
   coproc wine_xvfb { exec setpriv --pdeathsig TERM Xvfb -displayfd 1 -screen 0 1600x1200x24 \

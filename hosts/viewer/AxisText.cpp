@@ -14,7 +14,7 @@ namespace
 constexpr double DaysOfYear = 365.2425;
 constexpr double Epoch1970 = 25569.0;
 constexpr double LastUnsignedSecond = Epoch1970 + 4294967295.0 / 86400.0;
-// From this span on, ticks stand on whole years and their labels name nothing else.
+// From this span on, ticks are on whole years and their labels name nothing else.
 constexpr double YearsAlone = 8 * DaysOfYear;
 constexpr int PartsOfRange = 10; // an axis without a step of its own divides its range so
 

@@ -6,7 +6,7 @@
 namespace Viewer
 {
 
-// A printf format that tells apart the ticks of an axis from `low` to `high`.
+// A printf format that distinguishes the ticks of an axis from `low` to `high`.
 [[nodiscard]] std::u16string NumberFormatFor(double low, double high);
 
 // A strftime format for ticks of an axis over these OLE date-times: years alone over decades,

@@ -14,7 +14,7 @@ class Capture
 public:
     enum class Paint {
         Again, // everything anew, in pieces if the window is larger than the screen
-        AsIs   // what stands there, with all that was drawn over the last frame
+        AsIs   // what is there, with all that was drawn over the last frame
     };
 
     // The client area with its child windows. The window's frame is moved to the screen's corner for

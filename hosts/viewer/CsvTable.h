@@ -26,11 +26,11 @@ struct Table {
     bool endsInsideQuotes = false;
 
     [[nodiscard]] std::size_t Rows() const { return lines.size(); }
-    // By name, first as it stands, then without regard to the case of ASCII letters; null if none.
+    // By name, first as it is written, then without regard to the case of ASCII letters; null if none.
     [[nodiscard]] const Column* Find(std::u16string_view name) const;
 };
 
-// The first row gives the names. If every cell of it is a number or a date, the file has no header:
+// The first row holds the names. If every cell of it is a number or a date, the file has no header:
 // the columns are then called "Column 1", "Column 2"... A name that is empty is called so too, and
 // a name that comes again gets a number behind it. Cells beyond the header are left out.
 // Throws Error(BadData) if there is no row of data.

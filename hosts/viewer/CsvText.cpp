@@ -152,7 +152,7 @@ private:
             ++m_at;
             ReadQuoted(cell);
         }
-        // Also what stands between a closing quote and the separator.
+        // Also what is between a closing quote and the separator.
         const std::size_t start = m_at;
         while (!AtLineEnd() && m_text[m_at] != m_separator) {
             ++m_at;

@@ -25,7 +25,7 @@ struct CsvContents {
     bool endsInsideQuotes = false; // the last quoted cell was never closed: it took all the rest
 };
 
-// The separator is the one of comma, semicolon and tab that stands most often in the first line.
+// The separator is the one of comma, semicolon and tab that occurs most often in the first line.
 // Quotes as in RFC 4180; lines end in LF, CR LF or CR.
 [[nodiscard]] CsvContents SplitCsv(std::u16string_view text);
 

@@ -107,7 +107,7 @@ bool IsOn(HWND check)
     return SendMessageW(check, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
-// By the keys, at each of which the dialog is told.
+// By the keys, at each of which the dialog is notified.
 void ChooseRow(HWND list, const std::u16string& value)
 {
     const auto count = SendMessageW(list, CB_GETCOUNT, 0, 0);

@@ -27,7 +27,7 @@ Points WorkOut(ISGraphDataSerie& curve, Analysis analysis, int parameter)
     case Analysis::CubicTrend:
         Check(curve.GetCubicTrend(&points, 0));
         break;
-    case Analysis::PolynomialTrend: // told by the number of its terms
+    case Analysis::PolynomialTrend: // known by the number of its terms
         Check(curve.GetPolynomialTrend(&points, parameter + 1, 0));
         break;
     case Analysis::SimpleAverage:

@@ -236,7 +236,7 @@ int GraphControl::PixelOnCurve(int curve, int x) const
     int yAxis = 0;
     Check(Curve(curve)->GetYAxis(&yAxis));
     const ComPointer<ISGraphAxis> axis = YAxis(yAxis);
-    // A linear axis, of which the graph tells values for pixels alone.
+    // A linear axis, for which the graph returns values of pixels alone.
     constexpr int distant = 10000;
     double atTop = 0;
     double atFar = 0;

@@ -36,7 +36,7 @@ public:
     [[nodiscard]] bool SnapsCursor() const;
     void ToggleSnap();
 
-    // What the cursor stands on; empty without a curve.
+    // What the cursor is on; empty without a curve.
     [[nodiscard]] std::u16string Reading() const;
     // The pixel of a curve's point at that x of the window.
     [[nodiscard]] int PixelOnCurve(int curve, int x) const;

@@ -60,7 +60,7 @@ void GraphView::Refill(const PlotPlan& plan, const Options& options)
         Check(m_graph->GetYAxis(axis.Receive(), static_cast<int>(at)));
         SetAxis(*axis.Get(), plan.y[at]);
         Check(axis->SetPlacement(at == 0 ? apLeft : apRight));
-        // One grid is enough; keys and colours tell which curve goes with which axis.
+        // One grid is enough; keys and colours show which curve goes with which axis.
         Check(axis->SetShowGrid(at == 0));
         Check(axis->SetShowMarker(plan.y.size() > 1));
         if (plan.y.size() == 2 && plan.curves.size() == 2) {

@@ -1,5 +1,5 @@
 #pragma once
-// What the program tells about itself.
+// What the program says about itself.
 
 #include <string_view>
 

@@ -41,7 +41,7 @@ public:
     void SetEvents(FrameEvents* events) noexcept { m_events = events; }
     void SetTitle(std::u16string_view title);
 
-    // Takes the chart's place away from whatever stands there.
+    // Takes the chart's place away from whatever is there.
     void SetView(std::unique_ptr<ChartView> view);
     [[nodiscard]] ChartView* View() const noexcept { return m_view.get(); }
     [[nodiscard]] RECT ChartPlace() const;

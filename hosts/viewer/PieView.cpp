@@ -81,7 +81,7 @@ void PieView::MoveTo(const RECT& place) noexcept
 {
     MoveWindow(m_window, place.left, place.top, place.right - place.left, place.bottom - place.top,
                TRUE);
-    // The wall is told in pixels, and kept as a part of the window's height.
+    // The wall is known in pixels, and kept as a part of the window's height.
     (void)m_pie->SetDepth(static_cast<float>(m_depth));
 }
 

@@ -27,10 +27,10 @@ public:
     ~Session() override;
 
     // Makes the chart of the document's options. Throws Error; the chart before stays then. The result
-    // tells what was read.
+    // says what was read.
     std::u16string ShowChart();
 
-    // Once the window is seen: lets the animation stand still at the tick of the options.
+    // Once the window is seen: stops the animation at the tick of the options.
     void StopAtTick();
 
     // A menu command. Throws Error.

@@ -358,7 +358,7 @@ void Session::ShowPopup()
     }
 }
 
-// A pie tells its host nothing: after a click one asks.
+// A pie notifies its host of nothing: after a click one asks.
 void Session::OnChartClicked()
 {
     if (m_pie) {

@@ -2,7 +2,7 @@
 // The automation object of the business chart. It forwards to one CGraphObject, which Create
 // makes and which goes with it, window and all. Create comes first: every other method but a
 // getter with a null pointer needs it. A data operation that the chart refuses opens a message
-// box and gives S_OK all the same.
+// box and returns S_OK all the same.
 
 #include "automation/Interfaces.h"
 #include "charts2d/GraphObject.h"

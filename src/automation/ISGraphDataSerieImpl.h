@@ -12,7 +12,7 @@ template <class T, const IID* piid, const GUID* plibid>
 class ISGraphDataSerieImpl : public ISGraphObjectImpl<T, piid, plibid>
 {
 public:
-    // Stands in place of the object's own: a new automation object, apart from the graph that
+    // Takes the place of the object's own: a new automation object, apart from the graph that
     // the curve belongs to.
     STDMETHOD(GetGraph)(IDispatch** pRef) override
     {

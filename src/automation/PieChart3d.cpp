@@ -68,7 +68,7 @@ STDMETHODIMP CPieChart3d::GetHandle(wireHWND* phWnd)
 STDMETHODIMP CPieChart3d::Invalidate(long bErase)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (m_pNative->m_hWnd) // a null handle would stand for every window of the screen
+    if (m_pNative->m_hWnd) // a null handle would mean every window of the screen
         m_pNative->Invalidate(bErase);
     return S_OK;
 }

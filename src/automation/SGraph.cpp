@@ -127,7 +127,7 @@ STDMETHODIMP CSGraph::SetBackgroundBitmap(ISGraphBitmap* pBitmap, UINT)
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (pBitmap) {
         UINT* pHandle = nullptr;
-        pBitmap->GetObjectHandle(&pHandle); // a graph has no background picture to give it to
+        pBitmap->GetObjectHandle(&pHandle); // a graph has no background picture to set
     }
     return S_FALSE;
 }

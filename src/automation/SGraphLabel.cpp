@@ -13,7 +13,7 @@ STDMETHODIMP CSGraphLabel::SetFont(UINT* pLogFontw)
         return S_OK;
     LOGFONTW font;
     std::memcpy(&font, pLogFontw, sizeof font);
-    // The face again as text: what stands behind its end carries nothing.
+    // The face again as text: what is behind its end means nothing.
     font.lfFaceName[LF_FACESIZE - 1] = L'\0';
     const std::size_t length = std::wcslen(font.lfFaceName);
     std::memset(font.lfFaceName + length, 0, (LF_FACESIZE - length) * sizeof(wchar_t));

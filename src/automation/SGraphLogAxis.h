@@ -1,6 +1,6 @@
 #pragma once
 // The automation object of a logarithmic axis. The graph never makes one: a host makes it and
-// sets the handle, so it may stand before a plain axis as well. Its own three methods look at
+// sets the handle, so it may wrap a plain axis as well. Its own three methods look at
 // the class of what is there: on a plain axis they act as the plain axis does, on any other
 // class they do nothing.
 

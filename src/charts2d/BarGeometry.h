@@ -26,7 +26,7 @@ struct TBars {
 [[nodiscard]] std::int32_t Left(const TBars& bars, std::int32_t start, std::int32_t segment,
                                 std::int32_t series) noexcept;
 
-// Trunc(v / M * (H * 0.8)). A maximum of 0 gives no number or an infinity, and so the smallest int.
+// Trunc(v / M * (H * 0.8)). A maximum of 0 leads to NaN or an infinity, and so the smallest int.
 [[nodiscard]] std::int32_t Height(const TBars& bars, std::int32_t value, std::int32_t maximum) noexcept;
 
 // The height of a growing bar: the full height is truncated first, then the part of it.

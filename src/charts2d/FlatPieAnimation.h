@@ -10,7 +10,7 @@ struct CFlatPieAnimation {
     enum EType : std::int32_t { sweep = 10, fade = 11 };
 
     // Starts over; `start` is the radial at which the first slice begins. `on`: 1 animated; any
-    // other value gives the still picture.
+    // other value means the still picture.
     void SetAnimation(std::int32_t on, std::int32_t type, TPoint start) noexcept;
 
     // Starts the same animation over, after a change of a segment.

@@ -27,7 +27,7 @@ inline constexpr double FullCircle = 2.0 * 3.14159265358979323846;
 [[nodiscard]] TPoint ByHalves(TPoint position, TSize size, double angle) noexcept;
 
 // x = Trunc(cos a W 0.5 + W 0.5 + 0.5) + X, y = Trunc(H 0.5 - sin a H 0.5 + 0.5) + Y.
-// An angle outside 0 to the full circle gives no new point: `before` is the result. Percents
+// An angle outside 0 to the full circle yields no new point: `before` is the result. Percents
 // that sum to 100 may sum to an angle a last place above it, which is outside.
 [[nodiscard]] TPoint Rounded(TPoint position, TSize size, double angle, TPoint before) noexcept;
 

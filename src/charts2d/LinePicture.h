@@ -31,7 +31,7 @@ struct TLinePicture {
 namespace LinePicture
 {
 
-// With fewer than two segments, no series, or animation values other than 0 and 1 the axes stand
+// With fewer than two segments, no series, or animation values other than 0 and 1 the axes are
 // alone; an unknown animation has the labels of the value axis and no steps. A frame of an
 // animation moves its end points.
 //

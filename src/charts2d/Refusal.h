@@ -4,7 +4,7 @@
 enum class ERefusal {
     none,
     indexOutOfBounds,        // no segment at that position
-    segmentIndexOutOfBounds, // no such segment to give a value to
+    segmentIndexOutOfBounds, // no such segment to set a value of
     seriesIndexOutOfBounds,  // no such series
     noSegments,              // a series before any segment
     percentNotValid          // a slice of nothing or less

@@ -1,6 +1,6 @@
 #pragma once
 // CColorButton: a button that shows a colour and drops a CColourPopup down to choose another.
-// It tells its parent what happens by the CBM_ messages, sent with the colour as wParam and
+// It reports what happens to its parent by the CBM_ messages, sent with the colour as wParam and
 // the button's control id as lParam.
 
 #include "framework/windowing/Controls.h"

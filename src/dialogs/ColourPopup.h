@@ -1,7 +1,7 @@
 #pragma once
 // CColourPopup: a borderless window with a grid of named colours and two boxes, "Automatic"
 // and "More Colors...", that drops down from a CColorButton. It holds the mouse capture while
-// it is open, tells the button its results by the CBM_ messages, and deletes itself with its
+// it is open, reports its results to the button by the CBM_ messages, and deletes itself with its
 // window.
 
 #include <memory>

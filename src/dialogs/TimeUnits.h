@@ -13,7 +13,7 @@ struct TStep {
     int nUnit;
 };
 
-// Of a step in days. One that is below 0, or has no number of seconds, gives a count that the
+// Of a step in days. One that is below 0, or has no number of seconds, becomes a count that the
 // page refuses.
 [[nodiscard]] TStep Split(double fDays) noexcept;
 

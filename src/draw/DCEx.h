@@ -1,7 +1,7 @@
 #pragma once
 // The canvas of the XY graph: a device context that can multiply all coordinates, so that
 // one paint routine serves the screen and a printer of another resolution and colour depth.
-// Callers give screen pixels. With m_bScaling set the operations below multiply them by
+// Callers pass screen pixels. With m_bScaling set the operations below multiply them by
 // m_fScaleX and m_fScaleY, in float, truncated toward zero; what CDC itself offers beyond
 // them (BitBlt, StretchBlt, TextOut ...) takes the device's own units.
 // Lines and polygons that reach beyond +-2^26 are cut along their own lines first

@@ -10,7 +10,7 @@ class CXGraphAxis;
 namespace CursorText
 {
 // "X[01] : value label". With a date-time axis the date's text is itself taken for a format: a
-// "%%" in it gives one "%", and its first string item takes the label in place of the last one.
+// "%%" in it becomes one "%", and its first string item takes the label in place of the last one.
 [[nodiscard]] CString XAxisLine(int number, const CXGraphAxis& axis, double value);
 
 // "Y[01] : value label", always as a number.

@@ -1,10 +1,10 @@
 #pragma once
-// Where the parts of a graph's frame stand, in pixels.
+// Where the parts of a graph's frame are, in pixels.
 //
 //   client - margins - legend = graph rectangle
 //   graph rectangle - left axes - right axes - X axes = inner plotting rectangle
 //
-// Left axes push the left edge inward one after another, so the first stands nearest the
+// Left axes push the left edge inward one after another, so the first is nearest the
 // margin; right axes and X axes do the same from their sides. A hidden axis takes no room
 // but gets the edge that is current at its turn. Sums wrap like 32-bit machine words.
 

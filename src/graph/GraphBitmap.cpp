@@ -1,4 +1,4 @@
-// Image export: the window as it stands on the screen, as a BMP file.
+// Image export: the window as it is on the screen, as a BMP file.
 
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
@@ -37,7 +37,7 @@ void WriteBitmapFile(const BitmapPacking::Block& block, const CString& strFile)
         file.Write(block.GetData(), static_cast<UINT>(block.GetSize()));
         file.Close();
     } catch (CFileException* pException) {
-        // A full disk is told as little as a file that can't be opened: the result speaks of
+        // A full disk is reported as little as a file that can't be opened: the result speaks of
         // the picture alone.
         pException->Delete();
     }

@@ -1,5 +1,5 @@
 // The graph file: a flags word, then a section for each flag that is set. There is no magic
-// number and no version. Counts are written in 8 bytes and read in 4: the format as it stands.
+// number and no version. Counts are written in 8 bytes and read in 4, which is part of the format.
 
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"
@@ -15,7 +15,7 @@ namespace
 {
 constexpr int BufferSize = 4096;
 
-// Fewest bytes that one element takes, to tell a count that the file can't hold from one it may.
+// Fewest bytes that one element takes: a count of more than the file can hold is refused by it.
 constexpr UINT SmallestCurve = 64;
 constexpr UINT SmallestAxis = 256;
 constexpr UINT SmallestObject = 2; // its tag
@@ -112,7 +112,7 @@ bool CXGraph::Load(const CString& strFile)
 }
 
 // A read that failed half-way may leave curves without their axes or the partner of their fill.
-// Painting one would end the host's process, and a host that was told of the failure will repaint;
+// Painting one would end the host's process, and a host that knows of the failure will repaint;
 // so such curves stay, but unseen.
 void CXGraph::HideIncompleteCurves()
 {

@@ -99,7 +99,7 @@ void CGraphHitTest::ClickAxis(std::size_t nAxis, const TAxisClick& kind)
     if (!inside)
         return;
 
-    // A Y axis tells of its click in any case, an X axis only where nothing else took it.
+    // A Y axis reports its click in any case, an X axis only where nothing else took it.
     if (kind.bAlwaysPosts || !m_bHandled) {
         m_bHandled = true;
         m_Graph.Notify(m_bDblClick ? kind.nDblClick : kind.nClick, nAxis);

@@ -1,5 +1,5 @@
 #pragma once
-// Where the legend and its rows stand, in pixels. The box takes its width and 20 pixels from
+// Where the legend and its rows are, in pixels. The box takes its width and 20 pixels from
 // one side of the graph rectangle; its height is that of its rows and limits nothing.
 //
 //   box   |<- 1 ->| inner box |<- 1 ->|
@@ -23,7 +23,7 @@ struct Extent {
 };
 [[nodiscard]] Extent Measure(std::span<const TSize> texts) noexcept;
 
-// Whether the box has a place at all: it stands on the left or on the right.
+// Whether the box has a place at all: it is on the left or on the right.
 [[nodiscard]] constexpr bool HasBox(EAlignment alignment) noexcept
 {
     return alignment == EAlignment::left || alignment == EAlignment::right;

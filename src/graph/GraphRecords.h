@@ -22,7 +22,7 @@ struct TLegendEntry {
     CXGraphDataSerie* pCurve = nullptr;
 };
 
-// What a dragged data point tells the parent window with XG_POINTCHANGED.
+// What a dragged data point sends to the parent window with XG_POINTCHANGED.
 struct TPointChange {
     int nCurve = 0;
     int nIndex = 0;

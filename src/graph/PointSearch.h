@@ -1,5 +1,5 @@
 #pragma once
-// The point of a curve that an x value stands for.
+// The point of a curve that belongs to an x value.
 
 #include "base/Vocabulary.h"
 

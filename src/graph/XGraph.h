@@ -6,7 +6,7 @@
 // next insertion into or removal from that vector. All geometry is computed by OnPaint;
 // between two frames every conversion of values and pixels rests on the last one.
 //
-// Settings store and don't repaint unless told otherwise. An index outside a list ends in
+// Settings store and don't repaint unless their comment says so. An index outside a list ends in
 // the run-time's invalid-parameter handler, except in operations that return false.
 
 #include "base/Vocabulary.h"
@@ -52,7 +52,7 @@ public:
     CXGraph(const CXGraph&) = delete;
     CXGraph& operator=(const CXGraph&) = delete;
 
-    // Gives a curve its points, makes one axis of each kind where the index is one past the
+    // Sets a curve's points, makes one axis of each kind where the index is one past the
     // end, widens the axes' ranges and repaints. A new curve (nCurve equals the number of
     // curves) copies the array if bAutoDelete is set, else it reads the caller's. An existing
     // curve takes the caller's array itself; bAutoDelete hands its ownership over.
@@ -90,7 +90,7 @@ public:
     CXGraphLabel* InsertLabel(const CRect& rcRect, const CString& strText);
     CXGraphLabel* InsertCenteredLabel(const CString& strText);
 
-    // Copies the window as it stands on the screen into a BMP file. True when the picture
+    // Copies the window as it is on the screen into a BMP file. True when the picture
     // could be taken, whether or not the file could be written.
     bool SaveBitmap(const CString& strFile);
 
@@ -104,7 +104,7 @@ public:
     void Edit();
     void Measure();
 
-    // What lies under m_ptCurrent. A question that only checks tells whether something reacts
+    // What lies under m_ptCurrent. A call that only checks returns whether something reacts
     // there; any other selects, notifies the parent window, opens the property sheet, and gives
     // false. Without m_bInteraction nothing reacts.
     bool HitTest(bool bDblClick, bool bCheckOnly);
@@ -221,7 +221,7 @@ public:
     CXGraphAxis& XAxisOf(const CXGraphDataSerie& curve) { return *GetXAxis(curve.m_nXAxis); }
     CXGraphAxis& YAxisOf(const CXGraphDataSerie& curve) { return *GetYAxis(curve.m_nYAxis); }
 
-    // The objects as they stand, for walks in which one of them may go.
+    // The objects of this moment, for walks in which one of them may go.
     [[nodiscard]] std::vector<TObjectRef> ListObjects() const;
     [[nodiscard]] bool Owns(const TObjectRef& entry) const;
 

@@ -53,7 +53,7 @@ template <class Visit> TEnds WalkEverySegment(const TCurve& curve, Visit&& visit
 namespace Details
 {
 
-// The columns that give no visible segment as long as the walk stays among them.
+// The columns that have no visible segment as long as the walk stays among them.
 [[nodiscard]] inline TColumns SkipFrom(std::int32_t column, TColumns visible) noexcept
 {
     if (column < visible.nFirst)

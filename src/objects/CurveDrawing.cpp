@@ -2,7 +2,7 @@
 // the markers of the second pass.
 //
 // Segments and dots that can't show are not drawn. Solid lines go out as polylines, which
-// give the same pixels as line after line; other pens start their pattern at each line.
+// draw the same pixels as line after line; other pens start their pattern at each line.
 
 #include "objects/XGraphDataSerie.h"
 

@@ -11,7 +11,7 @@ namespace IndexSearch
 
 // Starts where even spacing would put x. From a point past x it steps down to the last one
 // that isn't (or to 0); else it steps up to the first one that is, which may be one behind
-// the end. Fewer than two points give 0.
+// the end. With fewer than two points it is 0.
 [[nodiscard]] int FindIndexForX(std::span<const TDataPoint> points, double x) noexcept;
 
 // The same result for ascending points, found by halving.

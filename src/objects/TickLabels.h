@@ -18,7 +18,7 @@
 class CTickLabels
 {
 public:
-    // Gives the rectangle, in screen units, of a label of a size.
+    // Returns the rectangle, in screen units, of a label of a size.
     using Place = std::function<CRect(CSize)>;
 
     // A label with its text, its size still to be measured.

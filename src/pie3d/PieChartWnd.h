@@ -51,9 +51,9 @@ public:
     int UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem);
     int SetPieElementGradientLight(SPieElement* pItem, float flGradientVal);
     int SetPieElementGradientDark(SPieElement* pItem, float flGradientVal);
-    // Gives every element the light colour of this amount; the elements keep their own amounts.
+    // Sets the light colour of every element by this amount; the elements keep their own amounts.
     int SetPieElementGradientLightAll(float flGradientVal);
-    // Gives every element this amount and its dark colour.
+    // Sets this amount in every element, and its dark colour.
     int SetPieElementGradientDarkAll(float flGradientVal);
     // Descending if bClockWise, else ascending; of equal values the last comes first.
     void sortPiechartElements(long bClockWise);

@@ -28,7 +28,7 @@ void CPieChartWnd::DrawDoughnutSlices(const GdiPlus::CGraphics& graphics)
     for (const auto& [key, element] : m_mapElements) {
         const float sweep = element->fSweep;
         GdiPlus::SetColor(pen, PieColors::LightenColor(element->crColor, 160.0f));
-        // Opposite gradients give the bevelled look.
+        // Opposite gradients make the bevelled look.
         graphics.FillPie(gradient.Between(element->crLight, element->crDark), outer, start, sweep);
         graphics.FillPie(gradient.Between(element->crDark, element->crLight), inner, start, sweep);
         graphics.DrawPie(pen, outer, start, sweep);

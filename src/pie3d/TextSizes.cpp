@@ -3,7 +3,7 @@
 namespace
 {
 
-constexpr std::size_t MostTexts = 20000; // twice the percents that two digits can tell apart
+constexpr std::size_t MostTexts = 20000; // twice the percents that two digits can show
 
 } // namespace
 

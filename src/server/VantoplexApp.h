@@ -7,7 +7,7 @@
 class CVantoplexApp : public CWinApp
 {
 public:
-    // Gives the module object its class table, instance and type library.
+    // Sets the module object's class table, instance and type library.
     BOOL InitInstance() override;
     // Ends the module object: class objects, type information.
     int ExitInstance() override;

@@ -73,7 +73,7 @@ protected:
         ::SendMessageW(Item(id), DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&time));
         return time;
     }
-    // As a user's choice in the picker, which then tells the page.
+    // As a user's choice in the picker, which then notifies the page.
     static void SetTime(int id, SYSTEMTIME time)
     {
         ::SendMessageW(Item(id), DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));

@@ -128,7 +128,7 @@ protected:
         DialogHands::Click(hPage, nButton);
     }
 
-    // Expects a message box from what is done, answers it and gives its text.
+    // Expects a message box from what is done, answers it and returns its text.
     std::wstring BoxFrom(const std::function<void()>& act)
     {
         std::wstring text;

@@ -243,7 +243,7 @@ TEST_F(PropertySheet, OkWithARefusedValueStaysOpen)
          }});
 }
 
-// The double click is told, and answered only where there is something to show.
+// The double click is reported, and answered only where there is something to show.
 TEST_F(PropertySheet, AGraphWithoutDataOpensNone)
 {
     const DialogCloser closer;

@@ -1,6 +1,6 @@
 #pragma once
 // A business chart in a host's window. Unless a test asks for another size, the window is
-// 640 x 400 with a border of one pixel; by the factors of the layout that gives
+// 640 x 400 with a border of one pixel; by the factors of the layout that is
 //
 //   bars and lines: the graph area at (32, 140), 448 x 200; the axes meet at (99, 330)
 //   flat pie:       its box at (32, 140), 320 x 200
@@ -110,7 +110,7 @@ protected:
         return true;
     }
 
-    // The color that `over` gives on `under` with that alpha, within one step of rounding.
+    // The color of `over` on `under` with that alpha, within one step of rounding.
     static testing::AssertionResult IsBlend(COLORREF color, COLORREF under, COLORREF over, int alpha)
     {
         for (int shift = 0; shift <= 16; shift += 8) {

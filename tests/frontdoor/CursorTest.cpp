@@ -41,7 +41,7 @@ protected:
         graph->GetCursor(&x, &y);
         return {x, y};
     }
-    // The row of the curve under a column, told by a forced snap.
+    // The row of the curve under a column, found by a forced snap.
     int CurveRow(int x)
     {
         graph->ForceSnap(0);

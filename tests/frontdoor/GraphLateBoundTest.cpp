@@ -48,7 +48,7 @@ protected:
             << pszName;
         return id;
     }
-    // Arguments stand in reverse in a call.
+    // Arguments come in reverse in a call.
     // The method's own refusal comes as an exception.
     HRESULT Invoke(DISPID id, std::vector<VARIANT> arguments)
     {

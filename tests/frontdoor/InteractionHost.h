@@ -44,10 +44,10 @@ class FrontDoorInteraction : public FrontDoorGraph
 protected:
     static constexpr COLORREF InnerColour = 0x2040F0;
 
-    // One curve from (0, 0) to (10, 10), no legend, and axes that show what they are told.
+    // One curve from (0, 0) to (10, 10), no legend, and axes that show what they are set to.
     void SetUp() override
     {
-        // The pointer of the screen tells its window where it is, and must not be in ours.
+        // The pointer of the screen sends its window moves, and must not be in ours.
         ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
         FrontDoorGraph::SetUp();
         graph->SetShowLegend(0);
@@ -117,7 +117,7 @@ protected:
     void Key(WPARAM nKey) { ::SendMessageW(Handle(), WM_KEYUP, nKey, 0); }
     LRESULT Send(WPARAM nCommand) { return ::SendMessageW(Handle(), WM_COMMAND, nCommand, 0); }
 
-    // What the parent has heard since the last question, without what its children tell it.
+    // What the parent has heard since the last question, without what its children send.
     std::vector<Heard> Heards()
     {
         HostWindow::Pump();

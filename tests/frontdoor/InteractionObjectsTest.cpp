@@ -75,7 +75,7 @@ TEST_F(InteractionObjects, AClickSelectsAndFramesAndOneElsewhereLetsGo)
     Click(Outside);
     EXPECT_FALSE(IsSelected(label.Get()));
     EXPECT_EQ(Shoot().CountDifferences(before), 0);
-    EXPECT_TRUE(Heards().empty()) << "nothing is told of objects";
+    EXPECT_TRUE(Heards().empty()) << "objects notify nobody";
 }
 
 TEST_F(InteractionObjects, AHiddenObjectIsNeverSelected)

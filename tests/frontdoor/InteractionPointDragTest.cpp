@@ -1,4 +1,4 @@
-// Data points moved by hand, and the record that tells of each step.
+// Data points moved by hand, and the record of each step.
 
 #include "InteractionHost.h"
 

@@ -127,7 +127,7 @@ TEST_F(InteractionMarkers, AClickBesideASelectedAxisSetsAMarkerOnIt)
     EXPECT_FALSE(IsSelected(YAxis().Get()));
     Click(At(3, 9));
     EXPECT_EQ(MarkerCount(YAxis().Get()), 1) << "the axis is no longer selected";
-    EXPECT_TRUE(Reacts({At(7, 0).x, At(0, 7).y})) << "the marker stands where the click was";
+    EXPECT_TRUE(Reacts({At(7, 0).x, At(0, 7).y})) << "the marker is where the click was";
     Click(OnXAxis());
     Click(At(8, 3));
     EXPECT_EQ(MarkerCount(XAxis().Get()), 1);

@@ -1,4 +1,4 @@
-// Hosts that act while the graph is in the middle of a message: the system tells them at once
+// Hosts that act while the graph is in the middle of a message: the system calls them at once
 // that they lose the focus, and they may do anything then.
 
 #include "InteractionHost.h"

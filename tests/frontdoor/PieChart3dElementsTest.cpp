@@ -115,7 +115,7 @@ TEST_F(PieChart3dElements, SortingTakesTheLaterOfEqualsFirst)
     EXPECT_EQ(pie->sortPiechartElements(1), S_OK);
     EXPECT_EQ(Marks(), "bgr");
     EXPECT_EQ(At(10), L"e2");
-    EXPECT_EQ(pie->sortPiechartElements(0), S_OK); // of the order that stands now
+    EXPECT_EQ(pie->sortPiechartElements(0), S_OK); // of the order of this moment
     EXPECT_EQ(Marks(), "rgb");
     EXPECT_EQ(pie->sortPiechartElements(0), S_OK);
     EXPECT_EQ(Marks(), "rbg");
@@ -185,7 +185,7 @@ TEST_F(PieChart3dElements, AHugeValueThatGoesTakesTheTotalAlong)
     Fill({1});
     EXPECT_EQ(At(200), L"e0");
     pie->RemoveItem(Text(L"e0"));
-    EXPECT_EQ(At(200), L""); // a total of nothing gives the other no share
+    EXPECT_EQ(At(200), L""); // with a total of nothing the other has no share
     pie->UpdateItemValue(Item(L"e1"), 2);
     EXPECT_EQ(At(200), L"e1");
 }

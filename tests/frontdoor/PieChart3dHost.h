@@ -1,6 +1,6 @@
 #pragma once
-// A 3D pie in a host's window, 800 by 600 unless a test says otherwise: the pie stands at
-// (30, 100, 500, 570), centre (265, 335), radius 235; tilted by 60 its faces stand at
+// A 3D pie in a host's window, 800 by 600 unless a test says otherwise: the pie is at
+// (30, 100, 500, 570), centre (265, 335), radius 235; tilted by 60 its faces are at
 // (30, 217, 500, 375) and (30, 295, 500, 453). The marks of the list are at 550 to 596.
 
 #include "Host.h"

@@ -1,4 +1,4 @@
-// The interface of the 3D pie: what each method gives back, and what it does with nothing.
+// The interface of the 3D pie: what each method returns, and what it does with nothing.
 
 #include "PieChart3dHost.h"
 #include "support/Faults.h"
@@ -49,7 +49,7 @@ TEST_F(PieChart3dMethods, BeforeCreateMessagesAreRefusedAndTheHandleFaults)
     EXPECT_EQ(pie->PostMessage(WM_NULL, 0, 0), S_FALSE);
     EXPECT_EQ(pie->SendMessage(WM_NULL, 0, 0), S_FALSE);
     EXPECT_EQ(pie->GetHandle(nullptr), S_FALSE);
-    // The answer is null by the time of the fault: the filter tells so by its exit code.
+    // The answer is null by the time of the fault: the filter reports it by its exit code.
     static wireHWND hWnd = nullptr;
     hWnd = WireHandle(host.m_hWnd);
     const auto lookAtTheFault = [](EXCEPTION_POINTERS*) -> LONG {

@@ -1,4 +1,4 @@
-// Where the texts of an axis stand, and how they are written.
+// Where the texts of an axis are, and how they are written.
 
 #include "AxisLines.h"
 #include "GraphHost.h"

@@ -60,7 +60,7 @@ TEST_F(BitmapExport, TheFileHoldsTheWindowAsItStandsOnTheScreen)
     EXPECT_EQ(At<WORD>(bytes, 26), 1);
     ASSERT_EQ(At<WORD>(bytes, 28), 32);
     EXPECT_EQ(At<DWORD>(bytes, 30), static_cast<DWORD>(BI_RGB));
-    EXPECT_EQ(At<DWORD>(bytes, 10), 58u); // what the formula gives with 32 bits; the bits start at 54
+    EXPECT_EQ(At<DWORD>(bytes, 10), 58u); // the result of the formula with 32 bits; the bits start at 54
     int nWrong = 0;
     for (int y = 0; y < Height; ++y) {
         for (int x = 0; x < Width; ++x) {

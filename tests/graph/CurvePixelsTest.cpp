@@ -1,4 +1,4 @@
-// The fast painting gives the pixels of the plain one: line after line, dot after dot, every
+// The fast painting draws the pixels of the plain one: line after line, dot after dot, every
 // point of the fill.
 
 #include "GraphHost.h"

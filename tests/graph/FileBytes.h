@@ -296,7 +296,7 @@ inline std::string Bytes(const TBitmap& bitmap)
     return bytes.Raw(bitmap.bits).m_bytes;
 }
 
-// What stands in front of the first object of a class.
+// What comes before the first object of a class.
 inline std::string NewClass(std::string_view name, std::uint16_t nSchema = 1)
 {
     CBytes bytes;

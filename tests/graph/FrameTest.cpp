@@ -1,4 +1,4 @@
-// The frame as it stands in the window.
+// The frame as it is in the window.
 
 #include "GraphHost.h"
 #include "Recording.h"

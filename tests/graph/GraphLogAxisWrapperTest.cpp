@@ -48,7 +48,7 @@ TEST_F(GraphLogAxisWrapper, OnAPlainAxisItActsAsThePlainAxis)
     EXPECT_EQ(wrapper.SetRange(2, 7), S_OK);
     EXPECT_EQ(axis.m_fMin, 2);
     EXPECT_EQ(axis.m_fMax, 7);
-    EXPECT_EQ(wrapper.SetRange(9, 1), S_OK); // refused by the axis, which nobody is told
+    EXPECT_EQ(wrapper.SetRange(9, 1), S_OK); // refused by the axis, which nobody learns
     EXPECT_EQ(axis.m_fMin, 2);
     double fValue = 0;
     EXPECT_EQ(wrapper.GetValueForPos(150, &fValue), S_OK);

@@ -56,7 +56,7 @@ TEST_F(GraphMeasure, TheTextsStandAtTheTopsMiddleAndAtTheRightEdgesMiddle)
 TEST_F(GraphMeasure, ASpanOfExactlyTheTextsSizeShowsNoText)
 {
     Store(1, 20, 0, 70);
-    // Formats without a number give the same text at any width.
+    // Formats without a number make the same text at any width.
     graph.GetXAxis(0)->m_cDisplayFmt = L"xwide";
     graph.GetYAxis(0)->m_cDisplayFmt = L"ytall";
     const CSize sizeX = TextSize(L"xwide");

@@ -131,7 +131,7 @@ TEST_F(Notation, ABoxAboveThePlotIsClipped)
 {
     CXGraphDataNotation& note = Insert(10);
     const Picture without = Picture(graph.m_hWnd);
-    // The point stands so near the top that its box reaches over it.
+    // The point is so near the top that its box reaches over it.
     double fTop = 10;
     while (PixelOf(10, 10).y > graph.m_rcInner.top + 15 && fTop > 8)
         graph.GetYAxis(0)->SetCurrentRange(0, fTop -= 0.05, 0.0);

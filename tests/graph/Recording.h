@@ -1,5 +1,5 @@
 #pragma once
-// One frame of a graph, drawn into an enhanced metafile, and what its records tell.
+// One frame of a graph, drawn into an enhanced metafile, and what its records say.
 
 #include "graph/XGraph.h"
 

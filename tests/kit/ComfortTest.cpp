@@ -30,7 +30,7 @@ protected:
     ~ComfortTest() override { DestroyWindow(m_parent); }
 
     vantoplex::Graph MakeGraph() const { return vantoplex::Graph(m_parent, nullptr, 1, &m_library); }
-    // Values at two pixels of an axis tell its visible range.
+    // Values at two pixels of an axis show its visible range.
     static double ValueAt(const vantoplex::Pointer<ISGraphAxis>& axis, int pixel)
     {
         double value = std::nan("");

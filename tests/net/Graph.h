@@ -36,7 +36,7 @@ public:
 
     ISGraph* operator->() const { return m_graph.Get(); }
     [[nodiscard]] HWND Window() const;
-    // What stands for the native object in notifications.
+    // What identifies the native object in notifications.
     [[nodiscard]] LPARAM Half() const { return m_half; }
 
     Holder<ISGraphDataSerie> Plot(const std::vector<TDataPoint>& points, int nCurve, int nXAxis = 0,

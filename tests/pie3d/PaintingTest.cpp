@@ -10,7 +10,7 @@ namespace
 constexpr COLORREF White = RGB(255, 255, 255);
 constexpr RECT Title = {100, 25, 700, 90};
 
-// The color that the veil of the selection gives, within rounding.
+// The color under the veil of the selection, within rounding.
 testing::AssertionResult IsVeiled(COLORREF color, COLORREF under)
 {
     const int veil[] = {0x6B, 0xE6, 0xFF};

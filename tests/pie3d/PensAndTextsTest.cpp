@@ -1,4 +1,4 @@
-// The pens, fonts and texts of the pie, as GDI+ is asked for them: what pixels cannot tell apart.
+// The pens, fonts and texts of the pie, as GDI+ is asked for them: what pixels do not show.
 
 #include "DrawingCalls.h"
 #include "PieWindow.h"

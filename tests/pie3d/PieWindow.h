@@ -1,6 +1,6 @@
 #pragma once
 // A pie window of its own, in a host's window. Its client area is 800 by 600 unless a test
-// says otherwise: the pie stands at (30, 100, 500, 570), centre (265, 335), radius 235.
+// says otherwise: the pie is at (30, 100, 500, 570), centre (265, 335), radius 235.
 
 #include "pie3d/PieChartWnd.h"
 #include "support/HostWindow.h"
@@ -41,7 +41,7 @@ protected:
         name.Format(L"e%d", number);
         return name;
     }
-    // One colour each, a white background, no texts: what is drawn can be told by its pixel.
+    // One colour each, a white background, no texts: what is drawn is known by its pixel.
     void Plain()
     {
         pie.SetPieElementGradientLightAll(0);

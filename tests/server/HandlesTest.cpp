@@ -1,5 +1,5 @@
 // The handle of the child wrappers, and what all pieces of a graph share. A piece of memory
-// stands in for the native object: these methods read and write fields of it and nothing more.
+// takes the place of the native object: these methods read and write fields of it and nothing more.
 
 #include "support/FaultingCall.h"
 #include "support/LoadedServer.h"

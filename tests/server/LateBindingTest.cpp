@@ -1,6 +1,6 @@
 // Calls that go through the type library: names, numbers, and where the library's entries land
 // in the real method tables. Three interfaces declare methods of their base again; from there on
-// the library's entries run ahead of the table, and past its end stand refusals.
+// the library's entries run ahead of the table, and past its end are refusals.
 
 #include "server/ExpectedInterfaces.h"
 #include "support/LoadedServer.h"
@@ -90,7 +90,7 @@ protected:
     template <class Coclass> Holder<IDispatch> Object() { return server.Make<Coclass, IDispatch>(); }
 
     // Drives every entry that the library counts for an interface's own methods on an object
-    // without a handle, and gives the results that are not S_OK, by number.
+    // without a handle, and returns the results that are not S_OK, by number.
     static std::map<int, HRESULT> Refusals(IUnknown* object, std::span<const ExpectedMethod> methods,
                                            int firstEntry)
     {
@@ -246,7 +246,7 @@ TEST_F(LateBinding, CallsOfALabelLandTwoMethodsFurtherDown)
     EXPECT_EQ(color, 1U);
     label->GetTextColor(&color);
     EXPECT_EQ(color, 0x112233U);
-    // The declaration of the base is in its place, and there the label's own method stands.
+    // The declaration of the base is in its place, and there the label's own method is.
     ASSERT_EQ(Call(label, 11, {Of(0x445566)}), S_OK);
     label->GetColor(&color);
     EXPECT_EQ(color, 0x445566U);

@@ -47,7 +47,7 @@ protected:
     ScriptHost() { EXPECT_EQ(server.Register(), S_OK); }
     ~ScriptHost() override { EXPECT_EQ(server.Unregister(), S_OK); }
 
-    // Runs a script of the language that the extension tells.
+    // Runs a script of the language of the extension.
     static std::string Run(const wchar_t* extension, const std::string& script)
     {
         wchar_t folder[MAX_PATH] = L"";

@@ -62,7 +62,7 @@ def is_in_class(lines, index):
         line = lines[index]
         if re.match(r"(class|struct|template|union)\b", line):
             return True
-        if line.startswith("{"): # what it belongs to stands in the lines before
+        if line.startswith("{"): # what it belongs to is in the lines before
             head = ""
             while index > 0 and lines[index - 1].strip() and not lines[index - 1].startswith(("}", "#")):
                 index -= 1

@@ -42,7 +42,7 @@ public:
     }
 };
 
-// Tells what it was asked to draw and how its rectangle changed.
+// Keeps what it was asked to draw and how its rectangle changed.
 class WatchedTracker : public CRectTracker
 {
 public:

@@ -37,7 +37,7 @@ public:
 
     COLORREF At(int x, int y) const { return m_DC.GetPixel(x, y); }
 
-    // Whether both black and another colour, or the only colour, stand in the rectangle.
+    // Whether both black and another colour, or the only colour, are in the rectangle.
     bool Is(const CRect& rect, COLORREF colour) const
     {
         return Count(rect, colour) == rect.Width() * rect.Height();

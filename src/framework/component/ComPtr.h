@@ -37,7 +37,7 @@ public:
         Release();
         p = pointer;
     }
-    // Gives the reference away.
+    // Hands the reference over.
     [[nodiscard]] T* Detach() noexcept { return std::exchange(p, nullptr); }
 
     template <class Q> HRESULT QueryInterface(Q** pp) const noexcept

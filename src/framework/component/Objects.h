@@ -228,7 +228,7 @@ public:
     }
 };
 
-// A new T(pv), or null where memory ran out, by whichever exception that was told.
+// A new T(pv), or null where memory ran out, whichever exception reported that.
 template <class T> T* AtlNew(void* pv)
 {
     try {

@@ -5,10 +5,10 @@
 // Registering makes the keys and sets the values; a key marked ForceRemove is removed with all
 // below it first, and Delete only removes. Unregistering removes every key of the script that
 // isn't marked NoRemove, with all below it, and of kept keys the named values of the script.
-// Keys that stand right under a root and bear one of the system's names ("CLSID", "TypeLib",
+// Keys that are right under a root and have one of the system's names ("CLSID", "TypeLib",
 // "Software", ...) are never removed, whatever the script says.
 //
-// A text that is no script gives DISP_E_EXCEPTION and changes nothing.
+// A text that is no script returns DISP_E_EXCEPTION and changes nothing.
 
 #include "framework/component/RegistrarScript.h"
 
@@ -30,7 +30,7 @@ public:
     HRESULT StringRegister(std::wstring_view script);
     HRESULT StringUnregister(std::wstring_view script);
 
-    // Makes a text fit to stand between the quotes of a script.
+    // Makes a text fit for the quotes of a script.
     [[nodiscard]] static std::wstring EscapeSingleQuotes(std::wstring_view text);
 
 private:

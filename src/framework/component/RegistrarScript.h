@@ -81,10 +81,10 @@ private:
 // 1 to 255 characters, a value's name up to 16383.
 [[nodiscard]] std::optional<std::vector<Root>> Parse(std::u16string_view text);
 
-// Names of keys that are never removed where they stand right under a root.
+// Names of keys that are never removed where they are right under a root.
 [[nodiscard]] bool IsProtected(std::u16string_view keyName);
 
-// Text doubled in its single quotes, so that it can stand between quotes.
+// Text doubled in its single quotes, so that it can be written between quotes.
 [[nodiscard]] std::u16string EscapeSingleQuotes(std::u16string_view text);
 
 } // namespace RegistrarScript

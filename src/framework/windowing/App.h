@@ -16,7 +16,7 @@ public:
     virtual BOOL InitInstance();
     // The result is the module's exit code.
     virtual int ExitInstance();
-    // The main window of the program, if it told of one; in a server usually null.
+    // The main window of the program, if it set one; in a server usually null.
     [[nodiscard]] virtual CWnd* GetMainWnd();
 
     CWnd* m_pMainWnd = nullptr; // not owned

@@ -31,7 +31,7 @@ CArchive::~CArchive() noexcept(false)
     try {
         Close();
     } catch (CException* e) {
-        e->Delete(); // the exception under way tells of the first failure
+        e->Delete(); // the exception under way reports the first failure
     }
 }
 

@@ -31,10 +31,10 @@ public:
     [[nodiscard]] BOOL IsStoring() const noexcept { return (m_nMode & load) == 0; }
     [[nodiscard]] CFile* GetFile() const noexcept { return m_pFile; }
 
-    // Reads what there is, at most nMax bytes, and gives the number.
+    // Reads what there is, at most nMax bytes, and returns the number.
     UINT Read(void* lpBuf, UINT nMax);
     void Write(const void* lpBuf, UINT nMax);
-    // Storing: writes the buffer out. Loading: gives unread bytes back to the file.
+    // Storing: writes the buffer out. Loading: returns unread bytes to the file.
     void Flush();
     void Close();
     // Drops the buffer and never touches the file again.
@@ -42,13 +42,13 @@ public:
 
     // Reads exactly nCount bytes; less is an end of the file.
     void ReadExactly(void* lpBuf, UINT nCount);
-    // Bytes that the buffer and the rest of the file can still give.
+    // Bytes that the buffer and the rest of the file still hold.
     [[nodiscard]] ULONGLONG GetRemaining() const;
     // Raises the end of the file if nCount elements of nSize bytes can't follow.
     void EnsureRemaining(ULONGLONG nCount, UINT nSize) const;
 
     // Objects through their class records. A null object can't be read back. A new object
-    // belongs to the caller; a reference in the stream gives an object that an earlier call gave.
+    // belongs to the caller; a reference in the stream yields an object that an earlier call returned.
     void WriteObject(const CObject* pOb);
     [[nodiscard]] CObject* ReadObject(const CRuntimeClass* pClass);
     void WriteClass(const CRuntimeClass* pClassRef);

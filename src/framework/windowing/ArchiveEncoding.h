@@ -41,7 +41,7 @@ private:
     std::size_t m_size = 0;
 };
 
-// What stands in front of a UTF-16 text of that many units.
+// What comes before a UTF-16 text of that many units.
 [[nodiscard]] CBytes UnicodeLength(std::uint32_t units) noexcept;
 
 struct TTextLength {
@@ -49,7 +49,7 @@ struct TTextLength {
     bool isUnicode = false;
 };
 
-// Gives the next bytes of a stream as one integer of 1, 2, 4 or 8 bytes; may throw.
+// Returns the next bytes of a stream as one integer of 1, 2, 4 or 8 bytes; may throw.
 using ReadInteger = std::function<std::uint64_t(int width)>;
 
 [[nodiscard]] TTextLength ReadTextLength(const ReadInteger& read);

@@ -53,7 +53,7 @@ void ShowText(HWND control, const CString& text)
     Refuse(pDX, message, idPrompt);
 }
 
-// A number in an edit control, read by `parse`; a text that is none gives the box idPrompt.
+// A number in an edit control, read by `parse`; a text that is none shows the box idPrompt.
 template <class T, class TParse>
 void ExchangeNumber(CDataExchange* pDX, int nIDC, T& value, TParse parse, UINT idPrompt, LPCWSTR format)
 {

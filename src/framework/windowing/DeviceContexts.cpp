@@ -235,7 +235,7 @@ HWND SafeWindow(const CWnd* pWnd)
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(SafeWindow(pWnd))
 {
-    // For a null window the platform would give the screen.
+    // For a null window the platform would return the screen.
     if (!m_hWnd || !Attach(::BeginPaint(m_hWnd, &m_ps)))
         AfxThrowResourceException();
 }

@@ -2,7 +2,7 @@
 // Device contexts. A CDC holds two handles: m_hDC, on which it draws, and m_hAttribDC,
 // which it asks for measures and attributes; they are the same unless somebody set them
 // apart. What changes the state goes to both. A CDC that owns its handle deletes it when
-// it is destroyed; CPaintDC, CClientDC and CWindowDC give theirs back to the window.
+// it is destroyed; CPaintDC, CClientDC and CWindowDC return theirs to the window.
 // The virtual operations are those that a recording or scaling context replaces.
 
 #include "framework/windowing/GdiObjects.h"
@@ -22,7 +22,7 @@ public:
 
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
-    // The context stands for a printer's page: set by Attach and CreateDC from the device's
+    // The context is that of a printer's page: set by Attach and CreateDC from the device's
     // technology, and by whoever renders a page into something else.
     BOOL m_bPrinting = FALSE;
 
@@ -193,7 +193,7 @@ private:
 };
 
 // The client area of a window inside WM_PAINT, from BeginPaint to EndPaint.
-// All three throw CResourceException where the window gives no context.
+// All three throw CResourceException where the window has no context to give.
 class CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)

@@ -24,7 +24,7 @@ public:
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     // Runs the dialog until EndDialog, with its owner disabled. The result is that of
     // EndDialog; -1 if the dialog could not be made, IDABORT if its window was destroyed or
-    // the thread is told to quit meanwhile.
+    // the thread has to quit meanwhile.
     virtual INT_PTR DoModal();
     // Ends the modal loop; DoModal then destroys the window.
     void EndDialog(int nResult);

@@ -31,7 +31,7 @@ public:
     using CException::CException;
 };
 
-// Ends an operation that has already told the user why (a failed dialog data exchange).
+// Ends an operation that has already shown the user why (a failed dialog data exchange).
 class CUserException : public CException
 {
     DECLARE_DYNAMIC(CUserException)
@@ -72,7 +72,7 @@ public:
         : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszFileName)
     {
     }
-    // The cause that a system error code stands for.
+    // The cause that a system error code means.
     [[nodiscard]] static int OsErrorToException(LONG lOsError) noexcept;
 
     int m_cause;

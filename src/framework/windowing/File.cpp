@@ -87,7 +87,7 @@ void CFile::Write(const void* lpBuf, UINT nCount)
     DWORD written = 0;
     if (!::WriteFile(m_hFile, lpBuf, nCount, &written, nullptr))
         ThrowOsError(m_strFileName, ::GetLastError());
-    if (written != nCount) // the system tells of a full disk by a short count
+    if (written != nCount) // the system reports a full disk by a short count
         AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
 }
 

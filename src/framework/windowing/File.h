@@ -1,6 +1,6 @@
 #pragma once
 // A binary file on the system's file functions. It owns its handle; the destructor closes it.
-// Open tells of a failure by its result, all other operations by a CFileException.
+// Open reports a failure by its result, all other operations by a CFileException.
 
 #include "framework/windowing/Object.h"
 #include "framework/windowing/Strings.h"

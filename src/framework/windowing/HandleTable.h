@@ -68,7 +68,7 @@ public:
     }
 
     // Those of one thread, or all for 0. They leave the table before they are destroyed, so a
-    // destructor can tell by its empty link that the handle isn't its own.
+    // destructor sees by its empty link that the handle isn't its own.
     void DeleteTemporaries(DWORD thread) noexcept
     {
         const Lock lock(m_Lock);

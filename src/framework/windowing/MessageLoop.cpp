@@ -20,7 +20,7 @@ bool IsTaken(MSG message) noexcept
     } catch (CException* e) {
         e->Delete();
     } catch (...) {
-        // Nobody to tell: the caller is the system.
+        // Nobody to report to: the caller is the system.
     }
     return false;
 }

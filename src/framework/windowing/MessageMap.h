@@ -1,7 +1,7 @@
 #pragma once
-// The entries of message maps. Each macro names a handler of the class whose map it stands
+// The entries of message maps. Each macro names a handler of the class whose map it is
 // in; the signature beside it says what the handler looks like, takes its arguments from the
-// message and gives its result. Window.h has the classes, CmdTarget.h the tables.
+// message and returns its result. Window.h has the classes, CmdTarget.h the tables.
 
 #include <type_traits>
 

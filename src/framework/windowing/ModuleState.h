@@ -50,7 +50,7 @@ private:
 [[nodiscard]] AFX_MODULE_STATE* AfxGetStaticModuleState() noexcept;
 // The state that is current on this thread; the static one if none was set.
 [[nodiscard]] AFX_MODULE_STATE* AfxGetModuleState() noexcept;
-// Makes a state current (null: none) and gives the one set before, or null.
+// Makes a state current (null: none) and returns the one set before, or null.
 AFX_MODULE_STATE* AfxSetModuleState(AFX_MODULE_STATE* pNewState);
 
 [[nodiscard]] inline HINSTANCE AfxGetInstanceHandle() noexcept

@@ -1,5 +1,5 @@
 #pragma once
-// Numbers that a user types into an edit control. Blanks and tabs may stand around them,
+// Numbers that a user types into an edit control. Blanks and tabs may surround them,
 // nothing else. The decimal sign is the point whatever the system's settings are, and there
 // is no sign between thousands.
 

@@ -1,6 +1,6 @@
 #pragma once
 // A rectangle with a frame and eight handles that the user drags with the mouse. It draws
-// itself, tells which part lies under a point, shows the fitting pointer, and runs the drag
+// itself, finds which part is under a point, shows the fitting pointer, and runs the drag
 // in a message loop of its own until the button comes up, Escape or the right button
 // cancels, or the capture is lost. All coordinates are the window's client coordinates.
 
@@ -40,7 +40,7 @@ public:
 
     UINT m_nStyle = 0;
     CRect m_rect;
-    // Smallest width and height that a drag gives; twice the handle's size by default.
+    // Smallest width and height that a drag leaves; twice the handle's size by default.
     CSize m_sizeMin;
     int m_nHandleSize;
 

@@ -20,7 +20,7 @@ bool Fetch(MSG& message)
     return fetched;
 }
 
-// Gives the capture back on every way out, if it is still ours.
+// Releases the capture on every way out, if it is still ours.
 class CCapture
 {
 public:

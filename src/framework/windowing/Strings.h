@@ -65,7 +65,7 @@ public:
     [[nodiscard]] int CompareNoCase(LPCWSTR other) const noexcept;
 
     // Formats of our own: items of printf with integer, floating and text arguments in order.
-    // Each item takes the next argument of its kind; an item without one stands as it is, so
+    // Each item takes the next argument of its kind; an item without one stays as it is, so
     // no format can read what was not given.
     template <class... Args> void Format(LPCWSTR format, const Args&... args)
     {

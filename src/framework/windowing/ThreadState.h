@@ -21,7 +21,7 @@ public:
     ~CWindowOwnership();
 };
 
-// Which object stands for which window of this thread. Permanent objects belong to somebody;
+// Which object belongs to which window of this thread. Permanent objects belong to somebody;
 // temporary ones belong to the map and end with their scope.
 class CWndMap
 {

@@ -25,7 +25,7 @@ const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
 CWnd::~CWnd()
 {
-    // Temporary objects and the constants above stand for windows that are not theirs.
+    // Temporary objects and the constants above refer to windows that are not theirs.
     if (m_hWnd && IsPermanent(*this)) {
         CWnd::DestroyWindow();
         Detach();

@@ -2,10 +2,10 @@
 // CWnd: an object in front of a window handle.
 //
 // An object that creates or subclasses its window is its permanent wrapper: the window's
-// messages arrive in WindowProc. FromHandle gives such an object, or a temporary one that is
+// messages arrive in WindowProc. FromHandle returns such an object, or a temporary one that is
 // good only for the current call. Objects belong to the thread that made them.
 //
-// The road of a message: WindowProc -> OnWndMsg -> (OnCommand, OnNotify | the message map) ->
+// The way of a message: WindowProc -> OnWndMsg -> (OnCommand, OnNotify | the message map) ->
 // DefWindowProc, which is the procedure that the window had before it was ours. A window may
 // go away inside of any handler, and with it its object: nothing here touches the object
 // after a handler has handled its message.
@@ -57,7 +57,7 @@ public:
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
 
-    // Creation. A null class name stands for AfxRegisterWndClass(0) with the arrow cursor.
+    // Creation. A null class name means AfxRegisterWndClass(0) with the arrow cursor.
     // Create always makes a child window.
     virtual BOOL Create(LPCWSTR lpszClassName, LPCWSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
@@ -69,7 +69,7 @@ public:
     virtual BOOL DestroyWindow();
     // Called when the object has its handle and before its first message.
     virtual void PreSubclassWindow();
-    // FALSE gives the creation up.
+    // FALSE cancels the creation.
     virtual BOOL PreCreateWindow(CREATESTRUCTW& cs);
     // The last thing called for a window; the place for `delete this`.
     virtual void PostNcDestroy();

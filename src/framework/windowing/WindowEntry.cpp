@@ -33,7 +33,7 @@ private:
     bool m_bPumping;
 };
 
-// What the system is told of a message whose handler failed.
+// What the system gets for a message whose handler failed.
 LRESULT ResultOfFailure(HWND hWnd, UINT message) noexcept
 {
     if (message == WM_CREATE)
@@ -63,7 +63,7 @@ LRESULT CALLBACK AFX_WND_ENTRY::Procedure(HWND hWnd, UINT message, WPARAM wParam
     } catch (CException* e) {
         e->Delete();
     } catch (...) {
-        // There is nobody to tell: the caller is the system.
+        // There is nobody to report to: the caller is the system.
     }
     return ResultOfFailure(hWnd, message);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// How the system reaches CWnd: the window procedure, and the hook that gives a window its
+// How the system reaches CWnd: the window procedure, and the hook that attaches a window's
 // object at the moment of its creation, before its first message.
 
 #include <windows.h>

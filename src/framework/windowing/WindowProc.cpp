@@ -1,4 +1,4 @@
-// The road of a message through a window object.
+// The way of a message through a window object.
 
 #include "framework/windowing/DeviceContexts.h"
 #include "framework/windowing/ThreadState.h"

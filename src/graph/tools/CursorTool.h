@@ -1,6 +1,6 @@
 #pragma once
 // The crosshair of opCursor: it snaps in y to a curve and reports what it sits on in the graph's
-// cursor label. It stands at CXGraph::m_ptCurrent, which a snap moves, also where a frame draws it.
+// cursor label. It is at CXGraph::m_ptCurrent, which a snap moves, also where a frame draws it.
 
 #include "framework/windowing/Geometry.h"
 

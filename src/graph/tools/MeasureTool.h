@@ -19,7 +19,7 @@ public:
     void FindNearestPoint(CPoint& point);
     void Keep(); // appends the live measure to the finished ones
 
-    // An empty rectangle stands for the live measure in opMeasure, and takes its place.
+    // An empty rectangle means the live measure in opMeasure, and is replaced by it.
     void DrawMeasure(CDCEx* pDC, CRect& rc);
     void DrawMeasures(CDCEx* pDC); // those that are finished
     void DrawLive(CDCEx* pDC);

@@ -38,7 +38,7 @@ bool CObjectTracker::Click(CPoint point, bool bDblClick)
 {
     bool taken = false;
     for (const TObjectRef& entry : m_Graph.ListObjects()) {
-        // An editor that opens or closes tells the host, which may have removed this one.
+        // An editor that opens or closes notifies the host, which may have removed this one.
         if (!m_Graph.Owns(entry))
             continue;
         CXGraphObject* object = entry.pObject;

@@ -224,7 +224,7 @@ TEST_F(LineTest, SeriesAddedAfterTheStartHasNoLineInProgress)
     EXPECT_EQ(animation.m_pPoints.size(), 1U);
 }
 
-// The platform's conversion gives the smallest int for what isn't a number.
+// The platform's conversion returns the smallest int for what isn't a number.
 TEST_F(LineTest, PartOfALineThatHasNoLengthEndsFarToTheUpperLeft)
 {
     Fill(150, 2);

@@ -17,7 +17,7 @@ namespace
 constexpr std::int32_t SmallestInt = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t LargestInt = std::numeric_limits<std::int32_t>::max();
 
-// Where the segment's line stands at this x.
+// Where the segment's line is at this x.
 double HeightAt(TPoint from, TPoint to, double x)
 {
     const double slope = (double(to.y) - from.y) / (double(to.x) - from.x);

@@ -63,7 +63,7 @@ TEST(DataExtent, InfinitiesAndDenormalsAreValuesLikeOthers)
 
 TEST(DataExtent, AZeroBoundHasTheSignOfTheFirstZero)
 {
-    // The first zero stands where another lane than the first sees it.
+    // The first zero is where another lane than the first sees it.
     std::vector<TDataPoint> points(8, {-1, 1});
     points[3] = {-0.0, 0.0};
     points[4] = {0.0, -0.0};

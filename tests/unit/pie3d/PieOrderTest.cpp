@@ -10,7 +10,7 @@ namespace
 
 using Positions = std::vector<std::size_t>;
 
-// The rule as it is told: pick the best, the last of equals, again and again.
+// The rule in words: pick the best, the last of equals, again and again.
 Positions Picked(std::vector<double> values, bool descending)
 {
     Positions left(values.size());
