@@ -4,6 +4,7 @@
 #include "charts2d/BarGraph.h"
 #include "charts2d/FlatPieGraph.h"
 #include "charts2d/LineGraph.h"
+#include "support/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -57,20 +58,12 @@ std::string Describe(const ENHMETARECORD& record)
 // The drawing records alone, one a line.
 template <class Drawing> std::string Record(Drawing drawing)
 {
-    const HDC hRecording = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    drawing(hRecording);
-    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hRecording);
     std::string lines;
-    ::EnumEnhMetaFile(
-        nullptr, hFile,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM target) {
-            const std::string line = Describe(*record);
-            if (!line.empty())
-                *reinterpret_cast<std::string*>(target) += line + "\n";
-            return 1;
-        },
-        &lines, nullptr);
-    ::DeleteEnhMetaFile(hFile);
+    Recording(drawing).ForEach([&](const ENHMETARECORD& record) {
+        const std::string line = Describe(record);
+        if (!line.empty())
+            lines += line + "\n";
+    });
     return lines;
 }
 

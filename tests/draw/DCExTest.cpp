@@ -1,6 +1,6 @@
 #include "Canvas.h"
 #include "DirectOperations.h"
-#include "Recording.h"
+#include "DrawnLines.h"
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
 
@@ -67,7 +67,7 @@ TEST(DCEx, ScalePointInitialisesTheScaleOnce)
 
 TEST(DCEx, NothingIsMultipliedWithoutScaling)
 {
-    Recording recording;
+    DrawnLines recording;
     CDCEx& dc = recording.dc;
     dc.m_bScaleReady = true;
     dc.m_fScaleX = dc.m_fScaleY = 6.25f;
@@ -81,7 +81,7 @@ TEST(DCEx, NothingIsMultipliedWithoutScaling)
 
 TEST(DCEx, EveryWrappedOperationMultipliesItsCoordinates)
 {
-    Recording recording;
+    DrawnLines recording;
     CDCEx& dc = recording.dc;
     ScaleBy(dc, 2.0f, 3.0f);
     const POINT points[] = {{1, 1}, {2, 1}, {2, 2}};
@@ -106,7 +106,7 @@ TEST(DCEx, EveryWrappedOperationMultipliesItsCoordinates)
 
 TEST(DCEx, PolylineIsScaledLikeItsLines)
 {
-    Recording recording;
+    DrawnLines recording;
     ScaleBy(recording.dc, 2.0f, 3.0f);
     const POINT points[] = {{1, 1}, {2, 1}, {2, 2}};
 
@@ -286,7 +286,7 @@ TEST(DCEx, TextOfARectangleThatBeginsFarOutsideIsDrawnWhereItShows)
 
 TEST(DCEx, ARecordingKeepsTextWhereverItIs)
 {
-    Recording recording;
+    DrawnLines recording;
     CRect remote(5, 1 << 20, 55, (1 << 20) + 20);
     recording.dc.DrawText(L"text", &remote, 0);
     EXPECT_EQ(recording.Lines().size(), 1u);
@@ -303,5 +303,5 @@ TEST(DCEx, WhatCanBeSeenIsInTheCallersUnits)
     EXPECT_TRUE(canvas.dc.Visible().Meets(TRect{500, 500, 29, 9}, 0)) << "inside out";
     EXPECT_FALSE(canvas.dc.Visible().Meets(TRect{35, 0, 40, 5}, 4));
     EXPECT_TRUE(canvas.dc.Visible().Meets(TRect{35, 0, 40, 5}, 5));
-    EXPECT_TRUE(Recording().dc.Visible().Meets(TRect{1 << 30, 1 << 30, 1 << 30, 1 << 30}, 0));
+    EXPECT_TRUE(DrawnLines().dc.Visible().Meets(TRect{1 << 30, 1 << 30, 1 << 30, 1 << 30}, 0));
 }

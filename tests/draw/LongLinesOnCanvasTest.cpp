@@ -1,5 +1,5 @@
 #include "Canvas.h"
-#include "Recording.h"
+#include "DrawnLines.h"
 #include "draw/Selectors.h"
 
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ TEST(LongLinesOnCanvas, ThePenGoesOnFromTheTrueEnd)
 
 TEST(LongLinesOnCanvas, ALineWhollyOutsideDrawsNothing)
 {
-    Recording recording;
+    DrawnLines recording;
 
     recording.dc.MoveTo(INT_MAX, 0);
     recording.dc.LineTo(INT_MAX, 500);
@@ -73,7 +73,7 @@ TEST(LongLinesOnCanvas, ALineWhollyOutsideDrawsNothing)
 
 TEST(LongLinesOnCanvas, TheDeviceSeesNothingBeyondTheLimit)
 {
-    Recording recording;
+    DrawnLines recording;
     const POINT wedge[] = {{0, 0}, {2000000000, 1000000000}, {2000000000, -500000000}};
 
     recording.dc.MoveTo(5, 5);

@@ -1,6 +1,6 @@
 #include "draw/Selectors.h"
 #include "Canvas.h"
-#include "Recording.h"
+#include "DrawnLines.h"
 #include "draw/QuickFont.h"
 #include "framework/windowing/Exceptions.h"
 #include "support/GdiCount.h"

@@ -1,6 +1,6 @@
 // Trends and moving averages as a host gets them: arrays that it frees itself.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <cmath>
 #include <limits>

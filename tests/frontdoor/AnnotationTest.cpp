@@ -1,6 +1,6 @@
 // Labels and notes under a person's hands: selecting, moving, editing, the popup menu, Delete.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
 // The cursor as a host enters, moves and asks for it.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // Save and Load as a host calls them, and printing where nothing can be printed.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include "graph/FileBytes.h"
 #include "support/MessageBoxes.h"

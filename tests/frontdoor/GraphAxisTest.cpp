@@ -1,6 +1,6 @@
 // The axis wrapper and the logarithmic one.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 #include "support/Faults.h"
 
 namespace

@@ -1,6 +1,6 @@
 // The life of the graph's window.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 TEST(GraphBeforeCreate, ItHasNoWindow)
 {

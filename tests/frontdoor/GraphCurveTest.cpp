@@ -1,6 +1,6 @@
 // The curve wrapper.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 namespace
 {

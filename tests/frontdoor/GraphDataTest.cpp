@@ -1,6 +1,6 @@
 // Curves and axes through the graph's interface.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <limits>
 

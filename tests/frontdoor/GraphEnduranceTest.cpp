@@ -1,6 +1,6 @@
 // What graphs leave behind, seen from outside.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 #include "support/GdiCount.h"
 #include "support/PrivateServer.h"
 

@@ -1,6 +1,6 @@
 // How a wrapper holds its object, and what it says of it.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 using GraphHandles = FrontDoorGraph;
 

@@ -1,6 +1,6 @@
 // The label wrapper and the picture wrapper.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 #include "support/Faults.h"
 
 namespace

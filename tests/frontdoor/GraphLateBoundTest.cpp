@@ -1,7 +1,7 @@
 // A client that knows names alone: the graph through GetIDsOfNames and Invoke, as a script
 // calls it.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <algorithm>
 #include <set>

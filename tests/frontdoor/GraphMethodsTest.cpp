@@ -1,7 +1,7 @@
 // No method refuses for want of a native side: each answers with one of the two results that
 // automation methods have.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 // The picture file, and frames of odd data, through the front door.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <cfloat>
 #include <cstring>

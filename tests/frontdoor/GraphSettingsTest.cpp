@@ -1,6 +1,6 @@
 // The graph's settings, and methods whose whole effect is their result.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 #include "support/Faults.h"
 
 using GraphSettings = FrontDoorGraph;

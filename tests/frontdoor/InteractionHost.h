@@ -1,7 +1,7 @@
 #pragma once
 // A graph under a hand: mouse and keys as the window gets them, and what its parent hears.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // Measures as a person drags them and a host deletes them.
 
-#include "GraphHost.h"
+#include "FrontDoorGraph.h"
 
 namespace
 {

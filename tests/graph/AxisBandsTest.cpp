@@ -1,7 +1,7 @@
 // Colour ranges, axis markers, curve keys and arrowheads.
 
 #include "AxisLines.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "draw/Canvas.h"
 
 namespace
@@ -35,27 +35,8 @@ protected:
 
 std::vector<TLine> ArrowLines(int nDirection, int nSize)
 {
-    const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    CDCEx dc;
-    dc.Attach(hDC);
-    CXGraphAxis().DrawAxisArrow(&dc, CPoint(100, 200), nDirection, nSize);
-    dc.Detach();
-    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hDC);
-    std::vector<TLine> lines;
-    ::EnumEnhMetaFile(
-        nullptr, hFile,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
-            auto& found = *reinterpret_cast<std::vector<TLine>*>(lParam);
-            const POINTL& point = reinterpret_cast<const EMRLINETO*>(pRecord)->ptl;
-            if (pRecord->iType == EMR_MOVETOEX)
-                found.push_back({CPoint(point.x, point.y), CPoint()});
-            if (pRecord->iType == EMR_LINETO)
-                found.back().ptTo = CPoint(point.x, point.y);
-            return 1;
-        },
-        &lines, nullptr);
-    ::DeleteEnhMetaFile(hFile);
-    return lines;
+    return LinesOf(Recorded(
+        [&](CDCEx& dc) { CXGraphAxis().DrawAxisArrow(&dc, CPoint(100, 200), nDirection, nSize); }));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The painting of linear axes: margins, ticks, labels, grid, title, line.
 
 #include "AxisLines.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #pragma once
 // The lines and texts of a recorded frame.
 
-#include "Recording.h"
+#include "FrameRecording.h"
 
 #include <algorithm>
 #include <string_view>
@@ -23,16 +23,16 @@ inline void PrintTo(const TLine& line, std::ostream* stream)
 }
 
 // Those drawn line by line, in order.
-inline std::vector<TLine> LinesOf(const FrameRecording& recording)
+inline std::vector<TLine> LinesOf(const Recording& recording)
 {
     std::vector<TLine> lines;
     CPoint pen;
-    recording.ForEach([&](const ENHMETARECORD* pRecord) {
-        if (pRecord->iType != EMR_MOVETOEX && pRecord->iType != EMR_LINETO)
+    recording.ForEach([&](const ENHMETARECORD& record) {
+        if (record.iType != EMR_MOVETOEX && record.iType != EMR_LINETO)
             return;
-        const POINTL& target = reinterpret_cast<const EMRLINETO*>(pRecord)->ptl;
+        const POINTL& target = reinterpret_cast<const EMRLINETO&>(record).ptl;
         const CPoint point(target.x, target.y);
-        if (pRecord->iType == EMR_LINETO)
+        if (record.iType == EMR_LINETO)
             lines.push_back({pen, point});
         pen = point;
     });
@@ -40,10 +40,10 @@ inline std::vector<TLine> LinesOf(const FrameRecording& recording)
 }
 
 // The texts that begin with a mark, without it.
-inline std::vector<std::wstring> TextsOf(const FrameRecording& recording, std::wstring_view mark)
+inline std::vector<std::wstring> TextsOf(const Recording& recording, std::wstring_view mark)
 {
     std::vector<std::wstring> texts;
-    for (const FrameRecording::Text& text : recording.Texts()) {
+    for (const Recording::Text& text : recording.Texts()) {
         if (text.text.starts_with(mark))
             texts.push_back(text.text.substr(mark.size()));
     }

@@ -1,7 +1,7 @@
 // Logarithmic axes: the mode of the plain axis, and the class of its own.
 
 #include "AxisLines.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "objects/XGraphLogAxis.h"
 
 namespace
@@ -41,41 +41,6 @@ protected:
         axis.m_cDisplayFmt = L"L%g";
         axis.m_cLabel.Empty();
     }
-};
-
-// One Draw of an axis, recorded.
-class AxisRecording
-{
-public:
-    explicit AxisRecording(CXGraphAxis& axis)
-    {
-        CDCEx dc;
-        dc.Attach(::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr));
-        axis.Draw(&dc);
-        m_hFile = ::CloseEnhMetaFile(dc.Detach());
-    }
-    ~AxisRecording() { ::DeleteEnhMetaFile(m_hFile); }
-
-    Texts Labels() const
-    {
-        Texts texts;
-        ::EnumEnhMetaFile(
-            nullptr, m_hFile,
-            [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
-                if (pRecord->iType != EMR_EXTTEXTOUTW)
-                    return 1;
-                const auto& text = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord)->emrtext;
-                const auto* pUnits = reinterpret_cast<const wchar_t*>(
-                    reinterpret_cast<const BYTE*>(pRecord) + text.offString);
-                reinterpret_cast<Texts*>(lParam)->emplace_back(pUnits, text.nChars);
-                return 1;
-            },
-            &texts, nullptr);
-        return texts;
-    }
-
-private:
-    HENHMETAFILE m_hFile;
 };
 
 } // namespace
@@ -190,7 +155,9 @@ TEST_F(LogAxis, TheClassDrawsDecadesButNoMarkers)
     axis.SetAxisMarker(0, 50, 0xFF, PS_SOLID);
     axis.SetMaskerLabel(0, L"marker");
     axis.m_bAutoScale = false;
-    EXPECT_EQ(AxisRecording(axis).Labels(), (Texts{L"L1", L"L10", L"L100"}));
+    const Recording recording = Recorded([&](CDCEx& dc) { axis.Draw(&dc); });
+    EXPECT_EQ(TextsOf(recording, L"L"), (Texts{L"1", L"10", L"100"}));
+    EXPECT_EQ(recording.Texts().size(), 3u);
 }
 
 TEST_F(LogAxis, TheClassMapsByLogarithmsWhateverItsType)
@@ -199,7 +166,7 @@ TEST_F(LogAxis, TheClassMapsByLogarithmsWhateverItsType)
     Place(axis);
     axis.SetRange(1, 1000);
     axis.m_bAutoScale = false;
-    AxisRecording drawn(axis);
+    Recorded([&](CDCEx& dc) { axis.Draw(&dc); });
     const int nTen = axis.GetPointForValue({0, 10}).y;
     const int nHundred = axis.GetPointForValue({0, 100}).y;
     EXPECT_NEAR(nTen - nHundred, axis.m_nLength / 3, 1);

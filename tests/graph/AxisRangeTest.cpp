@@ -1,6 +1,6 @@
 // Ranges, steps, markers and colour ranges of an axis.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "objects/TickSteps.h"
 
 #include <algorithm>

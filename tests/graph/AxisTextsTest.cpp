@@ -1,7 +1,7 @@
 // Where the texts of an axis are, and how they are written.
 
 #include "AxisLines.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "WatchedCanvas.h"
 #include "base/Trunc.h"
 

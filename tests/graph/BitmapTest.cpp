@@ -1,6 +1,6 @@
 // Image export.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "framework/windowing/DeviceContexts.h"
 #include "graph/BitmapPacking.h"
 

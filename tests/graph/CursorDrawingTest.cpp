@@ -1,6 +1,6 @@
 // The crosshair: what it snaps to, what it draws, and that a move leaves nothing behind.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "support/GdiCount.h"
 
 #include <cfloat>

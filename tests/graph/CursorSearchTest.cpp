@@ -1,7 +1,7 @@
 // The point under the cursor: the graph's own ascending curves are searched by halving, and the
 // result is that of the walk over any array, to the last bit.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "graph/PointSearch.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The lines of the cursor's box.
 
 #include "graph/CursorText.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 namespace
 {

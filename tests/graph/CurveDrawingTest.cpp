@@ -1,6 +1,6 @@
 // What of a curve becomes pixels, and what of it the mouse can hit.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "WatchedCanvas.h"
 #include "draw/Canvas.h"
 #include "draw/Selectors.h"

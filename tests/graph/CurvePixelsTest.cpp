@@ -1,7 +1,7 @@
 // The fast painting draws the pixels of the plain one: line after line, dot after dot, every
 // point of the fill.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "draw/Canvas.h"
 #include "draw/Selectors.h"
 #include "objects/ColumnWalk.h"

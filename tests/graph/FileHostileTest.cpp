@@ -2,7 +2,7 @@
 // Loading ends by its result, and what it takes of memory is bounded by the file.
 
 #include "FileBytes.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"

@@ -2,7 +2,7 @@
 // caller sees of each failure.
 
 #include "FileBytes.h"
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"

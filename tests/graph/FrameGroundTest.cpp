@@ -1,7 +1,7 @@
 // What a frame leaves out shows nowhere: a window's picture is that of whole rectangles filled one
 // over the other, on a canvas whose device is asked for all that it knows.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "WatchedCanvas.h"
 
 #include <random>

@@ -1,7 +1,7 @@
 // The frame as it is in the window.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 
 namespace
 {
@@ -204,7 +204,7 @@ TEST_F(Frame, TheValueOfADraggedPointStandsBesideThePointer)
     graph.m_PointDrag.m_bPointDragged = true;
     graph.m_PointDrag.m_fEditValue = 1.006;
     graph.m_ptCurrent = CPoint(120, 90);
-    Recording recording(graph);
+    FrameRecording recording(graph);
     const auto texts = recording.Texts();
     ASSERT_EQ(texts.size(), 1u);
     EXPECT_EQ(texts[0].text, L"1.01");
@@ -220,7 +220,7 @@ TEST_F(Frame, TheFrameForgetsTheCursorThatItWipes)
 
 TEST_F(Frame, AGivenTargetIsUsedAsItIs)
 {
-    Recording recording(graph, [](CDCEx& dc) { dc.m_bMono = true; });
+    FrameRecording recording(graph, [](CDCEx& dc) { dc.m_bMono = true; });
     // On a mono target all areas are white.
     const auto fills = recording.FilledColors();
     ASSERT_GE(fills.size(), 3u);
@@ -231,7 +231,7 @@ TEST_F(Frame, AGivenTargetIsUsedAsItIs)
 TEST_F(Frame, AScalingTargetGetsThePageAndAScaledClip)
 {
     graph.m_rcPrint = CRect(0, 0, 200, 100);
-    Recording recording(graph, [](CDCEx& dc) {
+    FrameRecording recording(graph, [](CDCEx& dc) {
         dc.m_bScaleReady = true;
         dc.m_bScaling = true;
         dc.m_fScaleX = 2.0f;
@@ -244,7 +244,7 @@ TEST_F(Frame, AScalingTargetGetsThePageAndAScaledClip)
 TEST_F(Frame, AnUnscaledClipStaysUnscaled)
 {
     graph.m_rcPrint = CRect(0, 0, 200, 100);
-    Recording recording(graph, [](CDCEx& dc) {
+    FrameRecording recording(graph, [](CDCEx& dc) {
         dc.m_bScaleReady = true;
         dc.m_bScaling = true;
         dc.m_bClipScaled = true;

@@ -1,7 +1,7 @@
 // Data, ranges and formats that no sound host would set are plotted without a crash and
 // without a hang. A frame that hangs is ended by the test program's time limit.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include <cfloat>
 #include <limits>

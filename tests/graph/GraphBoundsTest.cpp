@@ -1,6 +1,6 @@
 // An index outside a list ends the process with the run-time's code for a bad parameter.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 // Data entry: what SetData, Autoscale and the operations on the lists do.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include <cfloat>
 

@@ -1,7 +1,7 @@
 // Nothing is left behind: objects of the drawing system, windows and memory stay where they
 // were, however long a graph lives and however many there were.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "support/GdiCount.h"
 
 #include <psapi.h>

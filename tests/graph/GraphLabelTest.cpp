@@ -1,7 +1,7 @@
 // Labels: their defaults, their picture and their bytes.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
@@ -139,32 +139,16 @@ TEST_F(GraphLabel, TieFillFrameTrackerAndTextAreDrawnInThisOrder)
     label->m_bSizing = true;
     label->m_Tracker.m_rect = label->m_rcObject;
     Paint();
-    const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    CDCEx dc;
-    dc.Attach(hDC);
-    label->Draw(&dc);
-    dc.Detach();
-    std::string order;
-    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hDC);
-    ::EnumEnhMetaFile(
-        nullptr, hFile,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
-            auto& found = *reinterpret_cast<std::string*>(lParam);
-            char kind = 0;
-            if (pRecord->iType == EMR_LINETO)
-                kind = 'L';
-            else if (pRecord->iType == EMR_RECTANGLE)
-                kind = 'R';
-            else if (pRecord->iType == EMR_EXTTEXTOUTW)
-                kind = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord)->emrtext.nChars == 0 ? 'F' : 'T';
-            else if (pRecord->iType == EMR_SAVEDC)
-                kind = 'S'; // of the tracker
-            if (kind != 0)
-                found += kind;
-            return 1;
-        },
-        &order, nullptr);
-    ::DeleteEnhMetaFile(hFile);
+    const Recording recording = Recorded([&](CDCEx& dc) { label->Draw(&dc); });
+    const std::string order = recording.Order([](const ENHMETARECORD& record) {
+        if (record.iType == EMR_LINETO)
+            return 'L';
+        if (record.iType == EMR_RECTANGLE)
+            return 'R';
+        if (record.iType == EMR_EXTTEXTOUTW)
+            return Recording::IsFill(record) ? 'F' : 'T';
+        return record.iType == EMR_SAVEDC ? 'S' : '\0'; // of the tracker
+    });
     EXPECT_EQ(order.substr(0, 4), "LFRS") << order;
     EXPECT_EQ(order.back(), 'T') << order;
     EXPECT_EQ(std::count(order.begin(), order.end(), 'T'), 1) << order;
@@ -236,30 +220,17 @@ TEST_F(GraphLabel, ItDrawsTheTieTheBoxTheBorderTheFrameAndLastTheText)
     CXGraphLabel* tied = graph.InsertLabel(CRect(60, 60, 160, 120), L"text");
     tied->m_nCurve = 0;
     tied->BeginSize();
-    const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    CDCEx dc;
-    dc.Attach(hDC);
-    tied->Draw(&dc);
-    dc.Detach();
-    const HENHMETAFILE hFile = ::CloseEnhMetaFile(hDC);
-    std::string drawn; // tie, box, border, anything else as '.', text
-    ::EnumEnhMetaFile(
-        nullptr, hFile,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
-            auto& kinds = *reinterpret_cast<std::string*>(lParam);
-            const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
-            if (pRecord->iType == EMR_LINETO)
-                kinds += 'l';
-            else if (pRecord->iType == EMR_RECTANGLE)
-                kinds += 'r';
-            else if (pRecord->iType == EMR_EXTTEXTOUTW)
-                kinds += pText->emrtext.nChars == 0 ? 'f' : 't';
-            else if (pRecord->iType == EMR_BITBLT)
-                kinds += '.';
-            return 1;
-        },
-        &drawn, nullptr);
-    ::DeleteEnhMetaFile(hFile);
+    const Recording recording = Recorded([&](CDCEx& dc) { tied->Draw(&dc); });
+    // Tie, box, border, anything else as '.', text.
+    const std::string drawn = recording.Order([](const ENHMETARECORD& record) {
+        if (record.iType == EMR_LINETO)
+            return 'l';
+        if (record.iType == EMR_RECTANGLE)
+            return 'r';
+        if (record.iType == EMR_EXTTEXTOUTW)
+            return Recording::IsFill(record) ? 'f' : 't';
+        return record.iType == EMR_BITBLT ? '.' : '\0';
+    });
     ASSERT_GT(drawn.size(), 4u) << "the sizing frame lies between border and text";
     EXPECT_EQ(drawn.substr(0, 3), "lfr");
     EXPECT_EQ(drawn.find('t'), drawn.size() - 1);

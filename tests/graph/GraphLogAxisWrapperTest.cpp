@@ -1,6 +1,6 @@
 // The automation object of a logarithmic axis before objects of several classes.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "automation/SGraphLogAxis.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 // The class, its window and its life.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "framework/windowing/ModuleState.h"
 
 namespace

@@ -1,6 +1,6 @@
 // Fine points of the mouse, the keys, zoom and pan that only the native graph shows.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "graph/DragState.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 // What only the native graph shows of the work of mouse and keys.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "graph/DragState.h"
 #include "objects/XGraphDataNotation.h"
 

@@ -1,7 +1,7 @@
 // Labels under the user's hands: the editor in place, the popup menu, and texts of any length.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 
 namespace
 {
@@ -232,10 +232,10 @@ TEST_F(LabelEditing, OnAMonochromeTargetTheBoxIsWhiteAndTheTextBlack)
     label->m_crTextColor = 0x0000FF;
     COLORREF crText = 1;
     const FrameRecording recording(graph, [](CDCEx& dc) { dc.m_bMono = true; });
-    recording.ForEach([&](const ENHMETARECORD* pRecord) {
-        if (pRecord->iType == EMR_SETTEXTCOLOR)
-            crText = reinterpret_cast<const EMRSETTEXTCOLOR*>(pRecord)->crColor == 0x0000FF ? 0x0000FF
-                                                                                            : crText;
+    recording.ForEach([&](const ENHMETARECORD& record) {
+        if (record.iType == EMR_SETTEXTCOLOR &&
+            reinterpret_cast<const EMRSETTEXTCOLOR&>(record).crColor == 0x0000FF)
+            crText = 0x0000FF;
     });
     EXPECT_EQ(crText, 1u); // its own colour was never set
     for (const COLORREF color : recording.FilledColors())

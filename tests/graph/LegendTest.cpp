@@ -1,7 +1,7 @@
 // The legend beside the graph area.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 
 namespace
 {
@@ -23,7 +23,7 @@ protected:
         ::ReleaseDC(nullptr, hDC);
         return size;
     }
-    static std::vector<std::wstring> RowTexts(const Recording& recording)
+    static std::vector<std::wstring> RowTexts(const FrameRecording& recording)
     {
         std::vector<std::wstring> rows;
         for (const auto& text : recording.Texts()) {
@@ -58,7 +58,7 @@ TEST_F(Legend, RowsAreNumberedByPositionSoHiddenCurvesLeaveGaps)
     AddThree();
     graph.GetCurve(0)->m_bVisible = false;
     const std::vector<std::wstring> expected{L"02 curve number two", L"03 curve 3"};
-    EXPECT_EQ(RowTexts(Recording(graph)), expected);
+    EXPECT_EQ(RowTexts(FrameRecording(graph)), expected);
     ASSERT_EQ(graph.m_LegendEntries.size(), 2u);
     EXPECT_EQ(graph.m_LegendEntries[0].pCurve, graph.GetCurve(1));
     EXPECT_EQ(graph.m_LegendEntries[1].pCurve, graph.GetCurve(2));
@@ -99,7 +99,7 @@ TEST_F(Legend, AtTheTopOrBottomThereIsNoBoxAndNoRow)
     for (const EAlignment alignment :
          {EAlignment::top, EAlignment::bottom, static_cast<EAlignment>(99)}) {
         graph.m_nLegendAlignment = alignment;
-        const Recording recording(graph);
+        const FrameRecording recording(graph);
         EXPECT_EQ(graph.m_rcInner.right, 395);
         EXPECT_TRUE(graph.m_LegendEntries.empty());
         EXPECT_TRUE(RowTexts(recording).empty());
@@ -166,7 +166,7 @@ TEST_F(Legend, LabelsAreTextAndNeverFormats)
 {
     AddLine()->m_cLabel = L"curve %s %n %1000000f";
     const std::vector<std::wstring> expected{L"01 curve %s %n %1000000f"};
-    EXPECT_EQ(RowTexts(Recording(graph)), expected);
+    EXPECT_EQ(RowTexts(FrameRecording(graph)), expected);
 }
 
 TEST_F(Legend, OnAMonochromeTargetBoxAndRowsAreWhiteAndKeysBlack)

@@ -20,11 +20,11 @@ TEST_F(GraphMeasure, OfTwoMeasuresInOneFrameTheSecondLeavesTheGapsOfItsLinesOpen
     graph.m_Measures.push_back({1, 30, 0, 80});
     std::vector<DWORD> modes; // at each dotted line's end
     DWORD nMode = OPAQUE;
-    FrameRecording(graph).ForEach([&](const ENHMETARECORD* pRecord) {
-        if (pRecord->iType == EMR_SETBKMODE)
-            nMode = reinterpret_cast<const EMRSETBKMODE*>(pRecord)->iMode;
-        if (pRecord->iType == EMR_LINETO) {
-            const POINTL to = reinterpret_cast<const EMRLINETO*>(pRecord)->ptl;
+    FrameRecording(graph).ForEach([&](const ENHMETARECORD& record) {
+        if (record.iType == EMR_SETBKMODE)
+            nMode = reinterpret_cast<const EMRSETBKMODE&>(record).iMode;
+        if (record.iType == EMR_LINETO) {
+            const POINTL to = reinterpret_cast<const EMRLINETO&>(record).ptl;
             if (to.x == graph.m_rcInner.right && to.y == Row(8))
                 modes.push_back(nMode);
         }
@@ -62,18 +62,19 @@ TEST_F(GraphMeasure, ASpanOfExactlyTheTextsSizeShowsNoText)
     const CSize sizeX = TextSize(L"xwide");
     const CSize sizeY = TextSize(L"ytall unit");
     const auto drawn = [&](int nWidth, int nHeight) {
-        const HDC hDC = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-        CDCEx dc;
-        dc.Attach(hDC);
-        CRect rc(100, 100, 100 + nWidth, 100 + nHeight);
-        graph.m_MeasureTool.DrawMeasure(&dc, rc);
-        dc.Detach();
-        return TextsOf(::CloseEnhMetaFile(hDC));
+        const Recording recording = Recorded([&](CDCEx& dc) {
+            CRect rc(100, 100, 100 + nWidth, 100 + nHeight);
+            graph.m_MeasureTool.DrawMeasure(&dc, rc);
+        });
+        std::wstring letters;
+        for (const auto& text : recording.Texts())
+            letters += text.text[0];
+        return letters;
     };
-    EXPECT_EQ(drawn(sizeX.cx, sizeY.cy), "");
-    EXPECT_EQ(drawn(sizeX.cx + 1, sizeY.cy), "x");
-    EXPECT_EQ(drawn(sizeX.cx, sizeY.cy + 1), "y");
-    EXPECT_EQ(drawn(-sizeX.cx - 1, -sizeY.cy - 1), "xy");
+    EXPECT_EQ(drawn(sizeX.cx, sizeY.cy), L"");
+    EXPECT_EQ(drawn(sizeX.cx + 1, sizeY.cy), L"x");
+    EXPECT_EQ(drawn(sizeX.cx, sizeY.cy + 1), L"y");
+    EXPECT_EQ(drawn(-sizeX.cx - 1, -sizeY.cy - 1), L"xy");
 }
 
 TEST_F(GraphMeasure, HiddenCurvesAreNearToo)

@@ -1,8 +1,8 @@
 #pragma once
 // A graph with two curves to measure between, and what a frame says of its measures.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"
@@ -66,36 +66,19 @@ protected:
         const CFontSelector select(&font, &dc, true);
         return dc.GetTextExtent(text);
     }
-    // The first letters of the texts of a metafile, which goes.
-    static std::string TextsOf(HENHMETAFILE hFile)
-    {
-        std::string letters;
-        ::EnumEnhMetaFile(
-            nullptr, hFile,
-            [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) -> int {
-                const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
-                if (pRecord->iType == EMR_EXTTEXTOUTW && pText->emrtext.nChars > 0)
-                    *reinterpret_cast<std::string*>(lParam) += static_cast<char>(
-                        reinterpret_cast<const char*>(pRecord)[pText->emrtext.offString]);
-                return 1;
-            },
-            &letters, nullptr);
-        ::DeleteEnhMetaFile(hFile);
-        return letters;
-    }
     bool IsTick(const FrameRecording::Text& text) { return !graph.m_rcInner.PtInRect(text.reference); }
 
     // The corners of the arrows, in their order.
     std::vector<std::vector<CPoint>> Arrows()
     {
         std::vector<std::vector<CPoint>> arrows;
-        FrameRecording(graph).ForEach([&](const ENHMETARECORD* pRecord) {
-            if (pRecord->iType != EMR_POLYGON16)
+        FrameRecording(graph).ForEach([&](const ENHMETARECORD& record) {
+            if (record.iType != EMR_POLYGON16)
                 return;
-            const auto* pPolygon = reinterpret_cast<const EMRPOLYGON16*>(pRecord);
+            const auto& polygon = reinterpret_cast<const EMRPOLYGON16&>(record);
             std::vector<CPoint> corners;
-            for (DWORD i = 0; i < pPolygon->cpts; ++i)
-                corners.emplace_back(pPolygon->apts[i].x, pPolygon->apts[i].y);
+            for (DWORD i = 0; i < polygon.cpts; ++i)
+                corners.emplace_back(polygon.apts[i].x, polygon.apts[i].y);
             arrows.push_back(corners);
         });
         // Those of the axes come first.

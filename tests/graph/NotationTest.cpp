@@ -1,7 +1,7 @@
 // Notes pinned to data points.
 
-#include "GraphHost.h"
-#include "Recording.h"
+#include "NativeGraph.h"
+#include "FrameRecording.h"
 #include "WatchedCanvas.h"
 #include "objects/XGraphDataNotation.h"
 

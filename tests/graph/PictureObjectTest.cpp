@@ -1,6 +1,6 @@
 // Pictures on the graph.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "draw/BitmapEx.h"
 #include "objects/XGraphBitmap.h"
 

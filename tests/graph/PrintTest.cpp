@@ -1,6 +1,6 @@
 // A page on a canvas of another resolution than the screen's, and what the job leaves behind.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"

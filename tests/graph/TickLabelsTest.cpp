@@ -1,6 +1,6 @@
 // Tick labels: what is left out shows nowhere, and what is left out costs nothing.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "WatchedCanvas.h"
 #include "base/Trunc.h"
 #include "draw/Selectors.h"

@@ -1,7 +1,7 @@
 // The module's state around a method that an exception leaves. The exception comes from inside of
 // the native object, which is asked for its class.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "automation/ChildWrappers.h"
 #include "automation/SGraphLabel.h"
 #include "automation/SGraphLogAxis.h"
