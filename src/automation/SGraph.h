@@ -20,7 +20,7 @@ public:
     COM_INTERFACE_ENTRY(IDispatch)
     END_COM_MAP()
 
-    // Data, axes, curves
+    // Window, data, axes, curves, labels and pictures (SGraph.cpp)
     STDMETHOD(SetData)
     (ISGraphDataSerie** pSerie, TDataPoint* pValues, long nCount, int nCurve, int nXAxis, int nYAxis,
      long bAutoDelete) override;
@@ -30,33 +30,43 @@ public:
     STDMETHOD(DeleteXAxis)(int nAxis) override;
     STDMETHOD(DeleteYAxis)(int nAxis) override;
     STDMETHOD(DeleteCurve)(int nCurve) override;
-    STDMETHOD(InsertDataNotation)(int nCurve, int nIndex) override;
-    STDMETHOD(AddLinearTrend)(ISGraphDataSerie* pSerie) override;
-    STDMETHOD(AddCubicTrend)(ISGraphDataSerie* pSerie) override;
     STDMETHOD(GetXAxisCount)(int* pnValue) override;
     STDMETHOD(GetYAxisCount)(int* pnValue) override;
     STDMETHOD(GetCurveCount)(int* pnValue) override;
     STDMETHOD(SelectXAxis)(int nAxis) override;
     STDMETHOD(SelectYAxis)(int nAxis) override;
     STDMETHOD(SelectCurve)(int nCurve) override;
-    STDMETHOD(SetGraphMargins)(int nLeft, int nTop, int nRight, int nBottom) override;
+    STDMETHOD(Autoscale)(int nXAxis, int nYAxis, int nCurve) override;
+    STDMETHOD(ResetAll)() override;
+    STDMETHOD(SetBackgroundBitmap)(ISGraphBitmap* pBitmap, UINT nFlags) override;
+    STDMETHOD(InsertLabel)(BSTR bstrText, RECT* pRect, ISGraphLabel** pGraphLabel) override;
+    STDMETHOD(InsertBitmap)(RECT* pRect, ISGraphBitmap* pBitmapin, ISGraphBitmap** pBitmapout) override;
     STDMETHOD(SaveBitmap)(BSTR bstrText) override;
+    STDMETHOD(Create)(BSTR bstrCaption, RECT* rect, wireHWND hWnd, UINT nID) override;
+    STDMETHOD(Invalidate)(long bErase) override;
+    STDMETHOD(PostMessage)(UINT message, UINT_PTR wParam, LONG_PTR lParam) override;
+    STDMETHOD(SendMessage)(UINT message, UINT_PTR wParam, LONG_PTR lParam) override;
+    STDMETHOD(GetHandle)(wireHWND* phWnd) override;
 
-    // Operations
+    // Operations, trends, notations, the cursor in values, files (SGraphOperations.cpp)
+    STDMETHOD(InsertDataNotation)(int nCurve, int nIndex) override;
+    STDMETHOD(AddLinearTrend)(ISGraphDataSerie* pSerie) override;
+    STDMETHOD(AddCubicTrend)(ISGraphDataSerie* pSerie) override;
     STDMETHOD(Edit)() override;
     STDMETHOD(Zoom)() override;
     STDMETHOD(ResetZoom)() override;
     STDMETHOD(Pan)() override;
     STDMETHOD(NoOp)() override;
-    STDMETHOD(Cursor)() override;
     STDMETHOD(Measure)() override;
-    STDMETHOD(ResetAll)() override;
+    STDMETHOD(Cursor)() override;
     STDMETHOD(GetZoomDepth)(int* pnValue) override;
-    STDMETHOD(SetBackgroundBitmap)(ISGraphBitmap* pBitmap, UINT nFlags) override;
-    STDMETHOD(InsertLabel)(BSTR bstrText, RECT* pRect, ISGraphLabel** pGraphLabel) override;
-    STDMETHOD(InsertBitmap)(RECT* pRect, ISGraphBitmap* pBitmapin, ISGraphBitmap** pBitmapout) override;
+    STDMETHOD(GetCursorAbsolute)(int nCurve, TDataPoint* pPoint) override;
+    STDMETHOD(SetCursorAbsolute)(int nCurve, TDataPoint* pPoint, long bForceVisible) override;
+    STDMETHOD(Save)(BSTR bstrFile, UINT nFlags) override;
+    STDMETHOD(Load)(BSTR bstrFile) override;
 
-    // Settings
+    // Settings (SGraphSettings.cpp)
+    STDMETHOD(SetGraphMargins)(int nLeft, int nTop, int nRight, int nBottom) override;
     STDMETHOD(SetBackColor)(ULONG color) override;
     STDMETHOD(SetGraphColor)(ULONG color) override;
     STDMETHOD(SetInnerColor)(ULONG color) override;
@@ -70,7 +80,6 @@ public:
     STDMETHOD(SetPrintFooter)(BSTR bstrText) override;
     STDMETHOD(SetCursor)(long x, long y) override;
     STDMETHOD(SetCursorFlags)(UINT nFlags) override;
-    STDMETHOD(Autoscale)(int nXAxis, int nYAxis, int nCurve) override;
     STDMETHOD(DeleteMeasures)() override;
     STDMETHOD(ForceSnap)(int nCurve) override;
     STDMETHOD(GetBackColor)(ULONG* pColor) override;
@@ -84,17 +93,6 @@ public:
     STDMETHOD(GetSnapRange)(int* pnValue) override;
     STDMETHOD(GetCursor)(long* px, long* py) override;
     STDMETHOD(GetOperation)(EOperation* peop) override;
-    STDMETHOD(GetCursorAbsolute)(int nCurve, TDataPoint* pPoint) override;
-    STDMETHOD(SetCursorAbsolute)(int nCurve, TDataPoint* pPoint, long bForceVisible) override;
-
-    // File and window
-    STDMETHOD(Save)(BSTR bstrFile, UINT nFlags) override;
-    STDMETHOD(Load)(BSTR bstrFile) override;
-    STDMETHOD(Create)(BSTR bstrCaption, RECT* rect, wireHWND hWnd, UINT nID) override;
-    STDMETHOD(Invalidate)(long bErase) override;
-    STDMETHOD(PostMessage)(UINT message, UINT_PTR wParam, LONG_PTR lParam) override;
-    STDMETHOD(SendMessage)(UINT message, UINT_PTR wParam, LONG_PTR lParam) override;
-    STDMETHOD(GetHandle)(wireHWND* phWnd) override;
 
     // These only bring enumerations into the type library.
     STDMETHOD(GetXGraphMsgInfo)(XGRAPH_MSG nMsg, BSTR bstrCaption) override;

@@ -1,6 +1,6 @@
 #include "draw/BitmapEx.h"
 
-#include "draw/BitmapFormat.h"
+#include "draw/StoredBitmap.h"
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"
 
@@ -27,9 +27,9 @@ void Store(CArchive& ar, const CBitmapEx& picture)
     ar.Write(bits.data(), size);
 }
 
-BitmapFormat::THeader ReadHeader(CArchive& ar)
+StoredBitmap::THeader ReadHeader(CArchive& ar)
 {
-    BitmapFormat::THeader header;
+    StoredBitmap::THeader header;
     ar >> header.type >> header.width >> header.height >> header.widthBytes;
     ar >> header.planes >> header.bitsPixel;
     return header;
@@ -44,18 +44,18 @@ void CBitmapEx::Serialize(CArchive& ar)
         return;
     }
 
-    BitmapFormat::THeader header = ReadHeader(ar);
-    if (BitmapFormat::IsNone(header)) {
+    StoredBitmap::THeader header = ReadHeader(ar);
+    if (StoredBitmap::IsNone(header)) {
         DeleteObject();
         return;
     }
-    if (!BitmapFormat::IsPossible(header))
+    if (!StoredBitmap::IsPossible(header))
         AfxThrowArchiveException(CArchiveException::endOfFile);
     ar.EnsureRemaining(static_cast<ULONGLONG>(header.height), static_cast<UINT>(header.widthBytes));
 
-    std::vector<BYTE> bits(BitmapFormat::ByteCount(header));
+    std::vector<BYTE> bits(StoredBitmap::ByteCount(header));
     ar.ReadExactly(bits.data(), static_cast<UINT>(bits.size()));
-    BitmapFormat::PackRows(header, bits);
+    StoredBitmap::PackRows(header, bits);
 
     BITMAP bitmap{header.type,   header.width,     header.height, header.widthBytes,
                   header.planes, header.bitsPixel, bits.data()};

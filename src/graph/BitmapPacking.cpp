@@ -1,6 +1,6 @@
 #include "graph/BitmapPacking.h"
 
-#include "graph/PackedDib.h"
+#include "graph/DibFormat.h"
 
 #include <limits>
 #include <utility>
@@ -62,7 +62,7 @@ std::uint64_t ImageSizeOf(HDC hScreen, HBITMAP hBitmap, const BITMAPINFOHEADER& 
         return 0;
     if (info.bmiHeader.biSizeImage != 0)
         return info.bmiHeader.biSizeImage;
-    return PackedDib::ImageSize(static_cast<std::uint32_t>(header.biWidth),
+    return DibFormat::ImageSize(static_cast<std::uint32_t>(header.biWidth),
                                 static_cast<std::uint32_t>(header.biHeight), header.biBitCount);
 }
 
@@ -104,7 +104,7 @@ Block Pack(const CBitmap& bitmap, const CPalette& palette)
     if (bitmap.GetObject(sizeof record, &record) == 0)
         return {};
     const BITMAPINFOHEADER header = HeaderOf(record);
-    const std::uint32_t nHeadSize = PackedDib::HeadSize(header.biBitCount);
+    const std::uint32_t nHeadSize = DibFormat::HeadSize(header.biBitCount);
     Block block(nHeadSize);
     if (!block)
         return {};

@@ -3,7 +3,7 @@
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
 #include "graph/BitmapPacking.h"
-#include "graph/PackedDib.h"
+#include "graph/DibFormat.h"
 #include "graph/XGraph.h"
 
 namespace
@@ -30,7 +30,7 @@ void WriteBitmapFile(const BitmapPacking::Block& block, const CString& strFile)
     if (!file.Open(strFile, CFile::modeCreate | CFile::modeWrite))
         return;
     const BITMAPINFOHEADER& header = block.GetHeader();
-    const auto head = PackedDib::FileHeader(static_cast<std::uint32_t>(block.GetSize()), header.biSize,
+    const auto head = DibFormat::FileHeader(static_cast<std::uint32_t>(block.GetSize()), header.biSize,
                                             header.biBitCount);
     try {
         file.Write(head.data(), static_cast<UINT>(head.size()));

@@ -1,7 +1,7 @@
 // What lies above what in a frame, and what is drawn before what.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 
 #include <algorithm>
 #include <string>

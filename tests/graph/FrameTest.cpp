@@ -1,7 +1,7 @@
 // The frame as it is in the window.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // Labels: their defaults, their picture and their bytes.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 #include "framework/windowing/Archive.h"
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"

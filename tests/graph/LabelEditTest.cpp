@@ -1,7 +1,7 @@
 // Labels under the user's hands: the editor in place, the popup menu, and texts of any length.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // The legend beside the graph area.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 
 namespace
 {

@@ -1,8 +1,8 @@
 #pragma once
 // A graph with two curves to measure between, and what a frame says of its measures.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 
 #include "draw/QuickFont.h"
 #include "draw/Selectors.h"

@@ -1,7 +1,7 @@
 // Notes pinned to data points.
 
-#include "NativeGraph.h"
 #include "FrameRecording.h"
+#include "NativeGraph.h"
 #include "WatchedCanvas.h"
 #include "objects/XGraphDataNotation.h"
 

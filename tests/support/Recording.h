@@ -24,10 +24,7 @@ public:
     ~Recording() { ::DeleteEnhMetaFile(m_hFile); }
 
     // A context that records what is drawn on it.
-    [[nodiscard]] static HDC Begin()
-    {
-        return ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    }
+    [[nodiscard]] static HDC Begin() { return ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr); }
 
     void ForEach(const Visit& visit) const
     {
@@ -48,8 +45,8 @@ public:
             if (!IsText(record))
                 return;
             const auto& drawn = reinterpret_cast<const EMREXTTEXTOUTW&>(record);
-            const auto* units = reinterpret_cast<const wchar_t*>(
-                reinterpret_cast<const BYTE*>(&record) + drawn.emrtext.offString);
+            const auto* units = reinterpret_cast<const wchar_t*>(reinterpret_cast<const BYTE*>(&record) +
+                                                                 drawn.emrtext.offString);
             texts.push_back({std::wstring(units, drawn.emrtext.nChars),
                              {drawn.emrtext.ptlReference.x, drawn.emrtext.ptlReference.y}});
         });

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace PackedDib
+namespace DibFormat
 {
 
 inline constexpr std::uint32_t InfoHeaderSize = 40;
@@ -30,4 +30,4 @@ inline constexpr std::uint32_t FileHeaderSize = 14;
 [[nodiscard]] std::array<std::byte, FileHeaderSize>
 FileHeader(std::uint32_t nBlockSize, std::uint32_t nHeaderSize, std::uint32_t nBitCount) noexcept;
 
-} // namespace PackedDib
+} // namespace DibFormat

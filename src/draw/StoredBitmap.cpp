@@ -1,8 +1,8 @@
-#include "draw/BitmapFormat.h"
+#include "draw/StoredBitmap.h"
 
 #include <cstring>
 
-namespace BitmapFormat
+namespace StoredBitmap
 {
 namespace
 {
@@ -69,4 +69,4 @@ void PackRows(THeader& header, std::vector<std::uint8_t>& bits)
     bits.resize(packed * rows);
     header.widthBytes = static_cast<std::int32_t>(packed);
 }
-} // namespace BitmapFormat
+} // namespace StoredBitmap

@@ -1,6 +1,6 @@
-#include "graph/PackedDib.h"
+#include "graph/DibFormat.h"
 
-namespace PackedDib
+namespace DibFormat
 {
 
 namespace
@@ -45,4 +45,4 @@ std::array<std::byte, FileHeaderSize> FileHeader(std::uint32_t nBlockSize, std::
     return bytes;
 }
 
-} // namespace PackedDib
+} // namespace DibFormat

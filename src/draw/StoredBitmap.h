@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace BitmapFormat
+namespace StoredBitmap
 {
 struct THeader {
     std::int32_t type = 0;
@@ -31,4 +31,4 @@ struct THeader {
 // A device-independent bitmap pads its rows to 4 bytes, a device-dependent one, which is
 // what loading makes, to 2: takes the surplus out and corrects header.widthBytes.
 void PackRows(THeader& header, std::vector<std::uint8_t>& bits);
-} // namespace BitmapFormat
+} // namespace StoredBitmap
