@@ -23,11 +23,11 @@ void CXGraph::SetCursorAbsolute(int nCurve, TDataPoint point, bool bForceVisible
     Invalidate();
 }
 
-void CXGraph::BringIntoView(CXGraphAxis& axis, double value) const
+void CXGraph::BringIntoView(CXGraphAxis& axis, double fValue) const
 {
     const bool smooth = (m_nCursorFlags & XGC_ADJUSTSMOOTH) != 0;
-    if (!smooth && value >= axis.m_fCurMin && value <= axis.m_fCurMax)
+    if (!smooth && fValue >= axis.m_fCurMin && fValue <= axis.m_fCurMax)
         return;
     const double half = (axis.m_fCurMax - axis.m_fCurMin) * 0.5;
-    axis.SetCurrentRange(value - half, value + half, 0.0);
+    axis.SetCurrentRange(fValue - half, fValue + half, 0.0);
 }

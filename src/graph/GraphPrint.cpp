@@ -84,23 +84,23 @@ void CXGraph::PaintPage(CDCEx& canvas)
 }
 
 // The height that the text takes of the page, with its gap; nothing for an empty text.
-int CXGraph::PrintCentred(CDCEx& canvas, const CString& text, bool top)
+int CXGraph::PrintCentred(CDCEx& canvas, const CString& strText, bool bTop)
 {
-    if (text.IsEmpty())
+    if (strText.IsEmpty())
         return 0;
     CQuickFont font(L"Arial", 12, FW_NORMAL);
     int height = 0;
     {
         CFontSelector measure(&font, &canvas, false);
-        height = canvas.GetTextExtent(text).cy;
+        height = canvas.GetTextExtent(strText).cy;
     }
     CFontSelector draw(&font, &canvas, true);
     CRect place = m_rcPrint;
-    if (top)
+    if (bTop)
         place.bottom = place.top + height;
     else
         place.top = place.bottom - height;
     canvas.SetBkMode(TRANSPARENT);
-    canvas.DrawText(text, &place, DT_CENTER | DT_NOPREFIX);
+    canvas.DrawText(strText, &place, DT_CENTER | DT_NOPREFIX);
     return height + TextGap;
 }

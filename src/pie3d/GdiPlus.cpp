@@ -41,9 +41,8 @@ public:
     CPixels& operator=(const CPixels&) = delete;
     ~CPixels()
     {
-        if (m_are) {
+        if (m_are)
             Flat::GdipBitmapUnlockBits(m_pBitmap, &m_data);
-        }
     }
 
     [[nodiscard]] bool Are() const noexcept { return m_are; }
@@ -143,12 +142,10 @@ CBitmap CopyOf(const CBitmap& bitmap) noexcept
     CBitmap copy = NewBitmap({static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)});
     const CPixels from(bitmap, Gdiplus::ImageLockModeRead);
     const CPixels to(copy, Gdiplus::ImageLockModeWrite);
-    if (!from.Are() || !to.Are()) {
+    if (!from.Are() || !to.Are())
         return {};
-    }
-    for (UINT y = 0; y < height; ++y) {
+    for (UINT y = 0; y < height; ++y)
         std::memcpy(to.Row(y), from.Row(y), width * sizeof(Argb));
-    }
     return copy;
 }
 
@@ -184,16 +181,14 @@ std::int32_t AddPath(const CPath& path, const CPath& added) noexcept
 
 void AddPie(const CPath& path, const TRectF& rc, float start, float sweep) noexcept
 {
-    if (PieGeometry::DrawableAngles(start, sweep)) {
+    if (PieGeometry::DrawableAngles(start, sweep))
         Flat::GdipAddPathPie(path.Get(), rc.x, rc.y, rc.width, rc.height, start, sweep);
-    }
 }
 
 void AddArc(const CPath& path, const TRectF& rc, float start, float sweep) noexcept
 {
-    if (PieGeometry::DrawableAngles(start, sweep)) {
+    if (PieGeometry::DrawableAngles(start, sweep))
         Flat::GdipAddPathArc(path.Get(), rc.x, rc.y, rc.width, rc.height, start, sweep);
-    }
 }
 
 void AddLine(const CPath& path, TPointF from, TPointF to) noexcept
@@ -204,9 +199,8 @@ void AddLine(const CPath& path, TPointF from, TPointF to) noexcept
 bool Contains(const CPath& path, TPointF point) noexcept
 {
     INT points = 0;
-    if (Flat::GdipGetPointCount(path.Get(), &points) != Gdiplus::Ok || points == 0) {
+    if (Flat::GdipGetPointCount(path.Get(), &points) != Gdiplus::Ok || points == 0)
         return false;
-    }
     BOOL inside = FALSE;
     Flat::GdipIsVisiblePathPoint(path.Get(), point.x, point.y, nullptr, &inside);
     return inside != FALSE;
@@ -254,9 +248,8 @@ void CGraphics::DrawEllipse(const CPen& pen, const TRectF& rc) const noexcept
 void CGraphics::FillPie(Gdiplus::GpBrush* brush, const TRectF& rc, float start,
                         float sweep) const noexcept
 {
-    if (PieGeometry::DrawableAngles(start, sweep)) {
+    if (PieGeometry::DrawableAngles(start, sweep))
         Flat::GdipFillPie(m_graphics.Get(), brush, rc.x, rc.y, rc.width, rc.height, start, sweep);
-    }
 }
 
 void CGraphics::DrawPie(const CPen& pen, const TRectF& rc, float start, float sweep) const noexcept
@@ -307,9 +300,8 @@ TRectF CGraphics::Measure(std::wstring_view text, const CFont& font, const TRect
 void CGraphics::DrawString(std::wstring_view text, const CFont& font, const TRectF& layout,
                            Gdiplus::GpBrush* brush, const CStringFormat* format) const noexcept
 {
-    if (!IsFinite(layout)) {
+    if (!IsFinite(layout))
         return;
-    }
     const Gdiplus::RectF place = ToGdi(layout);
     Flat::GdipDrawString(m_graphics.Get(), text.data(), LengthOf(text), font.Get(), &place,
                          format ? format->Get() : nullptr, brush);
@@ -329,9 +321,8 @@ void Save(const CBitmap& bitmap, const wchar_t* file, std::wstring_view mimeType
     Flat::GdipGetImageEncodersSize(&count, &size);
     // The records lie at the front, the texts that they point to behind them.
     std::vector<Gdiplus::ImageCodecInfo> codecs(size / sizeof(Gdiplus::ImageCodecInfo) + 1);
-    if (Flat::GdipGetImageEncoders(count, size, codecs.data()) != Gdiplus::Ok) {
+    if (Flat::GdipGetImageEncoders(count, size, codecs.data()) != Gdiplus::Ok)
         return;
-    }
     for (const Gdiplus::ImageCodecInfo& codec : std::span(codecs).first(count)) {
         if (codec.MimeType == mimeType) {
             Flat::GdipSaveImageToFile(bitmap.Get(), file, &codec.Clsid, nullptr);
@@ -349,9 +340,8 @@ ULONG_PTR Start() noexcept
 
 void Stop(ULONG_PTR token) noexcept
 {
-    if (token != 0) {
+    if (token != 0)
         Gdiplus::GdiplusShutdown(token);
-    }
 }
 
 } // namespace GdiPlus

@@ -40,9 +40,8 @@ public:
 
     void Reset() noexcept
     {
-        if (m_pObject) {
+        if (m_pObject)
             Delete(std::exchange(m_pObject, nullptr));
-        }
     }
     [[nodiscard]] T* Get() const noexcept { return m_pObject; }
     [[nodiscard]] explicit operator bool() const noexcept { return m_pObject != nullptr; }

@@ -14,9 +14,8 @@ void CPieChartWnd::ProjectAngles()
 {
     std::vector<float> sweeps;
     sweeps.reserve(m_mapElements.size());
-    for (const auto& [key, element] : m_mapElements) {
+    for (const auto& [key, element] : m_mapElements)
         sweeps.push_back(element->fSweep);
-    }
     std::vector<PieGeometry::TProjection> projections(sweeps.size());
     m_fDrawStartAngle =
         PieGeometry::ProjectAngles(GetPieRect(), Faces(), m_fStartAngle, sweeps, projections);
@@ -44,9 +43,8 @@ void CPieChartWnd::Draw3DSlices(const GdiPlus::CGraphics& graphics)
         graphics.FillPie(gradient.Between(element->crDark, element->crLight), face, start, sweep);
         GdiPlus::SetColor(pen, element->crColor);
         graphics.DrawPie(pen, face, start, sweep);
-        if (element->bSelected) {
+        if (element->bSelected)
             selection.MarkPie(graphics, face, start, sweep);
-        }
         start += sweep;
     }
 }
@@ -56,12 +54,10 @@ void CPieChartWnd::DrawWalls(const GdiPlus::CGraphics& graphics)
     float start = m_fDrawStartAngle;
     for (const auto& [key, element] : m_mapElements) {
         const PieWalls::CWallPieces pieces = PieWalls::PiecesOf(start, element->fDrawSweep);
-        if (pieces.Pieces().empty()) {
+        if (pieces.Pieces().empty())
             element->nPathStatus = GdiPlus::ResetPath(element->pPath);
-        }
-        for (const PieWalls::TWallPiece& piece : pieces.Pieces()) {
+        for (const PieWalls::TWallPiece& piece : pieces.Pieces())
             DrawSideWall(graphics, *element, piece);
-        }
         start += element->fDrawSweep;
     }
 }
@@ -69,12 +65,10 @@ void CPieChartWnd::DrawWalls(const GdiPlus::CGraphics& graphics)
 void CPieChartWnd::DrawSideWall(const GdiPlus::CGraphics& graphics, SPieElement& element,
                                 const PieWalls::TWallPiece& piece) const
 {
-    if (piece.bReset) {
+    if (piece.bReset)
         element.nPathStatus = GdiPlus::ResetPath(element.pPath);
-    }
-    if (!PieWalls::HasWidth(piece)) {
+    if (!PieWalls::HasWidth(piece))
         return;
-    }
     const PieGeometry::TFaces faces = Faces();
     const PieWalls::TOutline outline = PieWalls::OutlineOf(faces, piece);
     const PieGeometry::TRectF upper = GdiPlus::ToFloats(faces.rcUpper);
@@ -101,15 +95,13 @@ void CPieChartWnd::DrawSideWall(const GdiPlus::CGraphics& graphics, SPieElement&
         GdiPlus::NewLineBrush({middle, PieGeometry::CentreOf(faces.rcUpper).y},
                               {middle, faces.rcLower.bottom}, element.crLight, element.crDark);
     graphics.FillPath(gradient.Get(), wall);
-    if (outlined) {
+    if (outlined)
         graphics.DrawPath(GdiPlus::NewPen(element.crColor, 0.5f), wall);
-    }
     if (element.bSelected) {
         const PieBrushes::CSelection selection(m_crSelected);
         selection.FillPath(graphics, wall);
-        if (outlined) {
+        if (outlined)
             selection.DrawPath(graphics, wall);
-        }
     }
     element.nPathStatus = GdiPlus::AddPath(element.pPath, wall);
 }

@@ -29,13 +29,11 @@ BOOL CPieChartWnd::Create(LPCWSTR lpszCaption, const RECT& rect, CWnd* pParentWn
 
 int CPieChartWnd::OnCreate(CREATESTRUCTW* lpCreateStruct)
 {
-    if (CWnd::OnCreate(lpCreateStruct) == -1) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
-    }
     ModifyStyle(0, WS_CLIPCHILDREN); // the scroll bar is not painted over
-    if (m_gdiplusToken == 0) {
+    if (m_gdiplusToken == 0)
         m_gdiplusToken = GdiPlus::Start();
-    }
     const CRect client = ClientRect();
     m_wndScrollBar.Create(
         WS_CHILD | SBS_VERT,

@@ -32,9 +32,8 @@ void CPieChartWnd::DrawDoughnutSlices(const GdiPlus::CGraphics& graphics)
         graphics.FillPie(gradient.Between(element->crLight, element->crDark), outer, start, sweep);
         graphics.FillPie(gradient.Between(element->crDark, element->crLight), inner, start, sweep);
         graphics.DrawPie(pen, outer, start, sweep);
-        if (element->bSelected) {
+        if (element->bSelected)
             selection.MarkPie(graphics, outer, start, sweep);
-        }
         start += sweep;
     }
     if (!m_mapElements.empty()) {
@@ -59,9 +58,8 @@ void CPieChartWnd::DrawFlatSlices(const GdiPlus::CGraphics& graphics)
         const float sweep = element->fSweep;
         graphics.FillPie(gradient.Between(element->crDark, element->crColor), outer, start, sweep);
         graphics.FillPie(gradient.Between(element->crColor, element->crLight), inner, start, sweep);
-        if (element->bSelected) {
+        if (element->bSelected)
             selection.MarkPie(graphics, outer, start, sweep);
-        }
         start += sweep;
     }
     DrawCuts(graphics);

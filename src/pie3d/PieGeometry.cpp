@@ -93,13 +93,11 @@ float SqueezedY(const TRect& rcPie, std::int32_t squeeze, float angle) noexcept
 
 float SweepBetween(float from, float to, float trueSweep) noexcept
 {
-    if (trueSweep == 360.0f) {
+    if (trueSweep == 360.0f)
         return 360.0f; // a lone element ends where it starts
-    }
     float sweep = to - from;
-    if (sweep < 0) {
+    if (sweep < 0)
         sweep += 360.0f;
-    }
     // Where two ends are the same point but for rounding, a sliver must not become the
     // whole pie, nor the rest of the pie a sliver.
     const bool nowhere = std::abs(sweep) < AngleNoise;
@@ -165,12 +163,10 @@ float AngleOfPoint(const TPointF& point, const TRect& rc) noexcept
     const double dx = static_cast<double>(point.x) - centre.x;
     const double dy = static_cast<double>(point.y) - centre.y;
     const auto angle = static_cast<float>(std::atan(dy / dx) * 180.0 / std::numbers::pi);
-    if (!std::isfinite(angle)) {
+    if (!std::isfinite(angle))
         return 0.0f;
-    }
-    if (dx < 0) {
+    if (dx < 0)
         return angle + 180.0f;
-    }
     return dy < 0 ? angle + 360.0f : angle;
 }
 
@@ -223,12 +219,10 @@ TRectF AboutCentre(const TRect& rc, float fReach) noexcept
 
 bool DrawableAngles(float& fStart, float& fSweep) noexcept
 {
-    if (!std::isfinite(fStart) || !(std::abs(fSweep) >= ThinnestSweep)) {
+    if (!std::isfinite(fStart) || !(std::abs(fSweep) >= ThinnestSweep))
         return false;
-    }
-    if (std::abs(fStart) > 720.0f) {
+    if (std::abs(fStart) > 720.0f)
         fStart = std::fmod(fStart, 360.0f);
-    }
     fSweep = std::clamp(fSweep, -360.0f, 360.0f);
     return true;
 }
@@ -247,25 +241,21 @@ TRadii RadiiOf(const TRectF& rc, float fStart, float fSweep) noexcept
 
 EOutline OutlineAngles(const TRectF& rc, float& fStart, float& fSweep) noexcept
 {
-    if (!DrawableAngles(fStart, fSweep)) {
+    if (!DrawableAngles(fStart, fSweep))
         return EOutline::nothing;
-    }
     const TEllipse ellipse(rc);
-    if (std::min(ellipse.halfWidth, ellipse.halfHeight) < 0.5) {
+    if (std::min(ellipse.halfWidth, ellipse.halfHeight) < 0.5)
         return EOutline::nothing;
-    }
     const double from = ellipse.Parameter(fStart);
     const double to = ellipse.Parameter(fStart + fSweep);
-    if (std::abs(fSweep) < 180.0f && ellipse.IsSliver(from, to)) {
+    if (std::abs(fSweep) < 180.0f && ellipse.IsSliver(from, to))
         return EOutline::radii;
-    }
     constexpr double quarter = std::numbers::pi / 2;
     const double quarters = std::round(std::abs(to - from) / quarter);
     const double nearest = from + std::copysign(quarters * quarter, to - from);
     const double step = ellipse.SmallStep();
-    if (quarters > 0 && (ellipse.IsSliver(nearest, to) || std::abs(nearest - to) < step)) {
+    if (quarters > 0 && (ellipse.IsSliver(nearest, to) || std::abs(nearest - to) < step))
         fSweep = static_cast<float>(ellipse.Angle(nearest - std::copysign(step, to - from)) - fStart);
-    }
     return EOutline::whole;
 }
 

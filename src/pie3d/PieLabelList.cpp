@@ -31,9 +31,8 @@ std::optional<std::int32_t> TrackPosition(CScrollBar& bar)
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_TRACKPOS;
-    if (!bar.GetScrollInfo(&info, SIF_TRACKPOS)) {
+    if (!bar.GetScrollInfo(&info, SIF_TRACKPOS))
         return std::nullopt;
-    }
     return info.nTrackPos;
 }
 
@@ -58,9 +57,8 @@ void CPieChartWnd::UpdateScrollBar()
     // Redrawn with the window's next painting: at once would cost more than all the rest of an
     // insertion.
     m_wndScrollBar.SetScrollInfo(&info, FALSE);
-    if (m_wndScrollBar.m_hWnd) {
+    if (m_wndScrollBar.m_hWnd)
         m_wndScrollBar.Invalidate();
-    }
     m_wndScrollBar.ShowScrollBar(m_nLabelsHeight > pieHeight);
 }
 
@@ -81,9 +79,8 @@ std::int32_t CPieChartWnd::SyncFirstLabel(std::int32_t nPos, BOOL bTrack)
     const PieScroll::TList list = ScrollList();
     const PieScroll::TSynced synced = PieScroll::SyncFirstLabel(list, nPos, bTrack != FALSE);
     m_nFirstLabel = synced.nFirst;
-    if (synced.bToLimit) {
+    if (synced.bToLimit)
         m_wndScrollBar.SetScrollPos(list.nLimit);
-    }
     return m_nFirstLabel;
 }
 
@@ -93,15 +90,13 @@ void CPieChartWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     const PieScroll::TList list = ScrollList();
     const PieScroll::EStep step = StepOf(nSBCode);
     std::optional<std::int32_t> trackPos;
-    if (step == PieScroll::EStep::thumb) {
+    if (step == PieScroll::EStep::thumb)
         trackPos = TrackPosition(m_wndScrollBar);
-    }
     const PieScroll::TScrolled scrolled =
         PieScroll::Scroll(list, step, trackPos, static_cast<std::int32_t>(nPos));
     m_nFirstLabel = scrolled.nFirst;
-    if (scrolled.bToLimit) {
+    if (scrolled.bToLimit)
         m_wndScrollBar.SetScrollPos(list.nLimit);
-    }
     Invalidate(TRUE);
     m_wndScrollBar.SetScrollPos(scrolled.nPos, TRUE);
     CWnd::OnVScroll(nSBCode, nPos, pScrollBar);

@@ -12,9 +12,8 @@ SPieElement* CPieChartWnd::InsertItem(const CString& strElement, const CString& 
                                       PieColors::Argb crColor)
 {
     const bool usable = dValue > 0 && PieShares::IsUsable(m_dTotal + dValue);
-    if (strElement.IsEmpty() || !usable || GetPieChartItem(strElement)) {
+    if (strElement.IsEmpty() || !usable || GetPieChartItem(strElement))
         return nullptr;
-    }
     auto element = std::make_unique<SPieElement>();
     element->pPath = GdiPlus::NewPath();
     element->strName = strElement;
@@ -59,9 +58,8 @@ void CPieChartWnd::Settle()
 int CPieChartWnd::RemoveItem(const CString& strElement)
 {
     const SPieElement* const element = GetPieChartItem(strElement);
-    if (!element) {
+    if (!element)
         return 0;
-    }
     return Remove(std::find_if(m_mapElements.begin(), m_mapElements.end(),
                                [&](const auto& entry) { return entry.second.get() == element; }));
 }
@@ -76,9 +74,8 @@ int CPieChartWnd::Remove(TPieElements::iterator position)
 {
     Settle();
     const double total = m_dTotal - position->second->dValue;
-    if (!PieShares::IsUsable(total)) {
+    if (!PieShares::IsUsable(total))
         return 0;
-    }
     CString longestLabel = LongestLabelWith(position->second.get(), {});
     m_dTotal = total;
     m_Names.erase(position->second->strName.View());
@@ -107,9 +104,8 @@ void CPieChartWnd::RemoveAllItem()
 
 int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
 {
-    if (!pItem) {
+    if (!pItem)
         return 0;
-    }
     CString longestLabel = LongestLabelWith(pItem, strLabel);
     pItem->strLabel = strLabel;
     m_strLongestLabel = std::move(longestLabel);
@@ -119,14 +115,12 @@ int CPieChartWnd::UpdateItemLabel(SPieElement* pItem, const CString& strLabel)
 
 int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
 {
-    if (!pItem || dVal == 0) {
+    if (!pItem || dVal == 0)
         return 0;
-    }
     Settle();
     const double total = m_dTotal - pItem->dValue + dVal;
-    if (!PieShares::IsUsable(total)) {
+    if (!PieShares::IsUsable(total))
         return 0;
-    }
     m_dTotal = total;
     pItem->dValue = dVal;
     RecalcPercents();
@@ -136,9 +130,8 @@ int CPieChartWnd::UpdateItemValue(SPieElement* pItem, double dVal)
 
 int CPieChartWnd::UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem)
 {
-    if (!pItem) {
+    if (!pItem)
         return 0;
-    }
     pItem->crColor = crItem;
     pItem->crDark = PieColors::DarkenColor(crItem, pItem->fGradientDark);
     pItem->crLight = PieColors::LightenColor(crItem, pItem->fGradientLight);
@@ -148,9 +141,8 @@ int CPieChartWnd::UpdateItemColor(SPieElement* pItem, PieColors::Argb crItem)
 
 int CPieChartWnd::SetPieElementGradientLight(SPieElement* pItem, float flGradientVal)
 {
-    if (!pItem || !std::isfinite(flGradientVal)) {
+    if (!pItem || !std::isfinite(flGradientVal))
         return 0;
-    }
     pItem->fGradientLight = flGradientVal;
     pItem->crLight = PieColors::LightenColor(pItem->crColor, flGradientVal);
     Repaint();
@@ -159,9 +151,8 @@ int CPieChartWnd::SetPieElementGradientLight(SPieElement* pItem, float flGradien
 
 int CPieChartWnd::SetPieElementGradientDark(SPieElement* pItem, float flGradientVal)
 {
-    if (!pItem || !std::isfinite(flGradientVal)) {
+    if (!pItem || !std::isfinite(flGradientVal))
         return 0;
-    }
     pItem->fGradientDark = flGradientVal;
     pItem->crDark = PieColors::DarkenColor(pItem->crColor, flGradientVal);
     Repaint();
@@ -170,21 +161,18 @@ int CPieChartWnd::SetPieElementGradientDark(SPieElement* pItem, float flGradient
 
 int CPieChartWnd::SetPieElementGradientLightAll(float flGradientVal)
 {
-    if (!std::isfinite(flGradientVal)) {
+    if (!std::isfinite(flGradientVal))
         return 0;
-    }
-    for (const auto& [key, element] : m_mapElements) {
+    for (const auto& [key, element] : m_mapElements)
         element->crLight = PieColors::LightenColor(element->crColor, flGradientVal);
-    }
     Repaint();
     return 1;
 }
 
 int CPieChartWnd::SetPieElementGradientDarkAll(float flGradientVal)
 {
-    if (!std::isfinite(flGradientVal)) {
+    if (!std::isfinite(flGradientVal))
         return 0;
-    }
     for (const auto& [key, element] : m_mapElements) {
         element->fGradientDark = flGradientVal;
         element->crDark = PieColors::DarkenColor(element->crColor, flGradientVal);
@@ -197,9 +185,8 @@ void CPieChartWnd::sortPiechartElements(long bClockWise)
 {
     std::vector<double> values;
     values.reserve(m_mapElements.size());
-    for (const auto& [key, element] : m_mapElements) {
+    for (const auto& [key, element] : m_mapElements)
         values.push_back(element->dValue);
-    }
     PutInOrder(PieOrder::ByValue(values, bClockWise != 0));
 }
 
@@ -207,9 +194,8 @@ void CPieChartWnd::SortToOrginalOrder()
 {
     std::vector<std::int32_t> orders;
     orders.reserve(m_mapElements.size());
-    for (const auto& [key, element] : m_mapElements) {
+    for (const auto& [key, element] : m_mapElements)
         orders.push_back(element->nOrder);
-    }
     PutInOrder(PieOrder::ByInsertion(orders));
 }
 
@@ -218,13 +204,11 @@ void CPieChartWnd::PutInOrder(const std::vector<std::size_t>& positions)
 {
     std::vector<std::unique_ptr<SPieElement>> elements;
     elements.reserve(m_mapElements.size());
-    for (auto& [key, element] : m_mapElements) {
+    for (auto& [key, element] : m_mapElements)
         elements.push_back(std::move(element));
-    }
     auto next = positions.begin();
-    for (auto& [key, element] : m_mapElements) {
+    for (auto& [key, element] : m_mapElements)
         element = std::move(elements[*next++]);
-    }
     m_KeptPicture.Reset();
     Repaint();
 }
@@ -250,18 +234,16 @@ CString CPieChartWnd::LongestLabelWith(const SPieElement* pItem, const CString& 
     std::wstring_view longest;
     for (const auto& [key, element] : m_mapElements) {
         const CString& label = element.get() == pItem ? strLabel : element->strLabel;
-        if (label.View().size() > longest.size()) {
+        if (label.View().size() > longest.size())
             longest = label.View();
-        }
     }
     return CString(longest);
 }
 
 void CPieChartWnd::RecalcPercents() noexcept
 {
-    if (!(m_dTotal > 0)) {
+    if (!(m_dTotal > 0))
         return;
-    }
     for (const auto& [key, element] : m_mapElements) {
         element->fPercent = PieShares::ShareOf(element->dValue, m_dTotal);
         element->fSweep = element->fPercent * 360.0f;

@@ -44,22 +44,19 @@ GdiPlus::CPath RoundedFrame(const TRect& rc) noexcept
 
 void CPieChartWnd::DrawFrame(CDC& dc, TSlicePainter pfnSlices)
 {
-    if (m_nChartStyle == 2) {
+    if (m_nChartStyle == 2)
         ProjectAngles(); // clicks go by them, kept picture or not
-    }
     const TPicture picture = KeptOrNewPicture(pfnSlices);
     {
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
         DrawLabels(graphics);
-        if (m_bShowPercent && !picture.bHasPercents) {
+        if (m_bShowPercent && !picture.bHasPercents)
             DrawPercents(graphics);
-        }
     }
     const GdiPlus::CGraphics screen = GdiPlus::CGraphics::Of(dc.m_hDC);
-    if (m_nChartStyle == 2) {
+    if (m_nChartStyle == 2)
         screen.SmoothHighQuality();
-    }
     SaveImage(picture.Bitmap);
     const TRect client = ClientRect();
     screen.DrawWhole(picture.Bitmap, {client.left, client.top});
@@ -71,18 +68,16 @@ CPieChartWnd::TPicture CPieChartWnd::KeptOrNewPicture(TSlicePainter pfnSlices)
 {
     TPieLook look = PieLook();
     TPicture picture{m_KeptPicture.CopyFor(look), m_bKeptPercents};
-    if (picture.Bitmap) {
+    if (picture.Bitmap)
         return picture;
-    }
     picture = {KeptOrNewBackground(), false};
     {
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture.Bitmap);
         graphics.SmoothHighQuality();
         (this->*pfnSlices)(graphics);
         picture.bHasPercents = m_mapElements.size() >= VeryMany && !PercentsReachLabels(graphics);
-        if (picture.bHasPercents && m_bShowPercent) {
+        if (picture.bHasPercents && m_bShowPercent)
             DrawPercents(graphics);
-        }
     }
     m_KeptPicture.Keep(std::move(look), picture.Bitmap);
     m_bKeptPercents = picture.bHasPercents;
@@ -94,9 +89,8 @@ GdiPlus::CBitmap CPieChartWnd::KeptOrNewBackground()
 {
     TBackgroundLook look = BackgroundLook();
     GdiPlus::CBitmap picture = m_KeptBackground.CopyFor(look);
-    if (picture) {
+    if (picture)
         return picture;
-    }
     picture = GdiPlus::NewBitmap(look.size);
     {
         const GdiPlus::CGraphics graphics = GdiPlus::CGraphics::Of(picture);
@@ -185,9 +179,8 @@ void CPieChartWnd::DrawTitle(const GdiPlus::CGraphics& graphics, const TRect& rc
 
 int CPieChartWnd::SaveImage(const GdiPlus::CBitmap& bitmap)
 {
-    if (!m_bSaveImage) {
+    if (!m_bSaveImage)
         return 0;
-    }
     const int point = m_strImageFile.Find(L'.');
     const CString type = L"image/" + (point >= 0 ? m_strImageFile.Mid(point + 1) : CString());
     GdiPlus::Save(bitmap, m_strImageFile, type.View());

@@ -12,9 +12,8 @@ TScrolled LineUp(const TList& list) noexcept
     TScrolled result{list.nPos - list.Step(), list.nFirst, false};
     if (result.nFirst != 0) {
         --result.nFirst;
-        if (result.nFirst == 0) {
+        if (result.nFirst == 0)
             result.nPos = 0;
-        }
     }
     return result;
 }
@@ -22,16 +21,14 @@ TScrolled LineUp(const TList& list) noexcept
 TScrolled LineDown(const TList& list) noexcept
 {
     TScrolled result{list.nPos, list.nFirst, false};
-    if (list.nFirst == list.nElements) {
+    if (list.nFirst == list.nElements)
         return result;
-    }
     result.nPos += list.Step();
     const std::int32_t last = list.LastFirst();
     if (result.nFirst != last) {
         ++result.nFirst;
-        if (result.nFirst == last) {
+        if (result.nFirst == last)
             result.nPos = list.nLimit;
-        }
     }
     return result;
 }
@@ -46,15 +43,12 @@ TScrolled To(const TList& list, std::int32_t pos, bool track) noexcept
 
 TSynced SyncFirstLabel(const TList& list, std::int32_t nPos, bool bTrack) noexcept
 {
-    if (bTrack && list.nLimit == 0) {
+    if (bTrack && list.nLimit == 0)
         return {list.nFirst, false};
-    }
-    if (bTrack && list.nLimit - list.nPos < list.nRowHeight) {
+    if (bTrack && list.nLimit - list.nPos < list.nRowHeight)
         return {list.LastFirst(), true};
-    }
-    if (nPos >= 1) {
+    if (nPos >= 1)
         return {nPos / list.Step(), false};
-    }
     return {nPos == 0 ? 0 : list.nFirst, false};
 }
 

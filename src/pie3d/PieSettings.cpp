@@ -29,9 +29,8 @@ void CPieChartWnd::SetBackgrndColor(PieColors::Argb crItem)
 
 void CPieChartWnd::SetBackGroundGradientLight(float flGradientVal)
 {
-    if (!std::isfinite(flGradientVal)) {
+    if (!std::isfinite(flGradientVal))
         return;
-    }
     m_fBackgroundLight = flGradientVal;
     m_crBackgroundLight = PieColors::LightenColor(m_crBackground, flGradientVal);
     Repaint();
@@ -39,9 +38,8 @@ void CPieChartWnd::SetBackGroundGradientLight(float flGradientVal)
 
 void CPieChartWnd::SetBackGroundGradientDark(float flGradientVal)
 {
-    if (!std::isfinite(flGradientVal)) {
+    if (!std::isfinite(flGradientVal))
         return;
-    }
     m_fBackgroundDark = flGradientVal;
     m_crBackgroundDark = PieColors::DarkenColor(m_crBackground, flGradientVal);
     Repaint();
@@ -104,9 +102,8 @@ void CPieChartWnd::SetPieChartStyle(std::int32_t nChartStyle)
 
 void CPieChartWnd::SetStartAngle(float flAngle)
 {
-    if (!std::isfinite(flAngle)) {
+    if (!std::isfinite(flAngle))
         return;
-    }
     m_fStartAngle = PieGeometry::BelowFullTurn(flAngle);
     m_fDrawStartAngle = m_fStartAngle;
     Repaint();
@@ -120,9 +117,8 @@ void CPieChartWnd::SetInclineAngle(float flAngle)
 
 int CPieChartWnd::SetDepth(float fDepth)
 {
-    if (fDepth < 0 || !std::isfinite(fDepth)) {
+    if (fDepth < 0 || !std::isfinite(fDepth))
         return 0;
-    }
     m_fDepthRatio = PieGeometry::RatioForDepth(GetPieRect(), fDepth);
     Repaint();
     return 1;

@@ -50,9 +50,8 @@ void CPieChartWnd::DrawLabels(const GdiPlus::CGraphics& graphics) const
     const PieLabels::TColumns columns = PieLabels::ColumnsFor(
         pie, m_nMarkWidth, ClientRect().right - m_nScrollBarInset, longest, percentSize.width);
     const auto first = m_mapElements.find(m_nFirstLabel);
-    if (m_bLabelPercent) {
+    if (m_bLabelPercent)
         DrawPercentBox(graphics, columns, firstY);
-    }
 
     std::int32_t y = firstY;
     for (auto row = first; row != m_mapElements.end() && y + m_nRowHeight <= pie.bottom; ++row) {
@@ -127,9 +126,8 @@ bool CPieChartWnd::PercentsReachLabels(const GdiPlus::CGraphics& graphics)
     std::wstring longest;
     for (const auto& [key, element] : m_mapElements) {
         std::wstring text = PercentText(*element);
-        if (text.size() > longest.size()) {
+        if (text.size() > longest.size())
             longest = std::move(text);
-        }
     }
     const TRect pie = GetPieRect();
     const std::int32_t farthest = PieGeometry::CentreOf(pie).x + 2 * pie.Width() / 5;

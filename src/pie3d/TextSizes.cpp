@@ -20,9 +20,8 @@ PieGeometry::TRectF CTextSizes::Of(const std::wstring& text, const GdiPlus::CGra
         m_font = look;
     }
     const auto known = m_sizes.find(text);
-    if (known != m_sizes.end()) {
+    if (known != m_sizes.end())
         return known->second;
-    }
     const PieGeometry::TRectF size = graphics.Measure(text, font);
     m_sizes.emplace(text, size);
     return size;

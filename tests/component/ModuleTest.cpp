@@ -126,9 +126,8 @@ TEST_F(ComModule, ThreadsThatAskAtOnceGetOneClassObject)
             module.GetClassObject(CLSID_Counted, IID_IUnknown, reinterpret_cast<void**>(&found[i]));
         });
     }
-    for (std::thread& thread : threads) {
+    for (std::thread& thread : threads)
         thread.join();
-    }
     for (IUnknown* object : found) {
         ASSERT_NE(object, nullptr);
         EXPECT_EQ(object, found[0]);

@@ -27,9 +27,8 @@ protected:
     {
         HKEY handle = nullptr;
         const bool there = RegOpenKeyW(HKEY_CURRENT_USER, Below(key).c_str(), &handle) == ERROR_SUCCESS;
-        if (there) {
+        if (there)
             RegCloseKey(handle);
-        }
         return there;
     }
 

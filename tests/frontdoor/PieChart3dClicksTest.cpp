@@ -120,18 +120,16 @@ TEST_F(PieChart3dClicks, FewRowsCentreOnThePieWithoutABar)
 
 TEST_F(PieChart3dClicks, ALongListScrollsToBothEnds)
 {
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 20; ++i)
         Fill({1});
-    }
     Plain();
     EXPECT_TRUE(::IsWindowVisible(Bar()));
     EXPECT_EQ(Marks(), "rgbrgbrgbrg");
     Scroll(SB_LINEDOWN);
     EXPECT_EQ(BarPosition(), 43);
     EXPECT_EQ(Marks(), "gbrgbrgbrgb");
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < 30; ++i)
         Scroll(SB_LINEDOWN);
-    }
     EXPECT_EQ(BarPosition(), 373); // 842 - 470 + 1, and 20 - 445 / 43 - 1 = 9 is first
     EXPECT_EQ(Marks(), "rgbrgbrgbrg");
     Scroll(SB_PAGEUP);
@@ -163,18 +161,16 @@ TEST_F(PieChart3dClicks, ANarrowWindowKeepsThePiesSmallestSize)
 
 TEST_F(PieChart3dClicks, AFirstRowBeyondTheElementsShowsNoneUntilTheListMoves)
 {
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 20; ++i)
         Fill({1});
-    }
     Scroll(SB_PAGEDOWN);
     pie->RemoveAllItem();
     inserted = 0;
     Fill({1, 2});
     Plain();
     EXPECT_EQ(Marks(), "");
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 8; ++i)
         Scroll(SB_LINEUP);
-    }
     EXPECT_EQ(Marks(), "rg");
 }
 
@@ -187,9 +183,8 @@ protected:
         const auto pie = Server::Shared().Make<PieChart3d, IPieChart3d>();
         RECT rect = {0, 0, 400, 300};
         pie->Create(Text(L"T"), &rect, WireHandle(host.m_hWnd), 1);
-        for (const wchar_t* name : {L"a", L"b", L"c"}) {
+        for (const wchar_t* name : {L"a", L"b", L"c"})
             pie->InsertItem(Text(name), Text(name), 2, Red);
-        }
         pie->SetInclineAngle(50);
         wireHWND hWnd = nullptr;
         pie->GetHandle(&hWnd);
@@ -203,8 +198,7 @@ TEST_F(PieChart3dEndurance, CreatedAndReleasedPiesLeaveNoGdiObject)
 {
     Cycle();
     const int objects = GdiCount::All();
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 6; ++i)
         Cycle();
-    }
     EXPECT_EQ(GdiCount::All(), objects);
 }

@@ -135,9 +135,8 @@ TEST_F(PieChart3dElements, RemovalByIndexGoesByPositionAndIdsByInsertion)
     EXPECT_EQ(pie->RemoveItemByIndex(0), S_OK);
     EXPECT_EQ(Item(L"e1"), nullptr);
     EXPECT_NE(Item(L"e2"), nullptr);
-    for (const int index : {-1, 1, 2147483647, -2147483647 - 1}) {
+    for (const int index : {-1, 1, 2147483647, -2147483647 - 1})
         EXPECT_EQ(pie->RemoveItemByIndex(index), S_OK);
-    }
     EXPECT_NE(Item(L"e2"), nullptr);
 }
 
@@ -147,9 +146,8 @@ TEST_F(PieChart3dElements, RemovalByNameGivesTheRestTheWholePie)
     Plain();
     EXPECT_EQ(pie->RemoveItem(Text(L"e1")), S_OK);
     EXPECT_EQ(pie->RemoveItem(Text(L"e1")), S_OK);
-    for (const int degrees : {45, 135, 225, 315}) {
+    for (const int degrees : {45, 135, 225, 315})
         EXPECT_EQ(At(degrees), L"e0");
-    }
     EXPECT_EQ(Marks(), "r");
 }
 
@@ -192,9 +190,8 @@ TEST_F(PieChart3dElements, AHugeValueThatGoesTakesTheTotalAlong)
 
 TEST_F(PieChart3dElements, AThousandElementsAreInsertedFoundAndSorted)
 {
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 1000; ++i)
         Fill({1.0 + i % 10});
-    }
     EXPECT_EQ(Id(L"e999"), 999);
     EXPECT_EQ(pie->sortPiechartElements(1), S_OK);
     Shoot();

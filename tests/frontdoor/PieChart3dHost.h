@@ -109,9 +109,8 @@ protected:
         for (int y = 100; y < 570; ++y) {
             const COLORREF color = picture.At(570, y);
             const char letter = color == Red ? 'r' : color == Green ? 'g' : color == Blue ? 'b' : 0;
-            if (color != last && letter != 0) {
+            if (color != last && letter != 0)
                 marks.push_back(letter);
-            }
             last = color;
         }
         return marks;

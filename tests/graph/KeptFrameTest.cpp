@@ -2,7 +2,7 @@
 // left, once more by the same, from nothing, and straight to the window, where nothing is kept; and
 // points are found on the screen by search, by scan, and one by one.
 
-#include "GraphHost.h"
+#include "NativeGraph.h"
 #include "support/CountedMemory.h"
 #include "support/ImportSlot.h"
 

@@ -28,7 +28,7 @@ public:
         const bool bDirty = ::GetUpdateRect(hWnd, nullptr, FALSE) != FALSE;
         report.State("paint", "%s", bDirty ? "due" : "not due");
         ::UpdateWindow(hWnd);
-        report.ExactState("picture", "%016llx", static_cast<unsigned long long>(Screen(hWnd).Sum()));
+        PrintPicture(report, "picture", hWnd);
     }
     // Without the timer's clock.
     void Tick(int nTicks) const

@@ -37,7 +37,7 @@ public:
         const bool bDirty = ::GetUpdateRect(Window(), nullptr, FALSE) != FALSE;
         report.State("paint", "%s", bDirty ? "due" : "not due");
         ::UpdateWindow(Window());
-        report.ExactState("picture", "%016llx", static_cast<unsigned long long>(Screen(Window()).Sum()));
+        PrintPicture(report, "picture", Window());
     }
     void Click(int x, int y) const
     {

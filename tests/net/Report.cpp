@@ -47,7 +47,7 @@ void Report::Line(const char* pszFormat, ...)
 
 void Report::Exact(const char* pszFormat, ...)
 {
-    if (IsHidden())
+    if (!ShowsExact())
         return;
     va_list arguments;
     va_start(arguments, pszFormat);
@@ -65,7 +65,7 @@ void Report::State(const std::string& subject, const char* pszFormat, ...)
 
 void Report::ExactState(const std::string& subject, const char* pszFormat, ...)
 {
-    if (IsHidden())
+    if (!ShowsExact())
         return;
     va_list arguments;
     va_start(arguments, pszFormat);

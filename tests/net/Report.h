@@ -25,10 +25,11 @@ public:
     [[gnu::format(printf, 3, 4)]] void ExactState(const std::string& subject, const char* pszFormat,
                                                   ...);
 
+    // Whether those two print anything: a picture is not read off the screen for nothing.
+    [[nodiscard]] bool ShowsExact() const { return !m_bMasked || !m_bTexts; }
     [[nodiscard]] int StepCount() const { return m_nSteps; }
 
 private:
-    [[nodiscard]] bool IsHidden() const { return m_bMasked && m_bTexts; }
     void Print(const std::string& text);
     void PrintChanged(const std::string& subject, const std::string& text);
 

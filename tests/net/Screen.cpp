@@ -70,6 +70,12 @@ bool Screen::Write(const std::wstring& path) const
     return std::fclose(pFile) == 0;
 }
 
+void PrintPicture(Report& report, const std::string& subject, HWND hWnd)
+{
+    if (report.ShowsExact())
+        report.ExactState(subject, "%016llx", static_cast<unsigned long long>(Screen(hWnd).Sum()));
+}
+
 const char* PointerName() noexcept
 {
     const struct {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+class Report;
+
 class Screen
 {
 public:
@@ -22,6 +24,9 @@ private:
     int m_nHeight = 0;
     std::vector<DWORD> m_pixels; // 0x00RRGGBB, top row first
 };
+
+// A checksum of what the window shows, where the report prints it.
+void PrintPicture(Report& report, const std::string& subject, HWND hWnd);
 
 // Of the shape that the window under the pointer has set last: "arrow", "cross" and so on.
 [[nodiscard]] const char* PointerName() noexcept;

@@ -135,11 +135,9 @@ void Watch::LookAtScreen(const Graph& graph, const std::string& name)
         m_report.Line("%s waits for its paint", name.c_str());
     if (::GetWindow(graph.Window(), GW_CHILD) != nullptr)
         return; // an edit box, whose caret blinks
-    m_report.ExactState(name + ", picture", "%016llx",
-                        static_cast<unsigned long long>(Screen(graph.Window()).Sum()));
+    PrintPicture(m_report, name + ", picture", graph.Window());
     if (!bDirty)
         return;
     ::UpdateWindow(graph.Window());
-    m_report.ExactState(name + ", picture", "%016llx",
-                        static_cast<unsigned long long>(Screen(graph.Window()).Sum()));
+    PrintPicture(m_report, name + ", picture", graph.Window());
 }

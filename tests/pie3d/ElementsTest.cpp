@@ -19,9 +19,8 @@ TEST_F(PieElements, InsertionRefusesEmptyAndRepeatedNamesAndValuesThatAreNotAbov
     Fill({2});
     EXPECT_EQ(pie.InsertItem(L"", L"x", 1, Red), nullptr);
     EXPECT_EQ(pie.InsertItem(L"e0", L"a longer label", 1, Red), nullptr);
-    for (const double value : {0.0, -1.0, NotANumber, Infinite, -Infinite}) {
+    for (const double value : {0.0, -1.0, NotANumber, Infinite, -Infinite})
         EXPECT_EQ(pie.InsertItem(L"new", L"a longer label", value, Red), nullptr) << value;
-    }
     EXPECT_EQ(pie.m_nElements, 1);
     EXPECT_EQ(pie.m_dTotal, 2);
     EXPECT_EQ(pie.m_strLongestLabel, L"label");
@@ -112,9 +111,8 @@ TEST_F(PieElements, UpdatingAValueToZeroKeepsTheOldOne)
     Fill({1, 3});
     EXPECT_EQ(pie.UpdateItemValue(&Element(0), 0.0), 0);
     EXPECT_EQ(Element(0).dValue, 1);
-    for (const double value : {NotANumber, Infinite, Largest * 2}) {
+    for (const double value : {NotANumber, Infinite, Largest * 2})
         EXPECT_EQ(pie.UpdateItemValue(&Element(0), value), 0) << value;
-    }
     EXPECT_EQ(pie.m_dTotal, 4);
     EXPECT_EQ(Element(0).fPercent, 0.25f);
 }

@@ -19,9 +19,8 @@ int HeapBlocks()
     for (DWORD i = 0; i < count; ++i) {
         ::HeapLock(heaps[i]);
         PROCESS_HEAP_ENTRY entry = {};
-        while (::HeapWalk(heaps[i], &entry)) {
+        while (::HeapWalk(heaps[i], &entry))
             blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? 1 : 0;
-        }
         ::HeapUnlock(heaps[i]);
     }
     return blocks;
@@ -30,9 +29,8 @@ int HeapBlocks()
 void Pump()
 {
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
         ::DispatchMessageW(&message);
-    }
 }
 
 } // namespace
@@ -45,9 +43,8 @@ protected:
     {
         CPieChartWnd wnd;
         Make(wnd, 400, 300);
-        for (int i = 0; i < elements; ++i) {
+        for (int i = 0; i < elements; ++i)
             wnd.InsertItem(Name(i), L"label", 1 + i, Red);
-        }
         wnd.SetInclineAngle(50);
         for (const int style : {0, 1, 2}) {
             wnd.SetPieChartStyle(style);
@@ -77,9 +74,8 @@ TEST_F(PieCycle, LeavesNoGdiAndNoUserObject)
     Run(5);
     const int objects = GdiCount::All();
     const int children = Children();
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 5; ++i)
         Run(5);
-    }
     Pump();
     EXPECT_EQ(GdiCount::All(), objects);
     EXPECT_EQ(Children(), children);
@@ -125,15 +121,13 @@ TEST_F(PieCycle, PaintsAndClicksLeaveNothing)
         Click(200, 320);
         Pump();
     };
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         use();
-    }
     const int objects = GdiCount::All();
     const int blocks = HeapBlocks();
     constexpr int cycles = 16;
-    for (int i = 0; i < cycles; ++i) {
+    for (int i = 0; i < cycles; ++i)
         use();
-    }
     EXPECT_EQ(GdiCount::All(), objects);
     EXPECT_LT(HeapBlocks() - blocks, cycles / 2);
 }
@@ -164,9 +158,8 @@ TEST_F(PieEndurance, LabelsWithoutRoomForAGlyphCostNoMemoryContext)
         pie.MoveWindow(0, 0, width, 300);
         pie.UpdateWindow();
     }
-    for (const SPieElement* element : {&Element(0), &Element(1)}) {
+    for (const SPieElement* element : {&Element(0), &Element(1)})
         pie.UpdateItemLabel(pie.GetPieChartItem(element->strName), L"i");
-    }
     for (int width = 258; width <= 270; width += 2) { // the same for the percents
         pie.MoveWindow(0, 0, width, 300);
         pie.UpdateWindow();

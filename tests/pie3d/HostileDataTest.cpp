@@ -27,9 +27,8 @@ TEST_F(PieHostile, QuartersAndHalvesOfEveryTiltAreDrawn)
 TEST_F(PieHostile, SliversBesideAGiantLeaveThePieToTheGiant)
 {
     pie.InsertItem(L"giant", L"", 1e12, Blue);
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 40; ++i)
         pie.InsertItem(Name(i), L"", i < 20 ? 1 : 1e6, Red);
-    }
     Plain();
     for (const float incline : {0.0f, 60.0f}) {
         for (const int style : {0, 1, 2}) {
@@ -102,9 +101,8 @@ TEST_F(PieHostile, TextsOfAnyLengthAreTaken)
 
 TEST_F(PieHostile, TenThousandElementsAreDrawnScrolledAndRemoved)
 {
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 10000; ++i)
         ASSERT_NE(pie.InsertItem(Name(i), Name(i), 1 + i % 7, Red), nullptr);
-    }
     pie.Settle();
     EXPECT_EQ(pie.m_nElements, 10000);
     EXPECT_EQ(pie.m_nLabelsHeight, 429982); // 10000 * 43 - 18

@@ -21,9 +21,8 @@ protected:
     std::vector<float> DrawSweeps() const
     {
         std::vector<float> sweeps{pie.m_fDrawStartAngle};
-        for (const auto& [key, element] : pie.m_mapElements) {
+        for (const auto& [key, element] : pie.m_mapElements)
             sweeps.push_back(element->fDrawSweep);
-        }
         return sweeps;
     }
     int Below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
@@ -167,9 +166,8 @@ TEST_F(PieKept, WallsOfEqualElementsThatChangePlacesAreClickedInTheirNewOnes)
 TEST_F(PieKept, SharesOfInsertionsAreComputedByWhateverComesNextAndTheBarAtOnce)
 {
     const auto insert = [&](int count) {
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             pie.InsertItem(Name(pie.m_nElements), L"label", 1, Red);
-        }
     };
     const auto barShows = [&] { return (pie.m_wndScrollBar.GetStyle() & WS_VISIBLE) != 0; };
     insert(10);
@@ -203,14 +201,12 @@ TEST_F(PieKept, NamesAreFoundAfterInsertionsRemovalsAndSorts)
         } else {
             pie.RemoveItem(name);
         }
-        if (step % 20 == 0) {
+        if (step % 20 == 0)
             pie.sortPiechartElements(1);
-        }
         for (int number = 0; number < 30; ++number) {
             const SPieElement* walked = nullptr;
-            for (const auto& [key, element] : pie.m_mapElements) {
+            for (const auto& [key, element] : pie.m_mapElements)
                 walked = element->strName == Name(number) ? element.get() : walked;
-            }
             ASSERT_EQ(pie.GetPieChartItem(Name(number)), walked) << step;
         }
     }

@@ -18,9 +18,8 @@ testing::AssertionResult IsVeiled(COLORREF color, COLORREF under)
         const int from = static_cast<int>(under >> 8 * i & 0xFF);
         const int is = static_cast<int>(color >> 8 * i & 0xFF);
         const int expected = from + (veil[i] - from) * 0x64 / 255;
-        if (is < expected - 2 || is > expected + 2) {
+        if (is < expected - 2 || is > expected + 2)
             return testing::AssertionFailure() << std::hex << color << " over " << under;
-        }
     }
     return testing::AssertionSuccess();
 }
@@ -58,9 +57,8 @@ TEST_F(PiePainting, TheFrameIsRoundAndTheParentsColorStandsBehindIt)
     pie.SetParentWindowColor(RGB(255, 0, 0));
     const Picture picture = Shoot();
     for (const int x : {1, 798}) {
-        for (const int y : {1, 598}) {
+        for (const int y : {1, 598})
             EXPECT_EQ(picture.At(x, y), RGB(255, 0, 0)) << x << ' ' << y;
-        }
     }
     EXPECT_EQ(picture.At(15, 15), White);
     EXPECT_EQ(picture.At(400, 1), White);

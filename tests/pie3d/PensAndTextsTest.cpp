@@ -179,9 +179,8 @@ TEST_F(PieTexts, PercentsComeAfterTheLabels)
         ASSERT_EQ(texts.size(), 5u);
         const char* const order[] = {"text 'Title'", "text 'label'", "text 'label'", "text '25.00%'",
                                      "text '75.00%'"};
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 5; ++i)
             EXPECT_EQ(texts[i].rfind(order[i], 0), 0u) << texts[i];
-        }
     }
 }
 

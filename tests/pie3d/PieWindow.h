@@ -56,9 +56,8 @@ protected:
     std::wstring Order() const
     {
         std::wstring order;
-        for (const auto& [key, element] : pie.m_mapElements) {
+        for (const auto& [key, element] : pie.m_mapElements)
             order += (order.empty() ? L"" : L" ") + std::wstring(element->strName.View());
-        }
         return order;
     }
     Picture Shoot()

@@ -51,9 +51,8 @@ TEST_F(PieScrolling, FewRowsHideTheBar)
 
 TEST_F(PieScrolling, MoreRowsThanFitShowTheBarAndFewerHideItAgain)
 {
-    for (int i = 0; i < 11; ++i) {
+    for (int i = 0; i < 11; ++i)
         Fill({1});
-    }
     EXPECT_EQ(pie.m_nLabelsHeight, 455);
     EXPECT_FALSE(pie.m_wndScrollBar.GetStyle() & WS_VISIBLE);
     Fill({1});
@@ -69,9 +68,8 @@ TEST_F(PieScrolling, RowsExactlyAsHighAsThePieHideTheBar)
 {
     pie.MoveWindow(0, 0, 663, 600);
     ASSERT_EQ(pie.GetPieRect(), (TRect{30, 100, 442, 512}));
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 10; ++i)
         Fill({1});
-    }
     EXPECT_EQ(pie.m_nLabelsHeight, 412);
     EXPECT_FALSE(pie.m_wndScrollBar.GetStyle() & WS_VISIBLE);
     Fill({1});
@@ -92,9 +90,8 @@ protected:
     // 842 high in 470: the limit is 373, and row 9 the first of the end.
     PieLongList()
     {
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < 20; ++i)
             Fill({1});
-        }
     }
     void ExpectAt(int first, int position)
     {
@@ -107,9 +104,8 @@ TEST_F(PieLongList, LinesGoRowByRowToBothEnds)
 {
     Scroll(SB_LINEDOWN);
     ExpectAt(1, 43);
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 7; ++i)
         Scroll(SB_LINEDOWN);
-    }
     ExpectAt(8, 344);
     Scroll(SB_LINEDOWN);
     ExpectAt(9, 373);
@@ -117,9 +113,8 @@ TEST_F(PieLongList, LinesGoRowByRowToBothEnds)
     ExpectAt(9, 373);
     Scroll(SB_LINEUP);
     ExpectAt(8, 330);
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 8; ++i)
         Scroll(SB_LINEUP);
-    }
     ExpectAt(0, 0);
     Scroll(SB_LINEUP);
     ExpectAt(0, 0);
@@ -176,9 +171,8 @@ TEST_F(PieLongList, ARemovalKeepsTheFirstRowInStep)
 
 TEST_F(PieLongList, ARemovalAtTheEndTakesTheFirstRowFromThePositionBeforeIt)
 {
-    for (int i = 0; i < 9; ++i) {
+    for (int i = 0; i < 9; ++i)
         Scroll(SB_LINEDOWN);
-    }
     ExpectAt(9, 373);
     pie.RemoveItemByIndex(19);
     ExpectAt(8, 330); // 373 / 43, and then the bar's new limit
@@ -209,8 +203,7 @@ TEST_F(PieLongList, TheRowsThatShowAreThoseFromTheFirst)
     Scroll(SB_LINEDOWN);
     const Picture picture = Shoot();
     const PieColors::Argb colors[] = {Green, Blue, Red};
-    for (int row = 0; row < 11; ++row) {
+    for (int row = 0; row < 11; ++row)
         EXPECT_EQ(picture.At(570, 112 + 43 * row), Ref(colors[row % 3])) << row;
-    }
     EXPECT_EQ(picture.At(570, 112 + 43 * 11), RGB(255, 255, 255));
 }

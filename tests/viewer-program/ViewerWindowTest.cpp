@@ -123,7 +123,7 @@ TEST(ViewerWindow, MenuCommandsReachTheGraphAndTheStatusBarTells)
 
 TEST(ViewerWindow, TheStatusBarSaysThatAResetViewIsWhole)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -168,7 +168,7 @@ TEST(ViewerWindow, TheButtonOfTheModeIsPressedAndOtherChartsHaveNone)
 
 TEST(ViewerWindow, AFileThatGrowsIsFollowed)
 {
-    const TemporaryFile data(L"growing.csv", weather);
+    const TemporaryFile data(L"growing.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);
@@ -195,7 +195,7 @@ TEST(ViewerWindow, AFileThatGrowsIsFollowed)
 
 TEST(ViewerWindow, AFileThatWasOpenedIsAmongTheRecentOnes)
 {
-    const TemporaryFile data(L"first.csv", weather);
+    const TemporaryFile data(L"first.csv", Weather);
     const TemporaryFile other(L"second.csv", "x,y\n1,2\n2,3\n");
     {
         Process viewer(L"\"" + data.Path() + L"\"");
@@ -216,7 +216,7 @@ TEST(ViewerWindow, AFileThatWasOpenedIsAmongTheRecentOnes)
 
 TEST(ViewerWindow, TheKeysAreShownInABoxOfTwoColumns)
 {
-    const TemporaryFile data(L"weather.csv", weather);
+    const TemporaryFile data(L"weather.csv", Weather);
     Process viewer(L"\"" + data.Path() + L"\"");
     const HWND frame = WaitForFrame(viewer.Id());
     ASSERT_NE(nullptr, frame);

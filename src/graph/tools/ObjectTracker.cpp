@@ -18,18 +18,18 @@ void CObjectTracker::Press(CPoint point)
     }
 }
 
-void CObjectTracker::Track(CXGraphObject* object, CPoint point)
+void CObjectTracker::Track(CXGraphObject* pObject, CPoint point)
 {
-    const TObjectRef self(object);
+    const TObjectRef self(pObject);
     ::ReleaseCapture();
     // Messages run while it drags, and may remove the object: a copy of its tracker drags.
-    CRectTracker tracker = object->m_Tracker;
+    CRectTracker tracker = pObject->m_Tracker;
     const bool moved = tracker.Track(&m_Graph, point, FALSE, nullptr) != FALSE;
     if (!moved || !m_Graph.Owns(self))
         return;
-    object->m_Tracker = tracker;
-    if (object->m_bCanMove && object->m_bCanResize) {
-        object->m_rcObject = tracker.m_rect;
+    pObject->m_Tracker = tracker;
+    if (pObject->m_bCanMove && pObject->m_bCanResize) {
+        pObject->m_rcObject = tracker.m_rect;
         m_Graph.Invalidate(FALSE);
     }
 }

@@ -47,7 +47,7 @@ TEST(BarMeasures, GroupsShareTheWidth)
 
 TEST(BarMeasures, AxesEndAtTheWidthItself)
 {
-    const auto measures = ChartMeasures::Measure(ChartMeasures::barFactors, Position, Size, 3, 2);
+    const auto measures = ChartMeasures::Measure(ChartMeasures::BarFactors, Position, Size, 3, 2);
     const auto lines = ChartMeasures::AxisLines(measures, Position, Size);
     using ChartMeasures::TLine;
     EXPECT_EQ(lines[0], (TLine{{40, 115}, {200, 115}}));
@@ -60,7 +60,7 @@ TEST(BarMeasures, AxesEndAtTheWidthItself)
 
 TEST(BarMeasures, ValueLabelsAreTheMaximumItsHalfAndZero)
 {
-    const auto measures = ChartMeasures::Measure(ChartMeasures::barFactors, Position, Size, 3, 2);
+    const auto measures = ChartMeasures::Measure(ChartMeasures::BarFactors, Position, Size, 3, 2);
     const auto labels = ChartMeasures::ValueLabels(measures, Size, 25);
     using ChartMeasures::TValueLabel;
     EXPECT_EQ(labels[0], (TValueLabel{25, {36, 29}})); // base 114, less 85, 45 and 5

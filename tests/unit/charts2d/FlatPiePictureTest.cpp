@@ -1,5 +1,7 @@
 #include "FlatPieParts.h"
 
+#include "charts2d/FlatPieGeometry.h"
+
 #include <gtest/gtest.h>
 
 using namespace FlatPieParts;
