@@ -6,10 +6,14 @@
 # Windows: object library room-NAME of every file.
 # Native:  object library room-NAME of the ARITHMETIC files alone.
 if(WIN32)
+  # Functions right behind one another: a twentieth of the DLL is what would lie between them.
+  set(VANTOPLEX_CLOSE -falign-functions=1 -fno-align-jumps -fno-align-labels)
+
   # Holds nothing: its precompiled headers are those of every room.
   file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/rooms-shared.cpp CONTENT "// Precompiles headers, and is empty itself.\n")
   add_library(rooms-shared OBJECT ${CMAKE_BINARY_DIR}/rooms-shared.cpp)
   target_link_libraries(rooms-shared PUBLIC vantoplex-flags)
+  target_compile_options(rooms-shared PRIVATE ${VANTOPLEX_CLOSE})
   vantoplex_precompile(rooms-shared ${PROJECT_SOURCE_DIR}/src/base/Precompiled.h)
 endif()
 
@@ -28,6 +32,7 @@ function(vantoplex_room name)
   add_library(room-${name} OBJECT ${files})
   target_link_libraries(room-${name} PUBLIC vantoplex-flags)
   if(WIN32)
+    target_compile_options(room-${name} PRIVATE ${VANTOPLEX_CLOSE})
     target_precompile_headers(room-${name} REUSE_FROM rooms-shared)
   endif()
   if(WIN32 AND TARGET vantoplex-typelib)

@@ -207,7 +207,9 @@ void GraphActor::SetAxis(Random& random, Log& log)
     const auto axis = AnyAxis(random, bY);
     if (!axis)
         return;
-    log.Say("axis settings");
+    const int nArc = Extremes::Number(random, 0, 15), nTick = Extremes::Number(random, 0, 15),
+              nMarker = Extremes::Number(random, 0, 20);
+    log.Say("axis settings: arc %d, tick %d, marker %d", nArc, nTick, nMarker);
     axis->SetAxisType(static_cast<EAxisType>(Extremes::Number(random, 0, 1)));
     axis->SetDateTime(random.OneIn(3) ? 1 : 0);
     axis->SetAutoScale(random.Int(0, 1));
@@ -215,9 +217,9 @@ void GraphActor::SetAxis(Random& random, Log& log)
     axis->SetShowMarker(random.Int(0, 1));
     axis->SetVisible(random.OneIn(5) ? 0 : 1);
     axis->SetGridStyle(static_cast<unsigned>(Extremes::Number(random, 0, 5)));
-    axis->SetArcSize(Extremes::Number(random, 0, 15));
-    axis->SetTickSize(Extremes::Number(random, 0, 15));
-    axis->SetMarkerSize(Extremes::Number(random, 0, 20));
+    axis->SetArcSize(nArc);
+    axis->SetTickSize(nTick);
+    axis->SetMarkerSize(nMarker);
     axis->SetPlacement(static_cast<EAxisPlacement>(Extremes::Number(random, 0, 2)));
 }
 

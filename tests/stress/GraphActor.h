@@ -60,6 +60,6 @@ private:
     HWND m_hWnd = nullptr;
     // Arrays of the host. They outlive all graphs: a window paints on when its object is released.
     inline static std::deque<std::vector<TDataPoint>> s_lent;
-    std::vector<int> m_xOf;                     // X axis of each curve
+    std::vector<int> m_xOf; // X axis of each curve
     bool m_bHadCursor = false;
 };
