@@ -1,7 +1,8 @@
 # vantoplex-headers compiles every header under src/ and hosts/ by itself for Windows, so that
 # no file depends on what its neighbour happened to include first. Only what changed is compiled.
 function(vantoplex_check_headers)
-  set(includes ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/hosts ${CMAKE_BINARY_DIR}/include)
+  set(includes ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/hosts ${PROJECT_SOURCE_DIR}/kit/include
+    ${CMAKE_BINARY_DIR}/include)
   list(TRANSFORM includes PREPEND -I)
   get_target_property(options vantoplex-flags INTERFACE_COMPILE_OPTIONS)
   list(REMOVE_ITEM options -O2 -gdwarf-4 -D_FORTIFY_SOURCE=2)
