@@ -26,6 +26,7 @@ import registration
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAMS = ("Vantoplex.dll", "vantoplex-viewer.exe")
 ASSEMBLY = "Vantoplex.Charts"
+EARLIEST = 315532800 # 1980, the first moment that a zip can hold
 LARGEST_LIBRARY = 1_153_433 # bytes, 1.1 MB: a person looks at what makes it larger
 
 
@@ -47,8 +48,10 @@ def time_of_commit():
     given = os.environ.get("SOURCE_DATE_EPOCH")
     if given:
         return int(given)
+    if shutil.which("git") is None:
+        return EARLIEST
     shown = subprocess.run(["git", "-C", str(ROOT), "log", "-1", "--format=%ct"], capture_output=True, text=True)
-    return int(shown.stdout) if shown.returncode == 0 and shown.stdout.strip() else 315532800
+    return int(shown.stdout) if shown.returncode == 0 and shown.stdout.strip() else EARLIEST
 
 
 def copy(source, target):
