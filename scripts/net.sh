@@ -6,8 +6,8 @@
 #   scripts/net.sh --base COMMIT [NEW.dll] OLD is built from that commit, in a worktree under build/
 #   scripts/net.sh --frames N ...          compares the frames of N random graphs too; --seed S
 #                                          before it takes others (default 1)
-#   scripts/net.sh --masked [NEW.dll]      compares with the runs that --record kept
-#   scripts/net.sh --record [NEW.dll]      writes these runs anew, after a change that is meant
+#   scripts/net.sh --masked [NEW.dll]      compares with tests/net/recorded-*.txt, as a test does
+#   scripts/net.sh --record [NEW.dll]      writes these files anew, after a change that is meant
 #
 # The outputs stay in build/net: old-values.txt and new-values.txt, old-saved.txt and so on. Of a
 # frame that differs, vantoplex-net.exe DLL --frames 1 --first GRAPH --pictures FOLDER writes the
@@ -18,7 +18,7 @@ export VANTOPLEX_BUILD="${VANTOPLEX_BUILD:-$PWD/build}"
 source scripts/wine-env.sh
 folder=$VANTOPLEX_BUILD/net
 program=$VANTOPLEX_BUILD/windows-x64/bin/vantoplex-net.exe
-scripted=(--masked) bare=(--frames 100 --seed 2 --bare)
+recorded=(values saved frames)
 mkdir -p "$folder"
 
 usage() { sed -n '2,15p' "$0" >&2; exit 2; }
@@ -51,9 +51,6 @@ compare() {
   drive "$new" "new-$name.txt" "$@" --against "$(wine_path "$folder/old-$name.txt")" || code=1
 }
 
-# keep FILE: takes a recorded run into the tree.
-keep() { tr -d '\r' <"$folder/$1" >"tests/net/$1"; }
-
 mode=compare old='' frames=0 seed=1 code=0
 while [ $# -gt 0 ]; do
   case $1 in
@@ -72,12 +69,16 @@ scripts/build.sh windows-x64 vantoplex-net >&2
 
 case $mode in
   record)
-    drive "$new" recorded-script.txt "${scripted[@]}" && keep recorded-script.txt
-    drive "$new" recorded-frames.txt "${bare[@]}" && keep recorded-frames.txt
+    for name in "${recorded[@]}"; do
+      drive "$new" "recorded-$name.txt" --recorded "$name"
+      cp "$folder/recorded-$name.txt" tests/net/
+    done
     ;;
   masked)
-    drive "$new" script.txt "${scripted[@]}" --against "$(wine_path tests/net/recorded-script.txt)" || code=1
-    drive "$new" frames.txt "${bare[@]}" --against "$(wine_path tests/net/recorded-frames.txt)" || code=1
+    for name in "${recorded[@]}"; do
+      drive "$new" "recorded-$name.txt" --recorded "$name" \
+        --against "$(wine_path "tests/net/recorded-$name.txt")" || code=1
+    done
     ;;
   compare)
     compare "$old" "$new" values

@@ -4,6 +4,8 @@
 //   vantoplex-net DLL [--saved] [--masked] [--out FILE] [--against FILE]
 //   vantoplex-net DLL --frames N [--seed S] [--first K] [--bare] [--pictures FOLDER] [...]
 //
+//   vantoplex-net DLL --recorded NAME [--out FILE] [--against FILE]
+//
 //   --saved          prints what graphs write to files instead of what they show
 //   --masked         leaves out what the platform's fonts decide
 //   --out FILE       prints into the file
@@ -12,6 +14,7 @@
 //   --frames N       instead of the script, N random graphs of a few frames each, as checksums of
 //                    all pixels and values; --bare shows nothing that fonts decide, and --first K
 //                    with --pictures FOLDER shows the frames of graph K
+//   --recorded NAME  the run that recorded-NAME.txt keeps: values, saved or frames
 
 #include "Comparison.h"
 #include "Frames.h"
@@ -30,6 +33,19 @@ struct TOptions {
     bool bMasked = false;
     Frames::TPlan frames;
 };
+
+// What holds on every machine with this platform, whatever its fonts.
+bool SetRecorded(const std::wstring& name, TOptions& options)
+{
+    options.bMasked = true;
+    options.bSaved = name == L"saved";
+    options.frames.bBare = name == L"frames";
+    if (options.frames.bBare) {
+        options.frames.nGraphs = 100;
+        options.frames.seed = 2;
+    }
+    return name == L"values" || options.bSaved || options.frames.bBare;
+}
 
 bool Read(int nArguments, wchar_t** arguments, TOptions& options)
 {
@@ -54,6 +70,8 @@ bool Read(int nArguments, wchar_t** arguments, TOptions& options)
             options.out = arguments[++i];
         else if (word == L"--against" && bMore)
             options.against = arguments[++i];
+        else if (word == L"--recorded" && bMore && SetRecorded(arguments[++i], options))
+            continue;
         else if (options.dll.empty() && word[0] != L'-')
             options.dll = word;
         else
