@@ -1,4 +1,6 @@
-"""The constants in other languages, and the method tables for C and for whoever calls by slot."""
+"""The constants in other languages, and the method tables for C."""
+
+import interfaces
 
 NOTE = "Made from kit/constants.toml and Vantoplex.idl by kit/make.py: do not edit."
 
@@ -13,13 +15,13 @@ def signed16(number):
 
 
 def csharp(library, groups):
-    out = [f"// {NOTE}", "", "namespace Vantoplex", "{"]
+    out = [f"// {NOTE}", "", "using System;", "using System.Runtime.InteropServices;", "", "namespace Vantoplex", "{"]
     for group in all_groups(library, groups):
         out += [f"    /// <summary>{group.comment}</summary>", f"    public enum {group.name}", "    {"]
         for value in group.values:
             out += [f"        /// <summary>{value.text}</summary>", f"        {value.name} = {value.number},"]
         out += ["    }", ""]
-    return "\n".join(out[:-1] + ["}", ""])
+    return "\n".join(out + interfaces.csharp(library)[:-1] + ["}", ""])
 
 
 def basic(library, groups):
@@ -50,20 +52,13 @@ def python(library, groups):
 
 
 def rust(library, groups):
-    out = [f"//! {NOTE}", "#![allow(non_snake_case, non_upper_case_globals)]", ""]
+    out = [f"//! {NOTE}", "#![allow(dead_code, non_camel_case_types, non_snake_case, non_upper_case_globals)]", ""]
     for group in all_groups(library, groups):
         out += [f"// {group.name}: {group.comment}"]
         for v in group.values:
             out += [f"/// {v.text}", f"pub const {v.name}: i32 = {v.number};"]
         out += [""]
-    out += ["// Slots of the real method tables: the methods of IUnknown are 0 to 2, of IDispatch 3 to 6."]
-    for name in library.interfaces:
-        slots = library.slots(name)
-        if slots:
-            out += [f"pub mod {name} {{"]
-            out += [f"    pub const {m.name}: usize = {slot};" for slot, _, m in slots]
-            out += ["}"]
-    return "\n".join(out + [""])
+    return "\n".join(out + interfaces.rust(library))
 
 
 def guid(text):
@@ -124,5 +119,6 @@ def c_header(library, groups):
 def files(library, groups):
     return {"Vantoplex.cs": csharp(library, groups), "Vantoplex.bas": basic(library, groups),
             "VantoplexConstants.pas": pascal(library, groups),
+            "Vantoplex.pas": interfaces.pascal(library, NOTE), "vantoplex.py": interfaces.python(library, NOTE),
             "vantoplex_constants.py": python(library, groups), "vantoplex.rs": rust(library, groups),
             "vantoplex_c.h": c_header(library, groups)}

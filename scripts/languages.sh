@@ -25,35 +25,47 @@ need() { # PACKAGES...
 
 wine() { scripts/run-wine.sh -s $slot -t 120 "$@"; }
 
-# Runs a sample and looks for the curve, dark red, in the BMP file that it writes.
-run_sample() { # NAME
-  local name=$1 picture=$out/sine-$1.bmp
+# Runs a sample and looks for its curves' colours in the BMP file that it writes.
+run_sample() { # SAMPLE LANGUAGE COLOURS, each blue, green, red in hexadecimal digits
+  local picture=$out/$1-$2.bmp
   rm -f "$picture"
-  wine "$out/sine-$name.exe" "Z:${picture//\//\\}"
-  python3 - "$picture" <<'PYTHON'
+  wine "$out/$1-$2.exe" "Z:${picture//\//\\}"
+  python3 - "$picture" "${@:3}" <<'PYTHON'
 import struct, sys
 data = open(sys.argv[1], "rb").read()
 width, height, _, bits = struct.unpack_from("<iiHH", data, 18)
 step = bits // 8
 pixels = data[54:54 + width * abs(height) * step]
-count = sum(pixels[i:i + 3] == b"\x00\x00\x80" for i in range(0, len(pixels), step))
-if count < 300:
-    sys.exit(f"{sys.argv[1]} shows no curve: {count} pixels of its colour")
+for colour in sys.argv[2:]:
+    count = sum(pixels[i:i + 3] == bytes.fromhex(colour) for i in range(0, len(pixels), step))
+    if count < 300:
+        sys.exit(f"{sys.argv[1]} shows no curve of {colour}: {count} pixels")
 PYTHON
-  echo "$name: built, run, drew its curve"
+}
+
+run_samples() { # LANGUAGE
+  run_sample sine "$1" 000080
+  run_sample weather "$1" 2030c0 b05020
+  echo "$1: built, run, drew their curves"
 }
 
 sample_c() {
-  x86_64-w64-mingw32-gcc-posix -std=c11 -Wall -Wextra -Werror -municode -mwindows -I kit/languages hosts/samples/sine.c \
-    -o "$out/sine-c.exe" -lole32 -loleaut32
-  run_sample c
+  local name
+  for name in sine weather; do
+    x86_64-w64-mingw32-gcc-posix -std=c11 -Wall -Wextra -Werror -municode -mwindows -I kit/languages "hosts/samples/$name.c" \
+      -o "$out/$name-c.exe" -lole32 -loleaut32
+  done
+  run_samples c
 }
 
 sample_rust() {
   need rustc libstd-rust-dev-windows
-  /usr/bin/rustc -D warnings --target x86_64-pc-windows-gnu -C linker=x86_64-w64-mingw32-gcc-posix hosts/samples/sine.rs \
-    -o "$out/sine-rust.exe"
-  run_sample rust
+  local name
+  for name in sine weather; do
+    /usr/bin/rustc -D warnings --target x86_64-pc-windows-gnu -C linker=x86_64-w64-mingw32-gcc-posix \
+      "hosts/samples/$name.rs" -o "$out/$name-rust.exe"
+  done
+  run_samples rust
 }
 
 # The distribution has units for Linux alone; those for Windows are compiled from its sources in seconds.
@@ -77,21 +89,26 @@ sample_pascal() {
     ppcx64 "${options[@]}" "${sources[@]}" "$rtl/win64/buildrtl.pp"
     options+=("-Fu$units" "-Fu$packages/winunits-base/src")
     for folder in inc win common; do options+=("-Fu$packages/rtl-objpas/src/$folder"); done
+    options+=("-Fukit/languages")
     ppcx64 "${options[@]}" "-o$out/sine-pascal.exe" hosts/samples/Sine.pas
-    ppcx64 "${options[@]}" kit/languages/VantoplexConstants.pas
+    ppcx64 "${options[@]}" "-o$out/weather-pascal.exe" hosts/samples/Weather.pas
   } >"$out/pascal.log" 2>&1 || { tail -5 "$out/pascal.log" >&2; return 1; }
-  run_sample pascal
+  run_samples pascal
 }
 
 sample_csharp() {
-  need mono-mcs
+  need mono-mcs libmono-system-windows-forms4.0-cil
   mcs -warnaserror -platform:x64 -out:"$out/sine-csharp.exe" hosts/samples/Sine.cs kit/languages/Vantoplex.cs
+  mcs -warnaserror -platform:x64 -r:System.Windows.Forms -r:System.Drawing -out:"$out/weather-csharp.exe" \
+    hosts/samples/Weather.cs kit/languages/Vantoplex.cs
   echo "csharp: compiled, not run"
 }
 
 sample_python() {
   python3 -c 'import ast, sys; [ast.parse(open(name).read(), name) for name in sys.argv[1:]]' \
-    hosts/samples/sine.py kit/languages/vantoplex_constants.py
+    hosts/samples/*.py kit/languages/*.py
+  PYTHONPATH=kit/languages PYTHONDONTWRITEBYTECODE=1 python3 -c 'import vantoplex, vantoplex_constants
+assert vantoplex.ISGraph.METHODS["SetData"][0] == 7 and vantoplex_constants.VpxCommand.VPX_COMMAND_CURSOR == 40011'
   echo "python: parsed, not run"
 }
 

@@ -9,6 +9,31 @@ namespace
 
 constexpr UINT_PTR AnimationTimer = 50000; // the chart's own
 
+int NumberOf(Motion motion) noexcept
+{
+    switch (motion) {
+    case Motion::BarsGrow:
+        return VPX_ANIMATION_BARS_GROW;
+    case Motion::BarGroupsGrow:
+        return VPX_ANIMATION_BAR_GROUPS_GROW;
+    case Motion::BarSeriesGrow:
+        return VPX_ANIMATION_BAR_SERIES_GROW;
+    case Motion::BarGroupsFade:
+        return VPX_ANIMATION_BAR_GROUPS_FADE;
+    case Motion::BarSeriesFade:
+        return VPX_ANIMATION_BAR_SERIES_FADE;
+    case Motion::LinesDraw:
+        return VPX_ANIMATION_LINES_DRAW;
+    case Motion::LineSeriesDraw:
+        return VPX_ANIMATION_LINE_SERIES_DRAW;
+    case Motion::PieSweep:
+        return VPX_ANIMATION_PIE_SWEEP;
+    case Motion::PieFade:
+        return VPX_ANIMATION_PIE_FADE;
+    }
+    return 0;
+}
+
 int NumberOf(ChartKind kind) noexcept
 {
     switch (kind) {
@@ -99,7 +124,7 @@ void BusinessView::Animate(std::u16string_view word)
 {
     const Animation* animation = FindAnimation(m_kind, word);
     Check(m_chart->SetGraphAnimation(animation ? VPX_ANIMATE_ON : VPX_ANIMATE_OFF,
-                                     animation ? animation->number : 0));
+                                     animation ? NumberOf(animation->motion) : 0));
     Check(m_chart->Invalidate(TRUE));
 }
 

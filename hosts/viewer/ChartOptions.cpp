@@ -22,15 +22,15 @@ constexpr std::array<Word<PieOrder>, 3> Orders = {{{u"none", PieOrder::AsRead},
                                                    {u"ascending", PieOrder::Ascending}}};
 
 constexpr std::array<Animation, 9> AllAnimations = {{
-    {ChartKind::Bar, 20, u"grow", u"All bars grow"},
-    {ChartKind::Bar, 21, u"grow-groups", u"Groups grow in turn"},
-    {ChartKind::Bar, 22, u"grow-series", u"Series grow in turn"},
-    {ChartKind::Bar, 25, u"fade-groups", u"Groups fade in"},
-    {ChartKind::Bar, 26, u"fade-series", u"Series fade in"},
-    {ChartKind::Line, 30, u"draw", u"All lines draw on"},
-    {ChartKind::Line, 31, u"draw-series", u"Lines draw on in turn"},
-    {ChartKind::Pie, 10, u"sweep", u"Slices sweep in"},
-    {ChartKind::Pie, 11, u"fade", u"Slices fade in"},
+    {ChartKind::Bar, Motion::BarsGrow, u"grow", u"All bars grow"},
+    {ChartKind::Bar, Motion::BarGroupsGrow, u"grow-groups", u"Groups grow in turn"},
+    {ChartKind::Bar, Motion::BarSeriesGrow, u"grow-series", u"Series grow in turn"},
+    {ChartKind::Bar, Motion::BarGroupsFade, u"fade-groups", u"Groups fade in"},
+    {ChartKind::Bar, Motion::BarSeriesFade, u"fade-series", u"Series fade in"},
+    {ChartKind::Line, Motion::LinesDraw, u"draw", u"All lines draw on"},
+    {ChartKind::Line, Motion::LineSeriesDraw, u"draw-series", u"Lines draw on in turn"},
+    {ChartKind::Pie, Motion::PieSweep, u"sweep", u"Slices sweep in"},
+    {ChartKind::Pie, Motion::PieFade, u"fade", u"Slices fade in"},
 }};
 
 template <class T, std::size_t count>

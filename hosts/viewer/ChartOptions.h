@@ -12,9 +12,21 @@ enum class ChartKind { Graph, Bar, Line, Pie, Pie3d };
 enum class PieStyle { Doughnut, Flat, Solid };
 enum class PieOrder { AsRead, Descending, Ascending };
 
+enum class Motion {
+    BarsGrow,
+    BarGroupsGrow,
+    BarSeriesGrow,
+    BarGroupsFade,
+    BarSeriesFade,
+    LinesDraw,
+    LineSeriesDraw,
+    PieSweep,
+    PieFade
+};
+
 struct Animation {
     ChartKind kind;
-    int number; // of IChart2d::SetGraphAnimation
+    Motion motion;
     std::u16string_view word;
     std::u16string_view title; // in the menu
 };

@@ -203,6 +203,9 @@ bool Session::RunGraph(unsigned command)
     }
     if (command == DeleteMeasures) {
         m_control->DeleteMeasures();
+    } else if (command == ViewMoved || (command == ViewDragged && m_control->Operation() == opPan)) {
+        m_isReset = false;
+        ShowState();
     } else if (command == Legend) {
         m_control->ToggleLegend();
     } else if (command == Snap) {

@@ -11,6 +11,7 @@
 #include "viewer/InputFile.h"
 #include "viewer/MainMenu.h"
 #include "viewer/MainWindow.h"
+#include "viewer/MenuCommands.h"
 #include "viewer/Output.h"
 #include "viewer/Picture.h"
 #include "viewer/PlainText.h"
@@ -46,6 +47,19 @@ std::vector<std::u16string> ReadArguments()
     return arguments;
 }
 
+// The graph says nothing of a view that a wheel, a key or a drag in its pan mode has moved.
+void ReportMove(HWND frame, const MSG& message)
+{
+    if (!IsChild(frame, message.hwnd)) {
+        return;
+    }
+    if (message.message == WM_MOUSEWHEEL || message.message == WM_KEYDOWN) {
+        SendMessageW(frame, WM_COMMAND, MenuCommand::ViewMoved, 0);
+    } else if (message.message == WM_MOUSEMOVE && (message.wParam & MK_LBUTTON) != 0) {
+        SendMessageW(frame, WM_COMMAND, MenuCommand::ViewDragged, 0);
+    }
+}
+
 int RunMessageLoop(HWND frame)
 {
     const std::unique_ptr<HACCEL__, decltype(&DestroyAcceleratorTable)> keys(MakeAccelerators(),
@@ -59,6 +73,7 @@ int RunMessageLoop(HWND frame)
         if (writing || !TranslateAcceleratorW(frame, keys.get(), &message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
+            ReportMove(frame, message);
         }
     }
     return static_cast<int>(message.wParam);

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 // The viewer's window, worked from another process as a person would.
 
@@ -28,6 +29,24 @@ struct Search {
     DWORD process;
     HWND found;
 };
+
+HWND FindChart(HWND frame)
+{
+    HWND found = nullptr;
+    EnumChildWindows(
+        frame,
+        [](HWND window, LPARAM parameter) -> BOOL {
+            wchar_t name[32] = L"";
+            GetClassNameW(window, name, 32);
+            if (std::wstring_view(name) == L"msctls_statusbar32" ||
+                std::wstring_view(name) == L"ToolbarWindow32")
+                return TRUE;
+            *reinterpret_cast<HWND*>(parameter) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
 
 HWND FindFrame(DWORD process)
 {
@@ -133,6 +152,27 @@ TEST(ViewerWindow, TheStatusBarSaysThatAResetViewIsWhole)
     EXPECT_EQ(std::wstring(L"zoom 0").size(), zoomLength());
     SendMessageW(frame, WM_COMMAND, VPX_COMMAND_RESET_ZOOM, 0);
     EXPECT_EQ(std::wstring(L"whole").size(), zoomLength());
+    PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, viewer.ExitCode());
+}
+
+TEST(ViewerWindow, AViewThatTheWheelHasMovedIsNotCalledWhole)
+{
+    const TemporaryFile data(L"weather.csv", Weather);
+    Process viewer(L"\"" + data.Path() + L"\"");
+    const HWND frame = WaitForFrame(viewer.Id());
+    ASSERT_NE(nullptr, frame);
+    const HWND status = FindWindowExW(frame, nullptr, L"msctls_statusbar32", nullptr);
+    const auto zoomLength = [&] { return LOWORD(SendMessageW(status, SB_GETTEXTLENGTHW, 1, 0)); };
+    const HWND chart = FindChart(frame);
+    ASSERT_NE(nullptr, chart);
+
+    SendMessageW(frame, WM_COMMAND, VPX_COMMAND_RESET_ZOOM, 0);
+    PostMessageW(chart, WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+    for (int i = 0; i < 100 && zoomLength() == std::wstring(L"whole").size(); ++i)
+        Sleep(20);
+
+    EXPECT_EQ(std::wstring(L"zoom 0").size(), zoomLength());
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());
 }
