@@ -1,12 +1,15 @@
 #include "draw/DCEx.h"
 
+#include "draw/CanvasReach.h"
 #include "draw/DeviceScale.h"
 #include "framework/windowing/App.h"
 #include "framework/windowing/Window.h"
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+
+using CanvasReach::IsRecording;
+using CanvasReach::Within;
 
 namespace
 {
@@ -34,17 +37,6 @@ private:
     HDC m_hDC;
 };
 
-bool IsRecording(HDC hDC) noexcept
-{
-    const DWORD type = ::GetObjectType(hDC);
-    return type == OBJ_ENHMETADC || type == OBJ_METADC;
-}
-
-constexpr bool Within(POINT point, LONG limit) noexcept
-{
-    return point.x >= -limit && point.x <= limit && point.y >= -limit && point.y <= limit;
-}
-
 // Of the selected pen, in pixels; 0 for one that has no simple width.
 int PenWidth(HDC hDC) noexcept
 {
@@ -60,9 +52,7 @@ LongLines::TArea VisibleArea(HDC hDC, int room) noexcept
                                                 : LongLines::AreaAround(visible, room);
 }
 
-// Beside what is visible of a polygon: edges that are cut at both ends move by half a pixel
-// at most, others by much less.
-constexpr int PolygonRoom = 1 << 15;
+// Beside what is visible of a line.
 constexpr int WideLineRoom = 1 << 10;
 
 // Without limits in a recording: it keeps what any player of it may show.
@@ -248,45 +238,6 @@ BOOL CDCEx::Polyline(const POINT* lpPoints, int nCount)
     CDC::MoveTo(position.x, position.y);
     m_ptUnscaledPen = unscaledPen;
     return drawn;
-}
-
-BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
-{
-    if (!lpPoints || nCount < 0)
-        return FALSE;
-    std::vector<POINT> scaled;
-    const POINT* points = lpPoints;
-    if (m_bScaling) {
-        scaled.assign(lpPoints, lpPoints + nCount);
-        for (POINT& point : scaled)
-            ScalePoint(point);
-        points = scaled.data();
-    }
-    // A recording has no clip box to cut to: it keeps every polygon that the platform can take.
-    const bool recording = IsRecording(m_hDC);
-    const LONG limit = recording ? LongLines::Limit : LongLines::TallPolygon;
-    if (std::all_of(points, points + nCount,
-                    [limit](const POINT& point) { return Within(point, limit); }))
-        return CDC::Polygon(points, nCount);
-    return LongPolygon(lpPoints, nCount,
-                       recording ? LongLines::TArea{} : VisibleArea(m_hDC, PolygonRoom));
-}
-
-BOOL CDCEx::LongPolygon(const POINT* lpPoints, int nCount, const LongLines::TArea& area)
-{
-    std::vector<LongLines::TVertex> vertices;
-    vertices.reserve(static_cast<size_t>(nCount));
-    for (const POINT* point = lpPoints; point != lpPoints + nCount; ++point) {
-        CPoint scaled(*point);
-        if (m_bScaling)
-            ScalePoint(scaled);
-        vertices.push_back(Vertex(*point, scaled));
-    }
-    const std::vector<TPoint> pixels = LongLines::CutPolygon(vertices, area);
-    if (pixels.size() < 2)
-        return TRUE; // wholly outside
-    const std::vector<CPoint> points(pixels.begin(), pixels.end());
-    return CDC::Polygon(points.data(), static_cast<int>(points.size()));
 }
 
 int CDCEx::DrawText(const CString& str, LPRECT lpRect, UINT nFormat)

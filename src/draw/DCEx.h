@@ -54,7 +54,8 @@ public:
     }
     // As MoveTo and LineTo along the points; the pen stays where it was.
     BOOL Polyline(const POINT* lpPoints, int nCount);
-    // Allocates only when scaling, or for points beyond the limit.
+    // Allocates only when scaling, for points beyond the limit, and for what has so many steep
+    // edges that its rows are better found here (PolygonRows.h).
     BOOL Polygon(const POINT* lpPoints, int nCount);
     // The text's height. While scaling a copy of the rectangle is scaled; with DT_CALCRECT
     // the rectangle itself, which then holds the device's units.
@@ -74,7 +75,9 @@ public:
 private:
     BOOL FarLineTo(CPoint from, CPoint unscaledTo, CPoint to);
     BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to, const LongLines::TArea& area);
-    BOOL LongPolygon(const POINT* lpPoints, int nCount, const LongLines::TArea& area);
+    [[nodiscard]] std::vector<LongLines::TVertex> Vertices(const POINT* lpPoints, int nCount);
+    BOOL LongPolygon(std::span<const LongLines::TVertex> vertices, const LongLines::TArea& area);
+    BOOL FillRows(std::span<const LongLines::TVertex> vertices, const CRect& visible);
     [[nodiscard]] bool IsOutOfSight(LPCTSTR lpszString, int nCount, const CRect& rect,
                                     UINT nFormat) const;
     [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;

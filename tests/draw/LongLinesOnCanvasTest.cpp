@@ -5,11 +5,33 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <random>
 
 namespace
 {
 constexpr COLORREF Black = RGB(0, 0, 0);
 constexpr COLORREF White = RGB(255, 255, 255);
+
+// Zigzags across the canvas and far beyond it.
+std::vector<POINT> Zigzag(int nCount, LONG nReach)
+{
+    std::mt19937 random(7);
+    std::vector<POINT> points;
+    for (int i = 0; i < nCount; ++i) {
+        const LONG y = i % 2 == 0 ? -nReach : nReach;
+        points.push_back({static_cast<LONG>(random() % 100), y + static_cast<LONG>(random() % 60)});
+    }
+    return points;
+}
+
+void PrepareFill(CDC& dc, HBRUSH brush)
+{
+    ::SelectObject(dc, ::GetStockObject(NULL_PEN));
+    ::SelectObject(dc, brush);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetROP2(R2_NOTXORPEN);
+    dc.SetViewportOrg(5, 3);
+}
 } // namespace
 
 TEST(LongLinesOnCanvas, ALineToTheFarCornerKeepsItsSlope)
@@ -158,4 +180,60 @@ TEST(LongLinesOnCanvas, APolygonAroundEverythingFillsTheCanvas)
     canvas.dc.Polygon(all, 4);
 
     EXPECT_EQ(canvas.Picture(), std::vector<std::string>(30, std::string(30, '#')));
+}
+
+// A fill between curves with values beyond all bounds. The platform alone takes half an hour.
+TEST(LongLinesOnCanvas, APolygonOfThousandsOfFarEdgesIsFilledAtOnce)
+{
+    Canvas canvas(640, 480);
+    ::SelectObject(canvas.dc, ::GetStockObject(BLACK_BRUSH));
+    ::SelectObject(canvas.dc, ::GetStockObject(NULL_PEN));
+    const std::vector<POINT> points = Zigzag(5000, INT_MAX - 100);
+
+    const ULONGLONG start = ::GetTickCount64();
+    EXPECT_TRUE(canvas.dc.Polygon(points.data(), static_cast<int>(points.size())));
+
+    EXPECT_LT(::GetTickCount64() - start, 10'000u);
+    EXPECT_EQ(canvas.At(200, 240), White);
+    EXPECT_NE(canvas.Picture(), Canvas(640, 480).Picture());
+}
+
+TEST(LongLinesOnCanvas, ManySteepEdgesAreFilledWithThePixelsOfThePlatform)
+{
+    const HBRUSH hatch = ::CreateHatchBrush(HS_DIAGCROSS, RGB(200, 100, 50));
+    for (const LONG reach : {150L, 1000L}) {
+        const std::vector<POINT> points = Zigzag(301, reach);
+        Canvas platform(100, 80);
+        Canvas canvas(100, 80);
+        PrepareFill(platform.dc, hatch);
+        PrepareFill(canvas.dc, hatch);
+
+        platform.dc.CDC::Polygon(points.data(), 301);
+        canvas.dc.Polygon(points.data(), 301);
+
+        platform.dc.SetViewportOrg(0, 0);
+        canvas.dc.SetViewportOrg(0, 0);
+        EXPECT_EQ(canvas.Picture(), platform.Picture()) << reach;
+        EXPECT_NE(canvas.Picture(), Canvas(100, 80).Picture());
+    }
+    ::DeleteObject(hatch);
+}
+
+TEST(LongLinesOnCanvas, TheClipRegionIsAsBeforeAfterAFillOfManyEdges)
+{
+    Canvas canvas(100, 80);
+    ::SelectObject(canvas.dc, ::GetStockObject(NULL_PEN));
+    ::SelectObject(canvas.dc, ::GetStockObject(BLACK_BRUSH));
+    ::IntersectClipRect(canvas.dc, 10, 10, 90, 70);
+    const std::vector<POINT> points = Zigzag(301, 1000);
+
+    canvas.dc.Polygon(points.data(), 301);
+    const auto picture = canvas.Picture();
+    canvas.dc.PatBlt(0, 0, 100, 80, BLACKNESS);
+
+    EXPECT_EQ(picture[9], std::string(100, '.'));
+    EXPECT_NE(picture[10], std::string(100, '.'));
+    EXPECT_EQ(canvas.At(10, 10), Black);
+    EXPECT_EQ(canvas.At(89, 69), Black);
+    EXPECT_EQ(canvas.At(9, 10), White);
 }
