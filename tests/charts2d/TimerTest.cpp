@@ -1,5 +1,6 @@
 // What a tick of the animation does to the frame, before any paint.
 
+#include "automation/Interfaces.h"
 #include "charts2d/GraphObject.h"
 #include "support/ImportSlot.h"
 
@@ -75,7 +76,7 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsThePiesRectangleForBarsToo)
     Create(WindowLayout::bar);
     m_Chart.Add2DBarGraphSegment(L"one");
     m_Chart.Add2DBarGraphSeries(L"row", 0);
-    m_Chart.SetGraphAnimation(1, 20); // the first percent
+    m_Chart.SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW); // the first percent
     EXPECT_TRUE(Ticks(98).empty());
     EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
     EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared})); // held at a hundred
@@ -87,7 +88,8 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsForLinesAlso)
     for (int segment = 0; segment < 100; ++segment)
         m_Chart.Add2DLineGraphSegment(L"segment");
     m_Chart.Add2DLineGraphSeries(L"row", 0);
-    m_Chart.SetGraphAnimation(1, 31); // a line is one percent, the run ends at 99
+    m_Chart.SetGraphAnimation(
+        VPX_ANIMATE_ON, VPX_ANIMATION_LINE_SERIES_DRAW); // a line is one percent, the run ends at 99
     EXPECT_TRUE(Ticks(48).empty());
     EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
 }
@@ -96,7 +98,7 @@ TEST_F(ChartTimer, TickAtAHundredPercentClearsForThePie)
 {
     Create(WindowLayout::flatPie);
     m_Chart.Add2DPieGraphSegment(50, 0, L"slice");
-    m_Chart.SetGraphAnimation(1, 11); // by two percent
+    m_Chart.SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_PIE_FADE); // by two percent
     EXPECT_TRUE(Ticks(48).empty());
     EXPECT_EQ(Ticks(1), (std::vector<TFill>{Cleared}));
     EXPECT_TRUE(Ticks(1).empty()); // the next slice

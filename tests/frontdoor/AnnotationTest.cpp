@@ -201,7 +201,7 @@ TEST_F(FrontDoorAnnotation, ANoteCannotBeEdited)
     Shoot();
     graph->SetCursorFlags(0);
     graph->ForceSnap(0);
-    graph->SendMessage(WM_COMMAND, 40011, 0);
+    graph->SendMessage(WM_COMMAND, VPX_COMMAND_CURSOR, 0);
     Send(WM_MOUSEMOVE, 0, 250, 100);
     TDataPoint point = {0, 0};
     graph->GetCursorAbsolute(0, &point);

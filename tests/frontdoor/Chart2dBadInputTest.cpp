@@ -151,7 +151,7 @@ TEST_F(Chart2dBadInput, CallsThatNeedAChartDoNothingBeforeThereIsOne)
     EXPECT_EQ(color, 0u);
     EXPECT_EQ(chart->GetGraphLabelsColor(&(color = 1)), S_OK);
     EXPECT_EQ(color, 0u);
-    EXPECT_EQ(chart->SetGraphAnimation(1, 20), S_OK);
+    EXPECT_EQ(chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW), S_OK);
     EXPECT_EQ(chart->GetGraphAnimation(&bAnimation), S_OK);
     EXPECT_EQ(bAnimation, 0);
     EXPECT_FALSE(HasTimer());
@@ -204,7 +204,7 @@ TEST_F(Chart2dBadInput, ParentThatIsNoneGivesAChartWithoutAWindow)
     EXPECT_EQ(Handle(), nullptr);
     EXPECT_EQ(chart->CreateGraph(Bar), S_OK);
     FillBars({{1, 2}});
-    EXPECT_EQ(chart->SetGraphAnimation(1, 20), S_OK);
+    EXPECT_EQ(chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW), S_OK);
     EXPECT_EQ(chart->SetGraphSize(300, 300), S_OK);
     EXPECT_EQ(chart->SetGraphPosition(1, 1), S_OK);
     EXPECT_EQ(chart->Invalidate(1), S_OK);

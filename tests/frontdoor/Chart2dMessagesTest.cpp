@@ -214,12 +214,12 @@ TEST_F(Chart2dMessages, HostsWindowMayGoFirst)
 {
     Create(Bar);
     FillBars({{100, 50}});
-    chart->SetGraphAnimation(1, 20);
+    chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW);
     host.Destroy();
     EXPECT_EQ(Handle(), nullptr);
     EXPECT_EQ(chart->SetGraphSize(300, 300), S_OK);
     EXPECT_EQ(chart->SetGraphTitle(Text(L"gone")), S_OK);
-    EXPECT_EQ(chart->SetGraphAnimation(1, 20), S_OK);
+    EXPECT_EQ(chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW), S_OK);
     EXPECT_EQ(chart->Invalidate(1), S_OK);
     EXPECT_EQ(chart->CreateGraph(Line), S_OK);
 }

@@ -111,7 +111,7 @@ TEST_F(Chart2dPie, FullCircleIsMissingFromTheEndOfASweep)
 {
     Add(100, Red);
     EXPECT_EQ(AtTick(10, 101).Count(Red), 0);
-    chart->SetGraphAnimation(0, 10);
+    chart->SetGraphAnimation(VPX_ANIMATE_OFF, VPX_ANIMATION_PIE_SWEEP);
     EXPECT_EQ(Quarters(Redrawn()), (TColors{Red, Red, Red, Red}));
 }
 

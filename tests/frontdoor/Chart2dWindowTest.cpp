@@ -43,9 +43,9 @@ TEST_F(Chart2dWindow, SizeThatNoPictureHoldsShowsTheBackgroundAndIsLeftAgain)
     for (const int side : {2147483647, 100000, 30000}) {
         EXPECT_EQ(chart->SetGraphSize(side, side), S_OK);
         chart->Invalidate(1);
-        chart->SetGraphAnimation(1, 26);
+        chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BAR_SERIES_FADE);
         Tick(3);
-        chart->SetGraphAnimation(0, 26);
+        chart->SetGraphAnimation(VPX_ANIMATE_OFF, VPX_ANIMATION_BAR_SERIES_FADE);
         const HDC hWindow = ::GetDC(Handle());
         EXPECT_EQ(::GetPixel(hWindow, 150, 300), White) << side;
         ::ReleaseDC(Handle(), hWindow);
@@ -196,7 +196,7 @@ TEST_F(Chart2dWindow, AnimationRunsATimerUntilItIsTurnedOff)
     chart->GetGraphAnimation(&bAnimation);
     EXPECT_EQ(bAnimation, 0);
     EXPECT_FALSE(HasTimer());
-    chart->SetGraphAnimation(1, 20);
+    chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW);
     EXPECT_TRUE(HasTimer());
     chart->SetGraphPosition(0, 0);
     EXPECT_TRUE(HasTimer());
@@ -225,7 +225,7 @@ TEST_F(Chart2dWindow, TimerComesThroughTheHostsLoop)
     Create(Bar);
     FillBars({{100, 50}});
     chart->ShowGraphLegend(0);
-    chart->SetGraphAnimation(1, 20);
+    chart->SetGraphAnimation(VPX_ANIMATE_ON, VPX_ANIMATION_BARS_GROW);
     Redrawn();
     EXPECT_TRUE(host.PumpUntil([&] { return Picture(Handle()).Count(Red) > 500; }));
 }

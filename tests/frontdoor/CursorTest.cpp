@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr int InvalidParameter = static_cast<int>(0xC0000417);
-constexpr WPARAM CursorCommand = 40011;
+constexpr WPARAM CursorCommand = VPX_COMMAND_CURSOR;
 
 // A line from (0, 0) to (10, 10); the mouse moves in client pixels of the graph.
 class FrontDoorCursor : public FrontDoorGraph

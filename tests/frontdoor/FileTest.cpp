@@ -145,6 +145,6 @@ TEST_F(GraphFiles, APrintDialogThatGivesNoPrinterEndsTheCommand)
     AddLine(0);
     const Picture before = Shoot();
     const MessageBoxes boxes; // the platform may say that there is no printer
-    graph->SendMessage(WM_COMMAND, 40007, 0);
+    graph->SendMessage(WM_COMMAND, VPX_COMMAND_PRINT, 0);
     EXPECT_EQ(Shoot().CountDifferences(before), 0);
 }

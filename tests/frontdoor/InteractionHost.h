@@ -23,19 +23,19 @@ inline void PrintTo(const Heard& heard, std::ostream* stream)
 namespace Command
 {
 enum : WPARAM {
-    noOp = 40000,
-    insertLabel = 40001,
-    zoom = 40002,
-    resetZoom = 40003,
-    pan = 40004,
-    properties = 40005,
-    linearTrend = 40009,
-    cubicTrend = 40010,
-    cursor = 40011,
-    passOn = 40012,
-    zoomBack = 40013,
-    edit = 40014,
-    measure = 40015
+    noOp = VPX_COMMAND_SELECT,
+    insertLabel = VPX_COMMAND_INSERT_LABEL,
+    zoom = VPX_COMMAND_ZOOM,
+    resetZoom = VPX_COMMAND_RESET_ZOOM,
+    pan = VPX_COMMAND_PAN,
+    properties = VPX_COMMAND_PROPERTIES,
+    linearTrend = VPX_COMMAND_LINEAR_TREND,
+    cubicTrend = VPX_COMMAND_CUBIC_TREND,
+    cursor = VPX_COMMAND_CURSOR,
+    passOn = VPX_COMMAND_PASS_ON,
+    zoomBack = VPX_COMMAND_ZOOM_BACK,
+    edit = VPX_COMMAND_EDIT,
+    measure = VPX_COMMAND_MEASURE
 };
 } // namespace Command
 

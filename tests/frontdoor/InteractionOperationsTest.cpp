@@ -78,7 +78,7 @@ TEST_F(InteractionOperations, PanAndTheCursorStopRoundingOnAllAxesAndNothingElse
 TEST_F(InteractionOperations, TheCommandToPassOnReachesTheParentAsItCame)
 {
     Send(Command::passOn);
-    EXPECT_EQ(Heards(), std::vector{FromGraph(40012)});
+    EXPECT_EQ(Heards(), std::vector{FromGraph(VPX_MESSAGE_PASSED_ON)});
     EXPECT_EQ(graphHalf, static_cast<std::int32_t>(graphHalf)) << "32 bits, widened with sign";
     EXPECT_EQ(Operation(), opNone);
 }

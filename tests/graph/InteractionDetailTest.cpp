@@ -1,6 +1,7 @@
 // Fine points of the mouse, the keys, zoom and pan that only the native graph shows.
 
 #include "NativeGraph.h"
+#include "automation/Interfaces.h"
 #include "graph/DragState.h"
 
 #include <cmath>
@@ -172,7 +173,7 @@ TEST_F(InteractionDetail, TrendsTakeTheNextColoursAndResetTheRangesToWhatTheySpa
         Clean();
         ::SendMessageW(graph.m_hWnd, WM_COMMAND, nCommand, 0);
         const CXGraphDataSerie& trend = graph.m_Curves.back();
-        EXPECT_EQ(trend.m_crColor, next[nCommand - 40009]);
+        EXPECT_EQ(trend.m_crColor, next[nCommand - VPX_COMMAND_LINEAR_TREND]);
         EXPECT_EQ(trend.m_nCount, 11);
         EXPECT_TRUE(trend.m_bAutoDelete);
         ExpectRange(xAxis, 0, 10);

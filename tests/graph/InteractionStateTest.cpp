@@ -1,6 +1,7 @@
 // What only the native graph shows of the work of mouse and keys.
 
 #include "NativeGraph.h"
+#include "automation/Interfaces.h"
 #include "graph/DragState.h"
 #include "objects/XGraphDataNotation.h"
 
@@ -69,8 +70,8 @@ protected:
 
 TEST_F(InteractionState, NotificationsCarryTheLowHalfOfTheGraphsAddress)
 {
-    Send(40012);
-    Send(40013);
+    Send(VPX_COMMAND_PASS_ON);
+    Send(VPX_COMMAND_ZOOM_BACK);
     const auto heard = Heard();
     ASSERT_EQ(heard.size(), 2u);
     EXPECT_EQ(heard[0].lParam, Low(&graph));
@@ -96,7 +97,7 @@ TEST_F(InteractionState, EnteringTheCursorsStatePlacesItsBoxAndHidesIt)
     graph.m_nForcedSnapCurve = 0;
     graph.m_CursorLabel.m_bVisible = true;
     graph.m_CursorTool.m_ptLastCursor = CPoint(5, 5);
-    Send(40011);
+    Send(VPX_COMMAND_CURSOR);
     const CRect inner = graph.m_rcInner;
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject,
               CRect(inner.left + 1, inner.top, inner.left + 150, inner.top + 50));
@@ -105,7 +106,7 @@ TEST_F(InteractionState, EnteringTheCursorsStatePlacesItsBoxAndHidesIt)
     EXPECT_EQ(graph.m_nCursorCurve, 0);
     graph.m_CursorLabel.m_rcObject = CRect(1, 2, 3, 4);
     graph.m_nCursorFlags = XGC_HORIZ;
-    Send(40011);
+    Send(VPX_COMMAND_CURSOR);
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject, CRect(1, 2, 3, 4)) << "without a box to show";
 }
 
@@ -114,8 +115,8 @@ TEST_F(InteractionState, TheCursorsBoxIsHiddenByNoOpZoomPanAndResetAlone)
     const struct {
         WPARAM command;
         bool bShown;
-    } rows[] = {{40000, false}, {40002, false}, {40004, false},
-                {40003, false}, {40014, true},  {40015, true}};
+    } rows[] = {{VPX_COMMAND_SELECT, false},     {VPX_COMMAND_ZOOM, false}, {VPX_COMMAND_PAN, false},
+                {VPX_COMMAND_RESET_ZOOM, false}, {VPX_COMMAND_EDIT, true},  {VPX_COMMAND_MEASURE, true}};
     for (const auto& row : rows) {
         graph.m_CursorLabel.m_bVisible = true;
         Send(row.command);
@@ -126,16 +127,16 @@ TEST_F(InteractionState, TheCursorsBoxIsHiddenByNoOpZoomPanAndResetAlone)
 TEST_F(InteractionState, ZoomAndMeasureEmptyTheirRectangles)
 {
     graph.m_ZoomBand.m_rcZoom = graph.m_MeasureTool.m_rcMeasure = CRect(1, 2, 30, 40);
-    Send(40002);
+    Send(VPX_COMMAND_ZOOM);
     EXPECT_EQ(graph.m_ZoomBand.m_rcZoom, CRect(0, 0, 0, 0));
     EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(1, 2, 30, 40));
-    Send(40015);
+    Send(VPX_COMMAND_MEASURE);
     EXPECT_EQ(graph.m_MeasureTool.m_rcMeasure, CRect(0, 0, 0, 0));
 }
 
 TEST_F(InteractionState, ABandThatIsTooSmallStaysAndOneThatZoomsIsEmptied)
 {
-    Send(40002);
+    Send(VPX_COMMAND_ZOOM);
     const CPoint from = At(3, 8);
     for (CSize size : {CSize(14, 100), CSize(100, 100)}) {
         Press(from);
@@ -151,7 +152,7 @@ TEST_F(InteractionState, ZoomWritesTheBoundsOfTheBandAndKeepsThoseBefore)
 {
     CXGraphAxis& x = graph.m_XAxes[0];
     CXGraphAxis& y = graph.m_YAxes[0];
-    Send(40002);
+    Send(VPX_COMMAND_ZOOM);
     const CPoint from = At(2, 8), to = At(6, 3);
     const double bounds[] = {x.GetValueForPos(from.x), x.GetValueForPos(to.x), y.GetValueForPos(to.y),
                              y.GetValueForPos(from.y)};
@@ -247,13 +248,13 @@ TEST_F(InteractionState, ADragOfMarkersEndsWhereAnAxisHasFewer)
 TEST_F(InteractionState, TrendCommandsWithoutASelectedCurveEndTheProcess)
 {
     ASSERT_EQ(graph.m_nSelectedCurve, -1);
-    EXPECT_EXIT(Send(40009), testing::ExitedWithCode(InvalidParameter), "");
-    EXPECT_EXIT(Send(40010), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(Send(VPX_COMMAND_LINEAR_TREND), testing::ExitedWithCode(InvalidParameter), "");
+    EXPECT_EXIT(Send(VPX_COMMAND_CUBIC_TREND), testing::ExitedWithCode(InvalidParameter), "");
 }
 
 TEST_F(InteractionState, APlainClickInTheMeasuresStateStoresASpan)
 {
-    Send(40015);
+    Send(VPX_COMMAND_MEASURE);
     const CPoint at = At(4.5, 8);
     Click(at);
     ASSERT_EQ(graph.m_Measures.size(), 1u);
@@ -267,7 +268,7 @@ TEST_F(InteractionState, ADragInTheMeasuresStateSpansTwoPoints)
     for (bool bBuffered : {true, false}) {
         graph.m_bDoubleBuffer = bBuffered;
         graph.m_Measures.clear();
-        Send(40015);
+        Send(VPX_COMMAND_MEASURE);
         Press(At(1.5, 8));
         DragTo(At(7.5, 2));
         EXPECT_EQ(graph.m_ptCurrent.y, At(8, 8).y);
