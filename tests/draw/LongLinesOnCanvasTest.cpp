@@ -237,3 +237,52 @@ TEST(LongLinesOnCanvas, TheClipRegionIsAsBeforeAfterAFillOfManyEdges)
     EXPECT_EQ(canvas.At(89, 69), Black);
     EXPECT_EQ(canvas.At(9, 10), White);
 }
+
+// Dots of a curve whose size has no bound. The platform alone takes hours.
+TEST(LongLinesOnCanvas, ThousandsOfDotsLargerThanTheCanvasAreDrawnAtOnce)
+{
+    Canvas canvas(640, 480);
+    const CPenSelector pen(RGB(255, 0, 0), 32767, &canvas.dc);
+    const ULONGLONG start = ::GetTickCount64();
+
+    for (int i = 0; i < 2000; ++i)
+        canvas.dc.Ellipse(i % 640 - 32767, -32767, i % 640 + 32767, 32767);
+    EXPECT_EQ(canvas.At(320, 240), White) << "the brush's";
+    for (int i = 0; i < 2000; ++i)
+        canvas.dc.Ellipse(30000 - 32767, i % 480 - 32767, 30000 + 32767, i % 480 + 32767);
+    EXPECT_EQ(canvas.At(320, 240), RGB(255, 0, 0)) << "the pen's";
+    canvas.dc.FillSolidRect(0, 0, 640, 480, RGB(0, 255, 0));
+    for (int i = 0; i < 2000; ++i)
+        canvas.dc.Ellipse(60000 - 32767, i % 480 - 32767, 60000 + 32767, i % 480 + 32767);
+    EXPECT_EQ(canvas.At(320, 240), RGB(0, 255, 0)) << "nothing";
+
+    EXPECT_LT(::GetTickCount64() - start, 10'000u);
+}
+
+TEST(LongLinesOnCanvas, ALargeEllipseHasThePixelsOfThePlatform)
+{
+    struct TEllipse {
+        CRect rect;
+        int nPen;
+    };
+    const TEllipse ellipses[] = {{{-3000, -3000, 3000, 3000}, 1},
+                                 {{20, -5000, 12000, 5000}, 1},
+                                 {{-9000, -9000, 40, 40}, 1},
+                                 {{5000, -2100, 9200, 2100}, 1},
+                                 {{250, -2100, 4500, 2100}, 800}};
+    for (const auto& [rect, nPen] : ellipses) {
+        Canvas platform(60, 50);
+        Canvas canvas(60, 50);
+        for (CDCEx* const dc : {&platform.dc, &canvas.dc}) {
+            dc->FillSolidRect(0, 0, 60, 50, RGB(90, 90, 90));
+            ::SelectObject(*dc, ::GetStockObject(WHITE_BRUSH));
+        }
+        const CPenSelector platformPen(Black, nPen, &platform.dc);
+        const CPenSelector pen(Black, nPen, &canvas.dc);
+
+        platform.dc.CDC::Ellipse(&rect);
+        canvas.dc.Ellipse(rect.left, rect.top, rect.right, rect.bottom);
+
+        EXPECT_EQ(canvas.Picture(), platform.Picture()) << rect.left << ", pen of " << nPen;
+    }
+}
