@@ -3,7 +3,8 @@
 # seed in a process of its own. Options go to the program; --seeds 1000000 runs for days.
 #   scripts/stress.sh --first 42 --seeds 1 --steps 5000
 # The first seed that faults, ends or hangs is shrunk to its shortest failing steps; places in the
-# DLL are named. The exit code is 0 if all came to their end.
+# DLL are named. --failures 1000 goes on instead, with the last lines of each that failed. The exit
+# code is 0 if all came to their end.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 export VANTOPLEX_BUILD="${VANTOPLEX_BUILD:-$PWD/build}"

@@ -25,7 +25,7 @@ public:
 
     void Act(Random& random, Log& log) override
     {
-        switch (random.Int(0, 8)) {
+        switch (random.Int(0, 9)) {
         case 0:
         case 1:
             return Add(random, log);
@@ -39,6 +39,8 @@ public:
             return Animate(random, log);
         case 6:
             return Place(random, log);
+        case 9:
+            return AskLooks(log);
         default:
             return Paint(random, log);
         }
@@ -89,6 +91,30 @@ private:
         m_chart->SetGraphTitleShadow(random.Int(0, 1));
         m_chart->SetGraphLabelsColor(random.Color());
         m_chart->SetGraphLegendBackgroundColor(random.Color());
+        m_chart->SetGraphLegendTextColor(random.Color());
+        m_chart->SetGraphBackgroundColor(random.Color());
+        m_chart->SetGraphTitleColor(random.Color());
+        m_chart->SetGraphSubtitleColor(random.Color());
+        m_chart->SetGraphSubtitleShadow(random.Int(0, 1));
+    }
+    void AskLooks(Log& log)
+    {
+        log.Say("chart: questions");
+        unsigned long color = 0;
+        m_chart->GetGraphLegendTextColor(&color);
+        m_chart->GetGraphLegendBackgroundColor(&color);
+        m_chart->GetGraphLabelsColor(&color);
+        m_chart->GetGraphTitleColor(&color);
+        m_chart->GetGraphSubtitleColor(&color);
+        m_chart->GetGraphBackgroundColor(&color);
+        m_chart->GetGraphBackgroundColor(nullptr);
+        long flag = 0;
+        m_chart->GetGraphTitleShadow(&flag);
+        m_chart->GetGraphSubtitleShadow(&flag);
+        m_chart->GetGraphAnimation(&flag);
+        int nType = 0;
+        m_chart->GetGradientFillType(&nType);
+        m_chart->GetGraphFillType(&nType);
     }
     void Animate(Random& random, Log& log)
     {

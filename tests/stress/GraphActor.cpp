@@ -31,17 +31,18 @@ HWND GraphActor::Window() const
 void GraphActor::Act(Random& random, Log& log)
 {
     static const Step steps[] = {
-        &GraphActor::Plot,       &GraphActor::Plot,        &GraphActor::Replace,
-        &GraphActor::Structure,  &GraphActor::Select,      &GraphActor::Settings,
-        &GraphActor::SetAxis,    &GraphActor::AxisTexts,   &GraphActor::AxisBands,
-        &GraphActor::SetCurve,   &GraphActor::SetCurve,    &GraphActor::Analyse,
-        &GraphActor::AddLabel,   &GraphActor::AddNote,     &GraphActor::Operate,
-        &GraphActor::Operate,    &GraphActor::Mouse,       &GraphActor::Mouse,
-        &GraphActor::Mouse,      &GraphActor::Drag,        &GraphActor::Drag,
-        &GraphActor::Drag,       &GraphActor::Keys,        &GraphActor::Cursor,
-        &GraphActor::File,       &GraphActor::PrintOrSave, &GraphActor::Paint,
-        &GraphActor::Paint,      &GraphActor::Size,        &GraphActor::MoreSettings,
-        &GraphActor::SendCommand};
+        &GraphActor::Plot,        &GraphActor::Plot,        &GraphActor::Replace,
+        &GraphActor::Structure,   &GraphActor::Select,      &GraphActor::Settings,
+        &GraphActor::SetAxis,     &GraphActor::AxisTexts,   &GraphActor::AxisBands,
+        &GraphActor::SetCurve,    &GraphActor::SetCurve,    &GraphActor::Analyse,
+        &GraphActor::AddLabel,    &GraphActor::AddNote,     &GraphActor::Operate,
+        &GraphActor::Operate,     &GraphActor::Mouse,       &GraphActor::Mouse,
+        &GraphActor::Mouse,       &GraphActor::Drag,        &GraphActor::Drag,
+        &GraphActor::Drag,        &GraphActor::Keys,        &GraphActor::Cursor,
+        &GraphActor::File,        &GraphActor::PrintOrSave, &GraphActor::Paint,
+        &GraphActor::Paint,       &GraphActor::Size,        &GraphActor::MoreSettings,
+        &GraphActor::SendCommand, &GraphActor::AskGraph,    &GraphActor::AskAxis,
+        &GraphActor::AskCurve};
     const Step step = random.Of(steps);
     (this->*step)(random, log);
 }
@@ -85,8 +86,6 @@ void GraphActor::Plot(Random& random, Log& log)
             static_cast<unsigned long long>(s_lent.back().size()), nCurve, nX, nY, bOwned);
     m_graph->SetData(nullptr, s_lent.back().data(), static_cast<long>(s_lent.back().size()), nCurve, nX,
                      nY, bOwned);
-    m_xOf.resize(static_cast<std::size_t>(nCurve));
-    m_xOf.push_back(nX);
 }
 
 // Replaced data is the host's, whatever is passed: an array that is handed over is made by the
@@ -101,7 +100,6 @@ void GraphActor::Replace(Random& random, Log& log)
             static_cast<unsigned long long>(s_lent.back().size()));
     m_graph->SetData(nullptr, s_lent.back().data(), static_cast<long>(s_lent.back().size()), nCurve, 0,
                      0, 0);
-    m_xOf[static_cast<std::size_t>(nCurve)] = 0;
 }
 
 void GraphActor::Forget()
@@ -117,16 +115,28 @@ void GraphActor::Forget()
     }
 }
 
+bool GraphActor::IsUsedXAxis(int nAxis) const
+{
+    for (int i = 0; i < Curves(); ++i) {
+        Holder<ISGraphDataSerie> curve;
+        int nUsed = 0;
+        m_graph->GetCurve(curve.Out(), i);
+        curve->GetXAxis(&nUsed);
+        if (nUsed == nAxis)
+            return true;
+    }
+    return false;
+}
+
 void GraphActor::Structure(Random& random, Log& log)
 {
     const int nX = Count(&ISGraph::GetXAxisCount);
-    const bool bLastIsUsed = std::find(m_xOf.begin(), m_xOf.end(), nX - 1) != m_xOf.end();
+    const bool bLastIsUsed = IsUsedXAxis(nX - 1);
     switch (random.Int(0, 3)) {
     case 0:
         log.Say("ResetAll");
         Forget();
         m_graph->ResetAll();
-        m_xOf.clear();
         break;
     case 1:
         if (bLastIsUsed)
@@ -146,10 +156,8 @@ void GraphActor::Structure(Random& random, Log& log)
         log.Say("ResetAll and DeleteCurve of a new one");
         Forget();
         m_graph->ResetAll();
-        m_xOf.clear();
         Plot(random, log);
         m_graph->DeleteCurve(0);
-        m_xOf.clear();
         break;
     }
 }
@@ -302,6 +310,10 @@ void GraphActor::Analyse(Random& random, Log& log)
     free(pPoints);
     curve->GetTriangularMovingAverage(&pPoints, nSpan);
     free(pPoints);
+    curve->GetLinearMovingAverage(&pPoints, nSpan);
+    free(pPoints);
+    curve->GetSineWeightedMovingAverage(&pPoints, nSpan);
+    free(pPoints);
 }
 
 void GraphActor::AddLabel(Random& random, Log& log)
@@ -317,6 +329,7 @@ void GraphActor::AddLabel(Random& random, Log& log)
     LOGFONTW font = {};
     font.lfHeight = Extremes::Number(random, -40, 40) % 300;
     wcscpy(font.lfFaceName, L"Arial");
+    SetLabel(label.Get(), random);
     label->SetFont(reinterpret_cast<unsigned int*>(&font));
 }
 

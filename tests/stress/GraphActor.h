@@ -43,6 +43,9 @@ private:
     void Keys(Random& random, Log& log);
     void Cursor(Random& random, Log& log);
     void File(Random& random, Log& log);
+    void AskGraph(Random& random, Log& log);
+    void AskAxis(Random& random, Log& log);
+    void AskCurve(Random& random, Log& log);
     void PrintOrSave(Random& random, Log& log);
     void Paint(Random& random, Log& log);
     void Size(Random& random, Log& log);
@@ -51,8 +54,12 @@ private:
     [[nodiscard]] Holder<ISGraphAxis> AnyAxis(Random& random, bool& bY) const;
     [[nodiscard]] int Count(HRESULT (STDMETHODCALLTYPE ISGraph::*pfn)(int*)) const;
     [[nodiscard]] int Curves() const;
+    [[nodiscard]] bool IsUsedXAxis(int nAxis) const;
     [[nodiscard]] LPARAM Place(Random& random) const;
-    void Enter(WPARAM nCommand);
+    static void SetShared(ISGraphObject* pObject, Random& random);
+    static void SetLabel(ISGraphLabel* pLabel, Random& random);
+    void Enter(WPARAM nCommand, bool bByMethod);
+    static void Damage(const std::wstring& path, Random& random);
     void Forget(); // what names curves that may be gone
 
     const Server& m_server;
@@ -60,6 +67,5 @@ private:
     HWND m_hWnd = nullptr;
     // Arrays of the host. They outlive all graphs: a window paints on when its object is released.
     inline static std::deque<std::vector<TDataPoint>> s_lent;
-    std::vector<int> m_xOf; // X axis of each curve
     bool m_bHadCursor = false;
 };

@@ -4,13 +4,26 @@
 
 #include "net/Graph.h"
 
-void GraphActor::Enter(WPARAM nCommand)
+void GraphActor::Enter(WPARAM nCommand, bool bByMethod)
 {
     if (nCommand == Command::cursor) {
         m_graph->DeleteMeasures();
         m_bHadCursor = true;
     }
-    m_graph->SendMessage(WM_COMMAND, nCommand, 0);
+    if (!bByMethod)
+        m_graph->SendMessage(WM_COMMAND, nCommand, 0);
+    else if (nCommand == Command::zoom)
+        m_graph->Zoom();
+    else if (nCommand == Command::pan)
+        m_graph->Pan();
+    else if (nCommand == Command::cursor)
+        m_graph->Cursor();
+    else if (nCommand == Command::edit)
+        m_graph->Edit();
+    else if (nCommand == Command::measure)
+        m_graph->Measure();
+    else
+        m_graph->ResetZoom();
 }
 
 void GraphActor::Operate(Random& random, Log& log)
@@ -20,8 +33,9 @@ void GraphActor::Operate(Random& random, Log& log)
     const WPARAM nCommand = random.Of(commands);
     if (nCommand == Command::measure && (m_bHadCursor || Curves() == 0))
         return;
-    log.Say("operation by command %llu", nCommand);
-    Enter(nCommand);
+    const bool bByMethod = random.OneIn(2);
+    log.Say("operation by command %llu, by method %d", nCommand, bByMethod);
+    Enter(nCommand, bByMethod);
 }
 
 void GraphActor::SendCommand(Random& random, Log& log)
@@ -30,6 +44,7 @@ void GraphActor::SendCommand(Random& random, Log& log)
                                Command::resetZoom,
                                Command::properties,
                                Command::passOn,
+                               Command::print,
                                Command::zoomBack,
                                40006,
                                40008,
@@ -117,17 +132,43 @@ void GraphActor::File(Random& random, Log& log)
         std::wstring(folder) + L"stress-" + std::to_wstring(::GetCurrentProcessId());
     const auto nFlags = static_cast<unsigned>(random.Int(0, 7));
     const bool bLoad = random.OneIn(3);
-    log.Say("saved with flags %u%s", nFlags, bLoad ? " and loaded" : "");
+    const bool bDamage = random.OneIn(2);
+    log.Say("saved with flags %u%s%s", nFlags, bLoad && bDamage ? ", damaged" : "",
+            bLoad ? ", loaded" : "");
     m_graph->Save(Text(path), nFlags);
     if (bLoad) {
+        if (bDamage)
+            Damage(path, random);
         Forget();
         m_graph->Load(Text(path));
         Forget();
         m_graph->ResetAll(); // curves of a file may name axes that it does not bring
-        m_xOf.clear();
     }
     ::DeleteFileW(path.c_str());
     m_graph->Load(Text(L"Z:\\no such folder\\file"));
+}
+
+// Some bytes changed, or the end cut off.
+void GraphActor::Damage(const std::wstring& path, Random& random)
+{
+    const HANDLE hFile =
+        ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+        return;
+    const int nSize = static_cast<int>(::GetFileSize(hFile, nullptr));
+    for (int n = random.Int(1, 4); n > 0 && nSize > 0; --n) {
+        const std::uint32_t odd[] = {0,      1,          0xFF,       0x7FFF,    0x8001,
+                                     0xFFFF, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+        const std::uint32_t value = random.Of(odd);
+        DWORD nWritten = 0;
+        ::SetFilePointer(hFile, random.Int(0, nSize - 1), nullptr, FILE_BEGIN);
+        ::WriteFile(hFile, &value, static_cast<DWORD>(random.Int(1, 4)), &nWritten, nullptr);
+    }
+    if (random.OneIn(4)) {
+        ::SetFilePointer(hFile, random.Int(0, nSize), nullptr, FILE_BEGIN);
+        ::SetEndOfFile(hFile);
+    }
+    ::CloseHandle(hFile);
 }
 
 void GraphActor::PrintOrSave(Random&, Log& log)

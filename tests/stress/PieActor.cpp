@@ -1,5 +1,7 @@
 #include "Actor.h"
 
+#include <cwchar>
+
 namespace
 {
 // A 3D pie. Items are asked for by name each time: one that is gone gives no item.
@@ -22,7 +24,7 @@ public:
 
     void Act(Random& random, Log& log) override
     {
-        switch (random.Int(0, 9)) {
+        switch (random.Int(0, 10)) {
         case 0:
         case 1:
             return Insert(random, log);
@@ -36,6 +38,8 @@ public:
             return SetShape(random, log);
         case 6:
             return Click(random, log);
+        case 10:
+            return AskItems(random, log);
         case 7:
             return Scroll(random, log);
         default:
@@ -86,6 +90,36 @@ private:
         m_pie->SetBackGroundGradientDark(Extremes::Angle(random));
         m_pie->SetPieElementGradientDarkAll(Extremes::Angle(random));
         m_pie->SetPieElementGradientLightAll(Extremes::Angle(random));
+        m_pie->SetLabelBoxColor(random.Color());
+        m_pie->SetLabelColor(random.Color());
+        m_pie->SetParentWindowColor(random.Color());
+        LOGFONTW font = {};
+        font.lfHeight = Extremes::Number(random, -40, 40);
+        font.lfWeight = Extremes::Number(random, 0, 900);
+        font.lfItalic = static_cast<BYTE>(random.Int(0, 1));
+        std::wcscpy(font.lfFaceName, random.OneIn(2) ? L"Arial" : L"no such face");
+        if (random.OneIn(2))
+            m_pie->SetLabelFont(reinterpret_cast<VARIANT*>(&font));
+        else
+            m_pie->SetTitleFont(reinterpret_cast<VARIANT*>(&font));
+    }
+    void AskItems(Random& random, Log& log)
+    {
+        log.Say("pie: questions");
+        int nElement = 0;
+        m_pie->GetElementID(Text(NameOf(random.Int(0, 30))), &nElement);
+        float light = 0;
+        m_pie->GetBackGroungGrLight(&light);
+        m_pie->GetBackgroundGrDark(&light);
+        VARIANT* const pItem = AnyItem(random);
+        m_pie->GetElementGrLight(pItem, &light);
+        m_pie->GetElementGrDark(pItem, &light);
+        Text name;
+        if (pItem != nullptr) // null ends the process
+            m_pie->GetElementName(pItem, name.Out());
+        m_pie->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(random.Int(0, 400), random.Int(0, 300)));
+        m_pie->PostMessage(WM_LBUTTONDOWN, MK_LBUTTON,
+                           MAKELPARAM(random.Int(0, 400), random.Int(0, 300)));
     }
     void SetShape(Random& random, Log& log)
     {

@@ -4,10 +4,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <deque>
 
 namespace
 {
-constexpr DWORD MostTime = 180'000; // milliseconds for one run; more is a hang
+// More is a hang: of the processor by the run, and of the clock for one that waits.
+constexpr ULONGLONG MostProcessorTime = 180 * 10'000'000ULL; // in 100 ns
+constexpr ULONGLONG MostTime = 1'800'000;                    // in ms
+constexpr ULONGLONG MostShrinkingTime = 1'800'000;
 constexpr int MostTries = 400;
 
 std::wstring ProgramPath()
@@ -50,6 +54,27 @@ std::vector<int> BegunSteps(const Shrinking::TRun& run)
     return steps;
 }
 
+ULONGLONG ProcessorTime(HANDLE hProcess)
+{
+    FILETIME created, ended, kernel, user;
+    ::GetProcessTimes(hProcess, &created, &ended, &kernel, &user);
+    const auto inOne = [](FILETIME time) {
+        return (ULONGLONG{time.dwHighDateTime} << 32) + time.dwLowDateTime;
+    };
+    return inOne(kernel) + inOne(user);
+}
+
+// False for a hang. A busy machine is none.
+bool Ends(HANDLE hProcess)
+{
+    const ULONGLONG nStart = ::GetTickCount64();
+    while (::WaitForSingleObject(hProcess, 500) != WAIT_OBJECT_0) {
+        if (ProcessorTime(hProcess) > MostProcessorTime || ::GetTickCount64() - nStart > MostTime)
+            return false;
+    }
+    return true;
+}
+
 void PrintLog(const Shrinking::TRun& run)
 {
     if (std::FILE* pFile = ::_wfopen(LogOf(run).c_str(), L"rb")) {
@@ -90,7 +115,7 @@ bool Shrinking::Survives(const TRun& run, const std::vector<int>& steps)
                           &startup, &process))
         return false;
     DWORD nCode = 1;
-    if (::WaitForSingleObject(process.hProcess, MostTime) == WAIT_OBJECT_0)
+    if (Ends(process.hProcess))
         ::GetExitCodeProcess(process.hProcess, &nCode);
     else
         ::TerminateProcess(process.hProcess, 1);
@@ -99,14 +124,35 @@ bool Shrinking::Survives(const TRun& run, const std::vector<int>& steps)
     return nCode == 0;
 }
 
+void Shrinking::PrintEnd(const TRun& run)
+{
+    std::deque<std::string> lines;
+    if (std::FILE* pFile = ::_wfopen(LogOf(run).c_str(), L"rb")) {
+        char line[1024];
+        while (std::fgets(line, sizeof line, pFile) != nullptr) {
+            lines.emplace_back(line);
+            if (lines.size() > 8)
+                lines.pop_front();
+        }
+        std::fclose(pFile);
+    }
+    for (const std::string& line : lines)
+        std::printf("    %s", line.c_str());
+    std::printf("\n");
+}
+
 // Blocks of steps are left out, ever smaller ones, as long as the rest still fails.
 void Shrinking::PrintShortest(const TRun& run)
 {
     std::vector<int> steps = BegunSteps(run);
     int nTries = 0;
-    for (std::size_t nBlock = std::max<std::size_t>(1, steps.size() / 2); nTries < MostTries;) {
+    const ULONGLONG nStart = ::GetTickCount64();
+    const auto isOver = [&] {
+        return nTries >= MostTries || ::GetTickCount64() - nStart > MostShrinkingTime;
+    };
+    for (std::size_t nBlock = std::max<std::size_t>(1, steps.size() / 2); !isOver();) {
         bool bShorter = false;
-        for (std::size_t nAt = 0; nAt < steps.size() && nTries < MostTries;) {
+        for (std::size_t nAt = 0; nAt < steps.size() && !isOver();) {
             std::vector<int> fewer = steps;
             fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(nAt),
                         fewer.begin() +

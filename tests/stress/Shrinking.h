@@ -19,5 +19,7 @@ struct TRun {
 // Whether the run comes to its end; all steps for an empty list.
 [[nodiscard]] bool Survives(const TRun& run, const std::vector<int>& steps);
 
+// The last lines of what the run wrote.
+void PrintEnd(const TRun& run);
 void PrintShortest(const TRun& run);
 } // namespace Shrinking

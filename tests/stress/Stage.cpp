@@ -1,8 +1,11 @@
 #include "Stage.h"
 
+#include <utility>
+
 Stage* Stage::s_pCurrent = nullptr;
 
-Stage::Stage(const Server& server, Log& log) : m_server(server), m_log(log)
+Stage::Stage(const Server& server, Log& log)
+    : m_server(server), m_log(log), m_dialogs(log), m_printer(server.Module())
 {
     for (auto& host : m_hosts)
         host = std::make_unique<HostWindow>(640, 480);
@@ -20,6 +23,9 @@ void Stage::Step(std::uint64_t seed, int nStep)
 {
     Random random(seed, static_cast<std::uint64_t>(nStep));
     m_callBacks = Random(seed + 1, static_cast<std::uint64_t>(nStep));
+    m_dialogs.Begin(Random(seed + 2, static_cast<std::uint64_t>(nStep)));
+    m_printer.Begin(Random(seed + 3, static_cast<std::uint64_t>(nStep)));
+    LetGo();
     const auto nActor = static_cast<std::size_t>(random.Int(0, static_cast<int>(m_actors.size()) - 1));
     if (m_actors[nActor] == nullptr)
         Make(random, nActor);
@@ -66,6 +72,24 @@ void Stage::Bereave(Random& random)
     }
 }
 
+// Its charts' calls and loops may be under way.
+void Stage::BereaveInside()
+{
+    const auto nHost = static_cast<std::size_t>(m_callBacks.Int(0, 1));
+    m_log.Say("parent %d destroyed inside", static_cast<int>(nHost));
+    for (std::size_t i = 0; i < m_actors.size(); ++i)
+        m_bereaved[i] = m_bereaved[i] || (m_actors[i] != nullptr && m_hostOf[i] == nHost);
+    m_hosts[nHost] = std::make_unique<HostWindow>(640, 480);
+}
+
+void Stage::LetGo()
+{
+    for (std::size_t i = 0; i < m_actors.size(); ++i) {
+        if (std::exchange(m_bereaved[i], false))
+            m_actors[i].reset();
+    }
+}
+
 void Stage::Pump()
 {
     m_log.Say("message loop");
@@ -86,7 +110,9 @@ void Stage::CallBack()
     const auto nActor =
         static_cast<std::size_t>(m_callBacks.Int(0, static_cast<int>(m_actors.size()) - 1));
     m_log.Say("called back:");
-    if (m_actors[nActor] != nullptr)
+    if (m_callBacks.OneIn(40))
+        BereaveInside();
+    else if (m_actors[nActor] != nullptr)
         m_actors[nActor]->Act(m_callBacks, m_log);
     m_bInside = false;
 }
@@ -94,6 +120,8 @@ void Stage::CallBack()
 // Runs wherever a loop runs: in the host's own, in a dialog, in the drag of a frame.
 void Stage::OnTimer(HWND, UINT, UINT_PTR, DWORD)
 {
-    if (s_pCurrent != nullptr)
-        s_pCurrent->CallBack();
+    if (s_pCurrent == nullptr)
+        return;
+    s_pCurrent->CallBack();
+    s_pCurrent->m_dialogs.GoOn();
 }

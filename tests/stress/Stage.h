@@ -3,8 +3,8 @@
 // lets one act; the host calls back from its message loop and from every modal loop.
 
 #include "Actor.h"
-
-#include "net/Dialogs.h"
+#include "DialogHand.h"
+#include "FailingPrinter.h"
 
 #include <array>
 #include <memory>
@@ -23,6 +23,8 @@ public:
 private:
     void Make(Random& random, std::size_t nActor);
     void Bereave(Random& random);
+    void BereaveInside();
+    void LetGo();
     void Pump();
     void CallBack();
     static void CALLBACK OnTimer(HWND hWnd, UINT message, UINT_PTR nTimer, DWORD nTime);
@@ -31,10 +33,12 @@ private:
 
     const Server& m_server;
     Log& m_log;
-    Dialogs m_dialogs;
+    DialogHand m_dialogs;
+    FailingPrinter m_printer;
     std::array<std::unique_ptr<HostWindow>, 2> m_hosts;
     std::array<std::unique_ptr<Actor>, 4> m_actors;
     std::array<std::size_t, 4> m_hostOf = {};
+    std::array<bool, 4> m_bereaved = {}; // to be let go when nothing of it runs any more
     Random m_callBacks{0, 0};
     bool m_bInside = false; // a call back makes no further one
     UINT_PTR m_nTimer;

@@ -1,10 +1,11 @@
 // Random hosts: long sequences of everything that interfaces, messages, commands, keys, timers,
 // files and dialogs allow, from a seed. Each step is written down before it is made.
 //
-//   vantoplex-stress DLL [--seeds N] [--first S] [--steps M] [--log FILE]
+//   vantoplex-stress DLL [--seeds N] [--first S] [--steps M] [--log FILE] [--failures F]
 //
 // runs N seeds of M steps in a process each. The first that faults, ends or hangs is made again
-// with fewer and fewer steps, and what is left is printed with its fault; the exit code is 1.
+// with fewer and fewer steps, and what is left is printed with its fault; the exit code is 1. With
+// more failures allowed the end of what each wrote is printed, and the run goes on.
 //
 //   vantoplex-stress DLL --seed S --steps M --log FILE [--only 3,17,40]
 //
@@ -25,6 +26,7 @@ struct TOptions {
     int nSeeds = 20;
     int nFirst = 1;
     int nSteps = 1000;
+    int nFailures = 1;
     int nSeed = -1; // of a child process
 };
 
@@ -46,6 +48,8 @@ bool Read(int nArguments, wchar_t** arguments, TOptions& options)
             options.nFirst = ::_wtoi(pszValue);
         else if (word == L"--steps")
             options.nSteps = ::_wtoi(pszValue);
+        else if (word == L"--failures")
+            options.nFailures = ::_wtoi(pszValue);
         else if (word == L"--seed")
             options.nSeed = ::_wtoi(pszValue);
         else if (word == L"--log")
@@ -80,22 +84,33 @@ int RunSteps(const TOptions& options)
 int RunSeeds(const TOptions& options)
 {
     long long nSteps = 0;
+    int nFailed = 0;
+    const ULONGLONG nStart = ::GetTickCount64();
     for (int nSeed = options.nFirst; nSeed < options.nFirst + options.nSeeds; ++nSeed) {
         const Shrinking::TRun run = {options.dll, options.log, nSeed, options.nSteps};
         if (!Shrinking::Survives(run, {})) {
             std::printf("seed %d failed after %lld steps of the seeds before\n", nSeed, nSteps);
             std::fflush(stdout);
-            Shrinking::PrintShortest(run);
-            return 1;
+            if (options.nFailures == 1)
+                Shrinking::PrintShortest(run);
+            else
+                Shrinking::PrintEnd(run);
+            std::fflush(stdout);
+            if (++nFailed == options.nFailures)
+                return 1;
+            continue;
         }
         nSteps += options.nSteps;
         if (nSeed % 25 == 0) {
-            std::printf("seed %d, %lld steps\n", nSeed, nSteps);
+            const ULONGLONG nSeconds = (::GetTickCount64() - nStart) / 1000 + 1;
+            std::printf("seed %d, %lld steps, %lld a second\n", nSeed, nSteps,
+                        nSteps / static_cast<long long>(nSeconds));
             std::fflush(stdout);
         }
     }
-    std::printf("%d seeds, %lld steps without a fault\n", options.nSeeds, nSteps);
-    return 0;
+    std::printf("%d seeds, %lld steps without a fault, %d seeds with one\n", options.nSeeds - nFailed,
+                nSteps, nFailed);
+    return nFailed == 0 ? 0 : 1;
 }
 } // namespace
 
