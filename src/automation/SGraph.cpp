@@ -7,6 +7,7 @@
 #include "automation/WrapperCalls.h"
 
 #include <memory>
+#include <new>
 
 namespace
 {
@@ -29,8 +30,12 @@ void __stdcall FreeGraphs(DWORD_PTR)
 // A graph that has been made lives to the end of the module, which then has to free it.
 void FreeGraphsWithModule()
 {
-    static const HRESULT result = _pModule->AddTermFunc(&FreeGraphs, 0);
-    static_cast<void>(result);
+    static const bool isArranged = [] {
+        if (FAILED(_pModule->AddTermFunc(&FreeGraphs, 0)))
+            throw std::bad_alloc(); // the next graph tries again
+        return true;
+    }();
+    static_cast<void>(isArranged);
 }
 
 } // namespace
@@ -158,8 +163,8 @@ STDMETHODIMP CSGraph::Create(BSTR, RECT* rect, wireHWND hWnd, UINT nID)
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     if (m_pNative || !rect)
         return S_FALSE;
-    m_pNative = std::make_unique<CXGraph>().release();
     FreeGraphsWithModule();
+    m_pNative = std::make_unique<CXGraph>().release();
     CWnd* pParent = CWnd::FromHandle(reinterpret_cast<HWND>(hWnd));
     // A graph without a window is a graph as well: the result says nothing of the window.
     m_pNative->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, *rect, pParent, nID, nullptr);

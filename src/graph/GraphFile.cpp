@@ -106,6 +106,9 @@ bool CXGraph::Load(const CString& strFile)
         return true;
     } catch (CException* exception) {
         exception->Delete();
+    } catch (...) { // memory that ran out
+        HideIncompleteCurves();
+        throw;
     }
     HideIncompleteCurves();
     return false;

@@ -128,6 +128,27 @@ TEST_F(HostileFile, AnObjectIsFreedThatMemoryIsTooShortToTakeIn)
     EXPECT_GT(failures, 2);
 }
 
+// The exception passes on to the host, whose loop then repaints: an axis that is missing would end it.
+TEST_F(HostileFile, AfterMemoryRanOutTheNextFrameIsPainted)
+{
+    TCurve curve;
+    curve.points = {{1, 2}, {3, 4}};
+    CBytes bytes;
+    bytes.Raw(Flags(2)).Add(1).Raw(Bytes(curve));
+    bytes.Add(1).Raw(Bytes(TAxis(), EForm::Readable)).Add(1).Raw(Bytes(TAxis(), EForm::Readable));
+    const CTempFile file(bytes.m_bytes);
+    int withoutAxes = 0;
+    FailingMemory::Exhaust([&] { graph.Load(file.Path()); },
+                           [&] {
+                               if (graph.m_Curves.empty() || !graph.m_YAxes.empty())
+                                   return;
+                               ++withoutAxes;
+                               EXPECT_FALSE(graph.m_Curves[0].m_bVisible);
+                               Paint();
+                           });
+    EXPECT_GT(withoutAxes, 0);
+}
+
 TEST_F(HostileFile, CutAtAnyByteItEndsThere)
 {
     const std::string whole = WholeFile();
