@@ -25,7 +25,7 @@ Imports::~Imports()
         Write(replaced.pSlot, replaced.original);
 }
 
-bool Imports::Replace(const char* pszName, void* pfnOurs)
+bool Imports::Replace(const char* pszName, void* pfnOurs, void** ppfnOriginal)
 {
     for (const auto* pImport = FirstImport(m_hModule); pImport->Name != 0; ++pImport) {
         const auto* pNames = At<const IMAGE_THUNK_DATA64>(m_hModule, pImport->OriginalFirstThunk);
@@ -38,6 +38,8 @@ bool Imports::Replace(const char* pszName, void* pfnOurs)
             if (std::strcmp(reinterpret_cast<const char*>(pName->Name), pszName) != 0)
                 continue;
             m_replaced.push_back({&pSlots->u1.Function, pSlots->u1.Function});
+            if (ppfnOriginal != nullptr)
+                *ppfnOriginal = reinterpret_cast<void*>(pSlots->u1.Function);
             Write(&pSlots->u1.Function, reinterpret_cast<ULONGLONG>(pfnOurs));
             return true;
         }

@@ -14,7 +14,9 @@ public:
     ~Imports(); // puts all back
 
     // False if the DLL doesn't import a function of that name.
-    bool Replace(const char* pszName, void* pfnOurs);
+    bool Replace(const char* pszName, void* pfnOurs, void** ppfnOriginal = nullptr);
+    // Nothing is put back.
+    void Keep() { m_replaced.clear(); }
 
 private:
     void Write(ULONGLONG* pSlot, ULONGLONG value);
