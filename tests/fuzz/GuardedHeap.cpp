@@ -15,6 +15,7 @@ constexpr std::size_t PageSize = 4096;
 constexpr std::size_t Alignment = 16;
 constexpr std::size_t MostFreed = 2000;
 constexpr std::size_t MostGuarded = 8000; // blocks in use; the system maps so many pieces and no more
+constexpr std::size_t MostSinceWatch = 10000;
 constexpr std::uint64_t Magic = 0x5AFEB10C5AFEB10C;
 constexpr std::uint64_t PlainMagic = 0x91A18B10C91A18B1;
 constexpr unsigned char SlackByte = 0xA5;
@@ -31,6 +32,8 @@ constinit GuardedHeap::TUse use;
 constinit std::array<std::byte*, MostFreed> freed{};
 constinit std::size_t nextFreed = 0;
 constinit std::size_t guarded = 0;
+constinit bool guards = true;
+constinit std::size_t sinceWatch = 0;
 
 std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
 {
@@ -58,7 +61,7 @@ void* Allocate(std::size_t nSize)
     constexpr std::size_t most = std::size_t{1} << 32; // far beyond any request that is in order
     if (nSize > most)
         throw std::bad_alloc();
-    if (guarded >= MostGuarded)
+    if (!guards || guarded >= MostGuarded || sinceWatch >= MostSinceWatch)
         return AllocatePlain(nSize);
     const std::size_t block = RoundUp(std::max<std::size_t>(nSize, 1), Alignment);
     const std::size_t committed = RoundUp(sizeof(THeader) + block, PageSize);
@@ -71,6 +74,7 @@ void* Allocate(std::size_t nSize)
     new (result - sizeof(THeader)) THeader{Magic, base, committed, nSize};
     std::memset(result + nSize, SlackByte, block - nSize);
     ++guarded;
+    ++sinceWatch;
     Count(nSize);
     return result;
 }
@@ -107,12 +111,18 @@ void Free(void* pBlock) noexcept
 void GuardedHeap::BeginWatch() noexcept
 {
     use.nPeak = use.nLive;
+    sinceWatch = 0;
     use.nLargest = 0;
 }
 
 GuardedHeap::TUse GuardedHeap::Use() noexcept
 {
     return use;
+}
+
+void GuardedHeap::SetGuards(bool bOn) noexcept
+{
+    guards = bOn;
 }
 
 void* operator new(std::size_t nSize)

@@ -1,8 +1,11 @@
 #include "Mutator.h"
 
+#include "Structure.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <string_view>
 
 namespace
 {
@@ -52,6 +55,8 @@ std::string CMutator::File(std::uint64_t nFile)
 
 void CMutator::Mutate(std::string& file)
 {
+    if (Below(2) == 0)
+        return ChangePart(file);
     switch (Below(9)) {
     case 0:
         if (!file.empty())
@@ -108,4 +113,115 @@ void CMutator::Splice(std::string& file)
     const std::size_t from = Below(other.size());
     file.resize(Below(file.size() + 1));
     file.append(other, from, std::string::npos);
+}
+
+std::size_t CMutator::AnyOf(const std::vector<std::size_t>& places) noexcept
+{
+    return places[Below(places.size())];
+}
+
+void CMutator::ChangePart(std::string& file)
+{
+    const TStructure structure = FindStructure(file);
+    const std::size_t kind = Below(6);
+    if (kind == 0 && !structure.texts.empty())
+        ChangeText(file, structure.texts);
+    else if (kind == 1 && !structure.tags.empty())
+        ChangeTag(file, structure.tags);
+    else if (kind == 2 && !structure.tags.empty())
+        MoveRecord(file, structure.tags);
+    else if (kind == 3 && !structure.doubles.empty())
+        file.replace(AnyOf(structure.doubles), 8,
+                     reinterpret_cast<const char*>(&Doubles[Below(Doubles.size())]), 8);
+    else if (!structure.counts.empty())
+        ChangeCount(file, structure.counts);
+}
+
+// Another length, one of the longer forms of a length, or other text of the length that is told.
+void CMutator::ChangeText(std::string& file, const std::vector<std::size_t>& texts)
+{
+    const std::size_t length = AnyOf(texts) + 3;
+    const std::string_view lengths[] = {std::string_view("\0", 1),
+                                        "\x01",
+                                        "\xFE",
+                                        std::string_view("\xFF\x05\0", 3),
+                                        "\xFF\xFD\xFF",
+                                        "\xFF\xFE\xFF",
+                                        std::string_view("\xFF\xFF\xFF\x02\0\0\0", 7),
+                                        "\xFF\xFF\xFF\xFF\xFF\xFF\x7F"};
+    switch (Below(3)) {
+    case 0:
+        file.replace(length, 1, lengths[Below(std::size(lengths))]);
+        break;
+    case 1: { // long, and told so
+        const std::size_t units = 1 + Below(0xFD);
+        const auto nOld = static_cast<unsigned char>(file[length]);
+        std::string text(units * 2, static_cast<char>(Next()));
+        file.replace(length, std::min<std::size_t>(1 + nOld * 2U, file.size() - length),
+                     static_cast<char>(units) + text);
+        break;
+    }
+    default:
+        for (std::size_t i = length + 1; i < std::min(length + 1 + 2 * Below(40), file.size()); ++i)
+            file[i] = static_cast<char>(Next());
+    }
+}
+
+void CMutator::ChangeTag(std::string& file, const std::vector<std::size_t>& tags)
+{
+    const std::uint16_t others[] = {0,      1,      0x7FFF, 0x8000, 0x8001,
+                                    0x8002, 0x8003, 0x8005, 0x8009, 0xFFFF};
+    const std::string_view names[] = {"CXGraphObject",       "CXGraphAxis",  "CXGraphLogAxis",
+                                      "CXGraphDataSerie",    "CXGraphLabel", "CXGraphBitmap",
+                                      "CXGraphDataNotation", "CXGraph",      ""};
+    const std::size_t place = AnyOf(tags);
+    const bool isNew = file.compare(place, 2, "\xFF\xFF") == 0;
+    if (!isNew || Below(2) == 0) {
+        file.replace(place, 2, reinterpret_cast<const char*>(&others[Below(std::size(others))]), 2);
+        return;
+    }
+    const std::size_t nameEnd = file.find_first_not_of("CXGraphLogAxisDteSmplBNotn", place + 6);
+    const std::string_view name = names[Below(std::size(names))];
+    const auto nLength = static_cast<std::uint16_t>(name.size());
+    file.replace(place + 6, std::min(nameEnd, file.size()) - place - 6, name);
+    file.replace(place + 4, 2, reinterpret_cast<const char*>(&nLength), 2);
+}
+
+void CMutator::ChangeCount(std::string& file, const std::vector<std::size_t>& counts)
+{
+    const std::size_t place = AnyOf(counts);
+    std::uint32_t value = 0;
+    std::memcpy(&value, file.data() + place, sizeof value);
+    switch (Below(5)) {
+    case 0:
+        ++value;
+        break;
+    case 1:
+        --value;
+        break;
+    case 2:
+        value *= 1U + static_cast<std::uint32_t>(Below(1000));
+        break;
+    case 3:
+        value = 0U - value;
+        break;
+    default:
+        value = static_cast<std::uint32_t>(Numbers[Below(Numbers.size())]);
+    }
+    std::memcpy(file.data() + place, &value, sizeof value);
+}
+
+// From one tag to the next: gone, twice, or a hundred times.
+void CMutator::MoveRecord(std::string& file, const std::vector<std::size_t>& tags)
+{
+    const std::size_t nFirst = Below(tags.size());
+    const std::size_t from = tags[nFirst];
+    const std::size_t to = nFirst + 1 < tags.size() ? tags[nFirst + 1] : file.size();
+    const std::string record = file.substr(from, to - from);
+    const std::size_t kind = Below(3);
+    if (kind == 0)
+        file.erase(from, to - from);
+    else
+        for (std::size_t n = kind == 1 ? 1 : 100; n > 0 && file.size() < MostBytes; --n)
+            file.insert(AnyOf(tags), record);
 }

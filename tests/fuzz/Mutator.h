@@ -1,6 +1,7 @@
 #pragma once
 // Changes files at random, the same way for the same seed on every machine.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -24,6 +25,14 @@ private:
     void OverwriteNumber(std::string& file);
     void MovePart(std::string& file);
     void Splice(std::string& file);
+
+    // These keep to the file's parts (Structure.h).
+    void ChangePart(std::string& file);
+    void ChangeText(std::string& file, const std::vector<std::size_t>& texts);
+    void ChangeTag(std::string& file, const std::vector<std::size_t>& tags);
+    void ChangeCount(std::string& file, const std::vector<std::size_t>& counts);
+    void MoveRecord(std::string& file, const std::vector<std::size_t>& tags);
+    [[nodiscard]] std::size_t AnyOf(const std::vector<std::size_t>& places) noexcept;
 
     std::vector<std::string> m_seeds;
     std::uint64_t m_nSeed;
