@@ -19,7 +19,7 @@ using std::chrono::year_month_day;
 
 constexpr double SecondsOfDay = 86400.0;
 constexpr std::size_t LongestNumber = 400;
-const sys_days oleEpoch{std::chrono::year{1899} / 12 / 30};
+const sys_days OleEpoch{std::chrono::year{1899} / 12 / 30};
 
 // Takes parts off the front of a text; any part that isn't there makes `good` false for good.
 class Reader
@@ -123,7 +123,7 @@ double ReadOffset(Reader& reader)
 double ToOle(sys_days day, double seconds)
 {
     const double shift = std::floor(seconds / SecondsOfDay);
-    const double whole = static_cast<double>((day - oleEpoch).count()) + shift;
+    const double whole = static_cast<double>((day - OleEpoch).count()) + shift;
     const double fraction = (seconds - shift * SecondsOfDay) / SecondsOfDay;
     return whole < 0 ? whole - fraction : whole + fraction;
 }
@@ -305,7 +305,7 @@ double DateToOle(const CalendarDate& date)
 CalendarDate OleToDate(double value)
 {
     const double whole = std::trunc(std::clamp(value, -657434.0, 2958465.0)); // years 100 to 9999
-    const year_month_day day{oleEpoch + days{static_cast<int>(whole)}};
+    const year_month_day day{OleEpoch + days{static_cast<int>(whole)}};
     return {static_cast<int>(day.year()), static_cast<int>(static_cast<unsigned>(day.month())),
             static_cast<int>(static_cast<unsigned>(day.day()))};
 }

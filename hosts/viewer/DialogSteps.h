@@ -23,9 +23,9 @@ namespace Viewer::Dialogs
 // The following throw a text that says what was not found.
 void TurnTo(HWND dialog, std::u16string_view page);
 // A text for an edit, "on" or "off" for a check box, the number of a row, from 1, for a list.
-void Set(HWND dialog, int control, const std::u16string& value);
-void Press(HWND dialog, int control);
-[[nodiscard]] std::u16string Read(HWND dialog, int control);
+void Set(HWND dialog, int id, const std::u16string& value);
+void Press(HWND dialog, int id);
+[[nodiscard]] std::u16string Read(HWND dialog, int id);
 void Choose(HWND menu, int item);
 
 } // namespace Viewer::Dialogs

@@ -14,7 +14,7 @@ namespace Viewer
 namespace
 {
 
-ScriptRunner* theRunner = nullptr; // a timer without a window has no place for it
+ScriptRunner* g_runner = nullptr; // a timer without a window has no place for it
 constexpr UINT Patience = 20;      // milliseconds between two steps in a dialog
 
 } // namespace
@@ -23,10 +23,10 @@ ScriptRunner::ScriptRunner(Session& session) : m_session(session)
 {
     // The pointer of the screen must not lie over a dialog.
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
-    theRunner = this;
+    g_runner = this;
     m_timer = SetTimer(nullptr, 0, Patience, [](HWND, UINT, UINT_PTR, DWORD) {
-        if (theRunner && theRunner->m_isRunning) {
-            theRunner->RunInDialog();
+        if (g_runner && g_runner->m_isRunning) {
+            g_runner->RunInDialog();
         }
     });
 }
@@ -34,7 +34,7 @@ ScriptRunner::ScriptRunner(Session& session) : m_session(session)
 ScriptRunner::~ScriptRunner()
 {
     KillTimer(nullptr, m_timer);
-    theRunner = nullptr;
+    g_runner = nullptr;
 }
 
 // The system calls here: nothing may be thrown through it.

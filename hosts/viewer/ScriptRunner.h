@@ -33,7 +33,7 @@ private:
     void RunInDialog();
     void RunCommand(const Step& step);
 
-    void Move(POINT place, WPARAM keys);
+    void Move(POINT place, WPARAM held);
     void Click(POINT place);
     void DoubleClick(POINT place);
     void RightClick(POINT place);

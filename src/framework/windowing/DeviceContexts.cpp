@@ -11,12 +11,12 @@ IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
 namespace
 {
-constinit HandleTable<CDC> g_DCTable;
+constinit HandleTable<CDC> g_dcTable;
 
 // Frees the temporary contexts when the module ends.
 struct TDCTableEnd {
-    ~TDCTableEnd() { g_DCTable.DeleteTemporaries(0); }
-} g_DCTableEnd;
+    ~TDCTableEnd() { g_dcTable.DeleteTemporaries(0); }
+} g_dcTableEnd;
 
 bool IsPrinterDC(HDC hDC)
 {
@@ -27,7 +27,7 @@ bool IsPrinterDC(HDC hDC)
 
 void AfxFreeTemporaryDCs(DWORD thread) noexcept
 {
-    g_DCTable.DeleteTemporaries(thread);
+    g_dcTable.DeleteTemporaries(thread);
 }
 
 CDC::~CDC()
@@ -40,7 +40,7 @@ CDC::~CDC()
 
 CDC* CDC::FromHandle(HDC hDC)
 {
-    return g_DCTable.Find<CDC>(hDC, [hDC] {
+    return g_dcTable.Find<CDC>(hDC, [hDC] {
         AfxNoteTemporaryHandle();
         auto* temporary = new CDC;
         temporary->m_hDC = temporary->m_hAttribDC = hDC;
@@ -58,9 +58,9 @@ BOOL CDC::Attach(HDC hDC)
 {
     if (!hDC)
         return FALSE;
-    g_DCTable.Leave(this);
+    g_dcTable.Leave(this);
     m_hDC = hDC;
-    g_DCTable.Enter(this, hDC);
+    g_dcTable.Enter(this, hDC);
     SetAttribDC(hDC);
     m_bPrinting = IsPrinterDC(hDC);
     return TRUE;
@@ -68,7 +68,7 @@ BOOL CDC::Attach(HDC hDC)
 
 HDC CDC::Detach() noexcept
 {
-    g_DCTable.Leave(this);
+    g_dcTable.Leave(this);
     const HDC handle = m_hDC;
     m_hDC = nullptr;
     ReleaseAttribDC();

@@ -14,16 +14,16 @@ IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
 
 namespace
 {
-constinit HandleTable<CGdiObject> g_GdiTable;
+constinit HandleTable<CGdiObject> g_gdiTable;
 
 // Frees the temporary objects when the module ends.
 struct TGdiTableEnd {
-    ~TGdiTableEnd() { g_GdiTable.DeleteTemporaries(0); }
-} g_GdiTableEnd;
+    ~TGdiTableEnd() { g_gdiTable.DeleteTemporaries(0); }
+} g_gdiTableEnd;
 
 template <class TClass> TClass* FindGdiObject(HGDIOBJ handle)
 {
-    return g_GdiTable.Find<TClass>(handle, [handle] {
+    return g_gdiTable.Find<TClass>(handle, [handle] {
         AfxNoteTemporaryHandle();
         auto* object = new TClass;
         object->m_hObject = handle;
@@ -34,7 +34,7 @@ template <class TClass> TClass* FindGdiObject(HGDIOBJ handle)
 
 void AfxFreeTemporaryGdiObjects(DWORD thread) noexcept
 {
-    g_GdiTable.DeleteTemporaries(thread);
+    g_gdiTable.DeleteTemporaries(thread);
 }
 
 CGdiObject::~CGdiObject()
@@ -49,15 +49,15 @@ BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
     if (!hObject)
         return FALSE;
-    g_GdiTable.Leave(this);
+    g_gdiTable.Leave(this);
     m_hObject = hObject;
-    g_GdiTable.Enter(this, hObject);
+    g_gdiTable.Enter(this, hObject);
     return TRUE;
 }
 
 HGDIOBJ CGdiObject::Detach() noexcept
 {
-    g_GdiTable.Leave(this);
+    g_gdiTable.Leave(this);
     const HGDIOBJ handle = m_hObject;
     m_hObject = nullptr;
     return handle;
