@@ -15,7 +15,7 @@ namespace
 {
 
 ScriptRunner* g_runner = nullptr; // a timer without a window has no place for it
-constexpr UINT Patience = 20;      // milliseconds between two steps in a dialog
+constexpr UINT Patience = 20;     // milliseconds between two steps in a dialog
 
 } // namespace
 
