@@ -106,9 +106,11 @@ void TimeOthers(int nRuns, double one)
     Scene scene;
     for (int i = 0; i < curves; ++i)
         scene.m_graph->SetData(points.data(), count, i, 0, 0, true);
-    const TFrame many = TimeFrame(scene, nRuns);
+    const auto [many, floor] = TimeBeside(scene, nRuns);
     PrintRow("100 lines of 10000, owned", curves * count, many);
+    PrintRow("floor: same picture, fewest calls", curves * count, floor);
     Goals::Expect("100 curves of 1e4 to one", many.idle.median / one, 3.0);
+    Goals::Expect("100 curves of 1e4 to the fewest calls", many.idle.median / floor.idle.median, 1.5);
     Scene dots;
     points = NoisyWaves(100'000);
     dots.m_graph->SetData(points.data(), 100'000, 0, 0, 0, true)->m_nType = gtScatter;

@@ -325,7 +325,9 @@ std::u16string FormatText(std::u16string_view format, std::span<const TArgument>
 {
     CArguments source(arguments);
     std::u16string result;
-    result.reserve(format.size() + 32);
+    constexpr std::size_t shortFormat = 7; // its text mostly needs no memory of its own
+    if (format.size() > shortFormat)
+        result.reserve(format.size() + 32);
     while (!format.empty()) {
         const std::size_t percent = std::min(format.find(u'%'), format.size());
         result += format.substr(0, percent);

@@ -44,10 +44,8 @@ void CCurveKeys::Draw(CPoint ptTopLeft, int nKey, COLORREF crColor, bool bSymbol
 void CCurveKeys::DrawNumber(const CRect& rect, int nKey, COLORREF crColor)
 {
     // Not before the fill: the first selection of a font can make the canvas mono.
-    if (!m_selected) {
-        m_numberFont.emplace(L"Arial", m_nSize, FW_THIN);
-        m_selected.emplace(&*m_numberFont, m_pDC, true);
-    }
+    if (!m_numberFont)
+        m_numberFont.emplace(m_nSize, FW_THIN, m_pDC, true);
     const COLORREF crOld = m_pDC->SetTextColor(m_pDC->m_bMono || IsDark(crColor) ? White : Black);
     CString cNumber;
     cNumber.Format(L"%d", static_cast<std::int64_t>(nKey) + 1);

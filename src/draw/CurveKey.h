@@ -1,10 +1,9 @@
 #pragma once
 // The keys of curves: what shows a curve along its axes, in the legend and on its points. One
-// object draws any number of keys of one size; it makes the font of their numbers once, and
-// selects it from the first number to its own end.
+// object draws any number of keys of one size; the font of their numbers is selected from the first
+// number to the object's end.
 
-#include "draw/QuickFont.h"
-#include "draw/Selectors.h"
+#include "draw/KeptFonts.h"
 #include "framework/windowing/Geometry.h"
 
 #include <optional>
@@ -27,6 +26,5 @@ private:
 
     CDCEx* m_pDC;
     int m_nSize;
-    std::optional<CQuickFont> m_numberFont;
-    std::optional<CFontSelector> m_selected;
+    std::optional<CArialSelector> m_numberFont;
 };

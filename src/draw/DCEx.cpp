@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using CanvasReach::IsRecording;
 using CanvasReach::Within;
@@ -107,7 +108,7 @@ void CDCEx::InitScale(HDC hTarget)
     m_bScaleReady = true;
 }
 
-void CDCEx::TakeScreen(const CBitmap& buffer)
+void CDCEx::TakeScreen(const CBitmap& buffer, CKeptFonts* pFonts)
 {
     BITMAP look = {};
     if (::GetObject(buffer.GetSafeHandle(), sizeof look, &look) == 0 || look.bmBitsPixel <= 8)
@@ -115,6 +116,23 @@ void CDCEx::TakeScreen(const CBitmap& buffer)
     m_fScaleX = m_fScaleY = 1.0f;
     m_bMono = false;
     m_bScaleReady = m_bScreen = true;
+    m_pFonts = pFonts;
+    m_hWantedFont = m_hSelectedFont = ::GetCurrentObject(m_hDC, OBJ_FONT);
+}
+
+HGDIOBJ CDCEx::WantFont(HGDIOBJ hFont)
+{
+    if (!m_bScreen)
+        return SelectHandle(hFont);
+    return hFont ? std::exchange(m_hWantedFont, hFont) : nullptr;
+}
+
+void CDCEx::SelectWantedFont()
+{
+    if (m_hSelectedFont == m_hWantedFont)
+        return;
+    SelectHandle(m_hWantedFont);
+    m_hSelectedFont = m_hWantedFont;
 }
 
 void CDCEx::NeedScale()
@@ -316,6 +334,7 @@ void CDCEx::FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor)
 
 CSize CDCEx::GetTextExtent(const CString& str)
 {
+    SelectWantedFont();
     if (str.Find(L'\n') < 0) {
         CSize size;
         ::GetTextExtentPoint32(m_hDC, str, str.GetLength(), &size);
@@ -365,6 +384,7 @@ bool CDCEx::IsOutOfSight(LPCTSTR lpszString, int nCount, const CRect& rect, UINT
 
 BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 {
+    SelectWantedFont();
     if (!Within(CPoint(x, y), NearText)) {
         CSize size;
         ::GetTextExtentPoint32(m_hDC, lpszString, nCount, &size);
@@ -376,6 +396,7 @@ BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 
 int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
+    SelectWantedFont();
     // Hosts choose format flags; the one that would write into the text is not for them.
     nFormat &= ~DT_MODIFYSTRING;
     if ((nFormat & DT_CALCRECT) == 0 && IsOutOfSight(lpszString, nCount, CRect(*lpRect), nFormat)) {

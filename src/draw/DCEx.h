@@ -14,6 +14,8 @@
 #include "draw/VisibleArea.h"
 #include "framework/windowing/DeviceContexts.h"
 
+class CKeptFonts;
+
 class CDCEx : public CDC
 {
 public:
@@ -30,10 +32,18 @@ public:
     // there is none) and the target, and m_bMono from the target.
     void InitScale(HDC hTarget);
     // What InitScale finds for a buffer of the screen of more than 256 colours, without asking: the
-    // answers cost as much as a hundred lines. Of any other buffer they are asked as ever.
-    void TakeScreen(const CBitmap& buffer);
+    // answers cost as much as a hundred lines. Of any other buffer they are asked as ever. The fonts
+    // are those that the buffer's owner keeps from frame to frame.
+    void TakeScreen(const CBitmap& buffer, CKeptFonts* pFonts = nullptr);
     // Whether TakeScreen knew the buffer and nothing scales: text then has its size on the screen.
     [[nodiscard]] bool IsScreen() const noexcept { return m_bScreen && !m_bScaling; }
+    // The fonts that outlive the frame; null on a canvas that keeps none.
+    [[nodiscard]] CKeptFonts* KeptFonts() const noexcept { return IsScreen() ? m_pFonts : nullptr; }
+    // Sets the font of the texts that follow and returns the one before. A buffer of the screen
+    // selects it when the first text wants it: selecting can cost more than the text.
+    HGDIOBJ WantFont(HGDIOBJ hFont);
+    // For one who draws or measures text past this class.
+    void SelectWantedFont();
     // InitScale on the own handle, unless it has run.
     void NeedScale();
     void ScalePoint(int& x, int& y);
@@ -84,6 +94,9 @@ private:
     [[nodiscard]] LongLines::TVertex Vertex(CPoint unscaled, CPoint scaled) const noexcept;
 
     bool m_bScreen = false;
+    CKeptFonts* m_pFonts = nullptr;
+    HGDIOBJ m_hWantedFont = nullptr; // of the screen's buffer
+    HGDIOBJ m_hSelectedFont = nullptr;
     // Where MoveTo or LineTo left the pen, before scaling: a product may not fit the device.
     CPoint m_ptUnscaledPen;
 };

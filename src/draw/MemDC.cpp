@@ -7,7 +7,7 @@ CMemDC::CMemDC(CDC* pDC, int nTrim, bool bFill) : m_pDC(pDC), m_bMemDC(!pDC->IsP
         CreateCompatibleDC(m_pDC);
         m_Bitmap.CreateCompatibleBitmap(m_pDC, Wrap::Subtract(m_rcArea.Width(), nTrim),
                                         m_rcArea.Height());
-        m_pOldBitmap = SelectObject(&m_Bitmap);
+        m_hOldBitmap = ::SelectObject(m_hDC, m_Bitmap);
         SetWindowOrg(m_rcArea.TopLeft());
     } else {
         m_bPrinting = m_pDC->m_bPrinting;
@@ -24,7 +24,7 @@ CMemDC::~CMemDC()
         const CRect& copied = m_rcBlit.IsRectEmpty() ? m_rcArea : m_rcBlit;
         m_pDC->BitBlt(copied.left, copied.top, copied.Width(), copied.Height(), this, copied.left,
                       copied.top, SRCCOPY);
-        SelectObject(m_pOldBitmap);
+        ::SelectObject(m_hDC, m_hOldBitmap);
         m_Bitmap.DeleteObject();
     } else {
         ReleaseOutputDC();

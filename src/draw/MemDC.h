@@ -15,7 +15,7 @@ public:
     ~CMemDC() override;
 
     CBitmap m_Bitmap;
-    CBitmap* m_pOldBitmap = nullptr;
+    HGDIOBJ m_hOldBitmap = nullptr;
     CDC* m_pDC;
     CRect m_rcArea; // what is buffered
     CRect m_rcBlit; // what the final copy is narrowed to, if not empty

@@ -3,34 +3,39 @@
 #include "draw/DCEx.h"
 #include "draw/DeviceScale.h"
 
-CPenSelector::CPenSelector(COLORREF crColor, int nWidth, CDCEx* pDC, int nStyle) : m_pDC(pDC)
+namespace
 {
-    m_pDC->NeedScale();
-    const int width = DeviceScale::ScaledPenWidth(nWidth, nStyle, m_pDC->m_bScaling, m_pDC->m_fScaleX);
-    m_pPen = std::make_unique<CPen>(nStyle, width, crColor);
-    m_pOldPen = m_pDC->SelectObject(m_pPen.get());
-}
-
-CPenSelector::~CPenSelector()
+int PenWidth(int nWidth, int nStyle, CDCEx* pDC)
 {
-    m_pDC->SelectObject(m_pOldPen);
+    pDC->NeedScale();
+    return DeviceScale::ScaledPenWidth(nWidth, nStyle, pDC->m_bScaling, pDC->m_fScaleX);
 }
+} // namespace
 
-CBrushSelector::CBrushSelector(COLORREF crColor, CDCEx* pDC)
-    : m_pBrush(std::make_unique<CBrush>(crColor)), m_pOldBrush(pDC->SelectObject(m_pBrush.get())),
+CPenSelector::CPenSelector(COLORREF crColor, int nWidth, CDCEx* pDC, int nStyle)
+    : m_Pen(nStyle, PenWidth(nWidth, nStyle, pDC), crColor), m_hOldPen(pDC->SelectHandle(m_Pen)),
       m_pDC(pDC)
 {
 }
 
+CPenSelector::~CPenSelector()
+{
+    m_pDC->SelectHandle(m_hOldPen);
+}
+
+CBrushSelector::CBrushSelector(COLORREF crColor, CDCEx* pDC)
+    : m_Brush(crColor), m_hOldBrush(pDC->SelectHandle(m_Brush)), m_pDC(pDC)
+{
+}
+
 CBrushSelector::CBrushSelector(int nIndex, COLORREF crColor, CDCEx* pDC)
-    : m_pBrush(std::make_unique<CBrush>(nIndex, crColor)),
-      m_pOldBrush(pDC->SelectObject(m_pBrush.get())), m_pDC(pDC)
+    : m_Brush(nIndex, crColor), m_hOldBrush(pDC->SelectHandle(m_Brush)), m_pDC(pDC)
 {
 }
 
 CBrushSelector::~CBrushSelector()
 {
-    m_pDC->SelectObject(m_pOldBrush);
+    m_pDC->SelectHandle(m_hOldBrush);
 }
 
 bool CBrushSelector::IsHatch(int nIndex) noexcept
@@ -39,11 +44,12 @@ bool CBrushSelector::IsHatch(int nIndex) noexcept
     return hBrush && ::DeleteObject(hBrush) != FALSE;
 }
 
-CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale) : m_pDC(pDC)
+CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale, bool bLasting)
+    : m_pDC(pDC), m_bLasting(bLasting)
 {
     m_pDC->NeedScale();
     if (!m_pDC->m_bScaling || !bScale) {
-        m_pOldFont = m_pDC->SelectObject(pFont);
+        m_hOldFont = m_pDC->WantFont(*pFont);
         return;
     }
     LOGFONT record{};
@@ -51,10 +57,12 @@ CFontSelector::CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale) : m_pDC(pDC)
     record.lfHeight = DeviceScale::ScaledFontHeight(record.lfHeight, m_pDC->m_fScaleY);
     record.lfWidth = DeviceScale::Scaled(record.lfWidth, m_pDC->m_fScaleX);
     m_ScaledFont.CreateFontIndirect(&record);
-    m_pOldFont = m_pDC->SelectObject(&m_ScaledFont);
+    m_hOldFont = m_pDC->WantFont(m_ScaledFont);
 }
 
 CFontSelector::~CFontSelector()
 {
-    m_pDC->SelectObject(m_pOldFont);
+    m_pDC->WantFont(m_hOldFont);
+    if (!m_bLasting)
+        m_pDC->SelectWantedFont();
 }

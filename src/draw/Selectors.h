@@ -5,8 +5,6 @@
 
 #include "framework/windowing/GdiObjects.h"
 
-#include <memory>
-
 class CDCEx;
 
 // A pen of the colour; a solid one (style 0) widens with a scaling context. Throws
@@ -20,8 +18,8 @@ public:
     virtual ~CPenSelector();
 
 protected:
-    std::unique_ptr<CPen> m_pPen;
-    CPen* m_pOldPen;
+    CPen m_Pen;
+    HGDIOBJ m_hOldPen;
     CDCEx* m_pDC;
 };
 
@@ -41,23 +39,26 @@ public:
     [[nodiscard]] static bool IsHatch(int nIndex) noexcept;
 
 protected:
-    std::unique_ptr<CBrush> m_pBrush;
-    CBrush* m_pOldBrush;
+    CBrush m_Brush;
+    HGDIOBJ m_hOldBrush;
     CDCEx* m_pDC;
 };
 
 // The font, or with bScale on a scaling context one of the device's size made from it.
 // Measure with bScale false and draw with true: layout runs in screen units.
+// With bLasting the font outlives the frame: the buffer of the screen may keep it selected after
+// the selector's end, until a text wants another one.
 class CFontSelector
 {
 public:
-    CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale);
+    CFontSelector(CFont* pFont, CDCEx* pDC, bool bScale, bool bLasting = false);
     CFontSelector(const CFontSelector&) = delete;
     CFontSelector& operator=(const CFontSelector&) = delete;
     virtual ~CFontSelector();
 
 protected:
     CFont m_ScaledFont;
-    CFont* m_pOldFont;
+    HGDIOBJ m_hOldFont;
     CDCEx* m_pDC;
+    bool m_bLasting;
 };

@@ -14,15 +14,11 @@ constexpr int KeyRoom = 16; // beside the widest text
 constexpr int TextLeft = 12;
 } // namespace
 
-Extent Measure(std::span<const TSize> texts) noexcept
+void Extent::Add(TSize text) noexcept
 {
-    Extent extent;
-    for (const TSize& text : texts) {
-        extent.nWidth = std::max(extent.nWidth, text.cx);
-        extent.nHeight = Wrap::Add(extent.nHeight, text.cy);
-        extent.nRowHeight = text.cy;
-    }
-    return extent;
+    nWidth = std::max(nWidth, text.cx);
+    nHeight = Wrap::Add(nHeight, text.cy);
+    nRowHeight = text.cy;
 }
 
 TRect PlaceBox(EAlignment alignment, const Extent& extent, TRect& graph) noexcept

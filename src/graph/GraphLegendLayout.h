@@ -8,8 +8,6 @@
 #include "base/Geometry.h"
 #include "base/Vocabulary.h"
 
-#include <span>
-
 namespace GraphLegendLayout
 {
 
@@ -20,8 +18,9 @@ struct Extent {
     int nWidth = 0;     // of the widest
     int nHeight = 0;    // of all
     int nRowHeight = 0; // of the last, which every row gets
+
+    void Add(TSize text) noexcept;
 };
-[[nodiscard]] Extent Measure(std::span<const TSize> texts) noexcept;
 
 // Whether the box has a place at all: it is on the left or on the right.
 [[nodiscard]] constexpr bool HasBox(EAlignment alignment) noexcept

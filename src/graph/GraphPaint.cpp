@@ -4,11 +4,11 @@
 #include "draw/MemDC.h"
 #include "draw/Selectors.h"
 #include "graph/FrameLayout.h"
+#include "graph/KeptFrame.h"
 #include "graph/LegendBox.h"
 #include "graph/XGraph.h"
 
 #include <optional>
-#include <vector>
 
 namespace
 {
@@ -23,6 +23,20 @@ public:
     ~AttachedCanvas() { m_dc.Detach(); }
 
     CDCEx m_dc;
+};
+
+// Ends the frame of a kept buffer on every way out.
+class KeptFrameEnd
+{
+public:
+    KeptFrameEnd(CKeptBuffer& buffer, CDC& target) : m_buffer(buffer), m_target(target) {}
+    KeptFrameEnd(const KeptFrameEnd&) = delete;
+    KeptFrameEnd& operator=(const KeptFrameEnd&) = delete;
+    ~KeptFrameEnd() { m_buffer.Finish(&m_target); }
+
+private:
+    CKeptBuffer& m_buffer;
+    CDC& m_target;
 };
 
 // The state of a context, put back at the end of a frame.
@@ -108,17 +122,32 @@ void CXGraph::OnPaint()
         PaintFrame(m_pDrawDC);
         return;
     }
+    // Whole frames alone: the parts of a window that others uncover have many sizes.
+    CRect rcClient;
+    CRect rcVisible;
+    GetClientRect(&rcClient);
+    dcPaint.GetClipBox(&rcVisible);
+    CKeptBuffer& keptBuffer = KeptFrame().buffer;
+    if (m_bDoubleBuffer && rcVisible == rcClient && keptBuffer.Start(&dcPaint, rcClient.Size())) {
+        const KeptFrameEnd end(keptBuffer, dcPaint);
+        AttachedCanvas canvas(keptBuffer.Canvas());
+        canvas.m_dc.TakeScreen(keptBuffer.Bitmap(), &KeptFrame().fonts);
+        PaintFrame(&canvas.m_dc);
+        return;
+    }
     std::optional<CMemDC> buffer;
     if (m_bDoubleBuffer)
         buffer.emplace(&dcPaint, 0, false); // the frame covers all of it
     AttachedCanvas canvas(buffer ? buffer->GetSafeHdc() : dcPaint.GetSafeHdc());
     if (buffer)
-        canvas.m_dc.TakeScreen(buffer->m_Bitmap);
+        canvas.m_dc.TakeScreen(buffer->m_Bitmap, &KeptFrame().fonts);
     PaintFrame(&canvas.m_dc);
 }
 
 void CXGraph::PaintFrame(CDCEx* pDC)
 {
+    TKeptFrame& kept = KeptFrame();
+    kept.fonts.StartFrame();
     CRgn region; // outlives its selection
     m_CursorTool.Forget();
     const SavedState state(pDC);
@@ -137,7 +166,7 @@ void CXGraph::PaintFrame(CDCEx* pDC)
         FrameLayout::GraphRect(rcClient, {m_nLeftMargin, m_nTopMargin, m_nRightMargin, m_nBottomMargin});
     std::optional<CLegendBox> legend;
     if (m_bShowLegend)
-        legend.emplace(*this, pDC, rcGraph);
+        legend.emplace(*this, pDC, kept.legend, rcGraph);
     const COLORREF crGraph = Shade(pDC, m_crGraphColor);
     LayoutAxes(pDC, rcGraph);
     const bool bOwnCanvas = m_pDrawDC == nullptr; // others, a page for one, get whole rectangles
@@ -161,10 +190,10 @@ void CXGraph::PaintFrame(CDCEx* pDC)
 
 void CXGraph::LayoutAxes(CDCEx* pDC, const CRect& rcGraph)
 {
-    std::vector<FrameLayout::YAxis> yAxes;
-    std::vector<FrameLayout::XAxis> xAxes;
-    yAxes.reserve(m_YAxes.size());
-    xAxes.reserve(m_XAxes.size());
+    auto& yAxes = KeptFrame().yAxes;
+    auto& xAxes = KeptFrame().xAxes;
+    yAxes.clear();
+    xAxes.clear();
     for (CXGraphAxis& axis : m_YAxes) {
         yAxes.push_back({axis.m_Placement, axis.m_bVisible, 0, 0, axis.m_nArcSize, axis.m_nOriginX});
         if (axis.m_bVisible) {

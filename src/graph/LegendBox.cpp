@@ -4,20 +4,18 @@
 #include "draw/Selectors.h"
 #include "graph/XGraph.h"
 
-CLegendBox::CLegendBox(CXGraph& graph, CDCEx* pDC, CRect& rcGraph)
-    : m_graph(graph), m_pDC(pDC), m_font(L"Arial", 13, FW_NORMAL)
+namespace
+{
+constexpr int FontHeight = 13;
+} // namespace
+
+CLegendBox::CLegendBox(CXGraph& graph, CDCEx* pDC, std::vector<TLegendRow>& rows, CRect& rcGraph)
+    : m_graph(graph), m_pDC(pDC), m_rows(rows)
 {
     if (!GraphLegendLayout::HasBox(graph.m_nLegendAlignment))
         return;
     FindRows();
-    std::vector<TSize> sizes;
-    sizes.reserve(m_rows.size());
-    {
-        const CFontSelector selectFont(&m_font, pDC, false);
-        for (const TRow& row : m_rows)
-            sizes.push_back(pDC->GetTextExtent(row.strText));
-    }
-    m_extent = GraphLegendLayout::Measure(sizes);
+    MeasureRows();
     TRect rest = rcGraph;
     m_rcBox = GraphLegendLayout::PlaceBox(graph.m_nLegendAlignment, m_extent, rest);
     rcGraph = rest;
@@ -26,14 +24,34 @@ CLegendBox::CLegendBox(CXGraph& graph, CDCEx* pDC, CRect& rcGraph)
 // Positions count hidden curves too, so the numbers may have gaps.
 void CLegendBox::FindRows()
 {
-    m_rows.reserve(m_graph.m_Curves.size());
+    std::size_t nRows = 0;
     for (std::size_t i = 0; i < m_graph.m_Curves.size(); ++i) {
-        CXGraphDataSerie& curve = m_graph.m_Curves[i];
+        const CXGraphDataSerie& curve = m_graph.m_Curves[i];
         if (!curve.m_bVisible)
             continue;
-        CString strText;
-        strText.Format(L"%02d ", static_cast<int>(i) + 1);
-        m_rows.push_back({&curve, strText + curve.m_cLabel});
+        if (nRows == m_rows.size())
+            m_rows.emplace_back();
+        TLegendRow& row = m_rows[nRows++];
+        if (!row.strText.IsEmpty() && row.nCurve == i && row.cLabel.View() == curve.m_cLabel.View())
+            continue;
+        row.bMeasured = false;
+        row.nCurve = i;
+        row.cLabel = curve.m_cLabel;
+        row.strText.Format(L"%02d ", static_cast<int>(i) + 1);
+        row.strText += curve.m_cLabel;
+    }
+    m_rows.resize(nRows);
+}
+
+void CLegendBox::MeasureRows()
+{
+    const CArialSelector font(FontHeight, FW_NORMAL, m_pDC, false);
+    const bool bKeep = m_pDC->IsScreen();
+    for (TLegendRow& row : m_rows) {
+        if (!bKeep || !row.bMeasured)
+            row.size = m_pDC->GetTextExtent(row.strText);
+        row.bMeasured = bKeep;
+        m_extent.Add(row.size);
     }
 }
 
@@ -43,25 +61,30 @@ void CLegendBox::Draw()
     if (!GraphLegendLayout::HasBox(m_graph.m_nLegendAlignment))
         return;
     const COLORREF crWindow = m_pDC->m_bMono ? White : ::GetSysColor(COLOR_WINDOW);
-    const CFontSelector selectFont(&m_font, m_pDC, true);
+    const CArialSelector font(FontHeight, FW_NORMAL, m_pDC, true);
     const CPenSelector selectPen(Black, 1, m_pDC, PS_SOLID);
     const CBrushSelector selectBrush(crWindow, m_pDC);
     m_pDC->Rectangle(&m_rcBox);
 
+    const TVisibleArea visible = m_pDC->Visible();
     CRect rcRows = m_rcBox;
     rcRows.DeflateRect(1, 1);
     int nOffset = 0;
-    for (const TRow& row : m_rows) {
+    for (const TLegendRow& row : m_rows) {
+        CXGraphDataSerie& curve = m_graph.m_Curves[row.nCurve];
         const GraphLegendLayout::Row place =
             GraphLegendLayout::PlaceRow(rcRows, nOffset, m_extent.nRowHeight);
         nOffset += m_extent.nRowHeight;
-        m_graph.m_LegendEntries.push_back({place.entry, row.pCurve});
+        m_graph.m_LegendEntries.push_back({place.entry, &curve});
+        // A list may run far past the window. A key is at most a row high.
+        if (!visible.Meets(place.entry, m_extent.nRowHeight + GraphLegendLayout::KeySize))
+            continue;
         CRect rcText = place.text;
         m_pDC->SetBkColor(crWindow);
         m_pDC->DrawText(row.strText, &rcText, 0);
-        if (row.pCurve->m_bSelected)
+        if (curve.m_bSelected)
             m_pDC->DrawFocusRect(&m_graph.m_LegendEntries.back().rcRow);
-        DrawKey(*row.pCurve, place.key);
+        DrawKey(curve, place.key);
     }
 }
 

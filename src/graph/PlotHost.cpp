@@ -55,6 +55,11 @@ int AxisIndex(const CXGraph& graph, const CXGraphAxis& axis)
     return -1;
 }
 
+TFrameRoom* FrameRoom(CXGraph& graph)
+{
+    return graph.FrameRoom();
+}
+
 bool Owns(const CXGraph& graph, const TObjectRef& entry)
 {
     return graph.Owns(entry);

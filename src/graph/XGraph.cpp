@@ -5,13 +5,13 @@
 #include "framework/windowing/ModuleState.h"
 #include "graph/CommandIds.h"
 #include "graph/GraphRegister.h"
+#include "graph/KeptFrame.h"
 
 IMPLEMENT_SERIAL(CXGraph, CWnd, 1)
 
 BEGIN_MESSAGE_MAP(CXGraph, CWnd)
 ON_WM_PAINT()
 ON_WM_SIZE()
-ON_WM_ERASEBKGND()
 ON_WM_MOUSEMOVE()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
@@ -85,7 +85,30 @@ CXGraph::~CXGraph()
 
 LRESULT CXGraph::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const bool bHidden = message == WM_SHOWWINDOW && wParam == FALSE;
+    if (m_pKeptFrame && (bHidden || m_pKeptFrame->buffer.IsIdle()))
+        m_pKeptFrame->buffer.Free();
+    if (message == WM_ERASEBKGND)
+        return OnEraseBkgnd(nullptr); // by the map, a canvas would be made that nobody draws on
     return CWnd::WindowProc(message, wParam, lParam);
+}
+
+void CXGraph::PostNcDestroy()
+{
+    m_pKeptFrame.reset(); // the graph itself may live to the end of the module
+    CWnd::PostNcDestroy();
+}
+
+TKeptFrame& CXGraph::KeptFrame()
+{
+    if (!m_pKeptFrame)
+        m_pKeptFrame = std::make_unique<TKeptFrame>();
+    return *m_pKeptFrame;
+}
+
+TFrameRoom* CXGraph::FrameRoom() noexcept
+{
+    return m_pKeptFrame ? &m_pKeptFrame->room : nullptr;
 }
 
 CXGraphAxis* CXGraph::GetXAxis(int nAxis)

@@ -34,6 +34,8 @@
 
 class CXGraph;
 class CXGraphObject;
+struct TFrameRoom;
+struct TKeptFrame;
 
 // Shows the modal property sheet on the graph and, where one is given, on an axis or a curve;
 // the dialogs define it.
@@ -225,9 +227,12 @@ public:
     [[nodiscard]] std::vector<TObjectRef> ListObjects() const;
     [[nodiscard]] bool Owns(const TObjectRef& entry) const;
 
+    [[nodiscard]] TFrameRoom* FrameRoom() noexcept; // null before the first frame
+
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
+    void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnPaint();
@@ -271,4 +276,7 @@ private:
     void Store(CArchive& ar, UINT nFlags);
     void ReadObjects(CArchive& ar);
     int PrintCentred(CDCEx& canvas, const CString& strText, bool bTop);
+    TKeptFrame& KeptFrame(); // made by the first frame
+
+    std::unique_ptr<TKeptFrame> m_pKeptFrame;
 };

@@ -5,7 +5,7 @@
 #include "base/Colors.h"
 #include "draw/CurveKey.h"
 #include "draw/DCEx.h"
-#include "draw/QuickFont.h"
+#include "draw/KeptFonts.h"
 #include "draw/Selectors.h"
 #include "objects/AxisTicks.h"
 #include "objects/PlotHost.h"
@@ -56,8 +56,7 @@ void CXGraphAxis::DrawColorRanges(CDCEx* pDC)
 {
     if (m_ColorRanges.empty())
         return;
-    CQuickFont labelFont(L"Arial", 12, FW_BOLD);
-    const CFontSelector font(&labelFont, pDC, true);
+    const CArialSelector font(12, FW_BOLD, pDC, true);
     const CModeKeeper mode(pDC, TRANSPARENT);
     for (const TColorRange& range : m_ColorRanges) {
         CRect rect = PlotRect();

@@ -4,6 +4,7 @@
 
 #include "base/Trunc.h"
 #include "objects/AxisTicks.h"
+#include "objects/FrameRoom.h"
 #include "objects/LogDecades.h"
 #include "objects/TickWalk.h"
 
@@ -38,7 +39,7 @@ int LogLength(const CXGraphAxis& axis)
 }
 
 // A Y axis has a tick at its upper bound, an X axis none.
-std::vector<TTick> LinearTicks(const CXGraphAxis& axis, double fPlaceStep)
+void ListLinearTicks(const CXGraphAxis& axis, double fPlaceStep, std::vector<TTick>& ticks)
 {
     const bool bVertical = axis.IsVertical();
     const TickWalk::TWalk walk{.fFrom = axis.m_fCurMin,
@@ -48,21 +49,17 @@ std::vector<TTick> LinearTicks(const CXGraphAxis& axis, double fPlaceStep)
                                    static_cast<double>(bVertical ? axis.m_nOriginY : axis.m_nOriginX),
                                .fPlaceStep = bVertical ? -fPlaceStep : fPlaceStep,
                                .bIncludeEnd = bVertical};
-    std::vector<TTick> ticks;
     ticks.reserve(UsualTicks);
     TickWalk::Walk(walk, [&](double fValue, double fPlace) { ticks.push_back({fValue, fPlace}); });
-    return ticks;
 }
 
-std::vector<TTick> LogTicks(const CXGraphAxis& axis)
+void ListLogTicks(const CXGraphAxis& axis, std::vector<TTick>& ticks)
 {
     const AxisMapping::CMapper mapper(axis.GetScale(true));
-    std::vector<TTick> ticks;
     ticks.reserve(UsualTicks);
     LogDecades::WalkTicks(axis.m_fCurMin, axis.m_fCurMax, [&](double fValue, bool bDecade) {
         ticks.push_back({fValue, static_cast<double>(mapper.Pixel(fValue)), bDecade});
     });
-    return ticks;
 }
 
 } // namespace
@@ -83,7 +80,9 @@ void CXGraphAxis::Draw(CDCEx* pDC)
     m_nLength = LinearLength(*this, fPlaceStep);
     painter.DrawBackground(true);
     painter.DrawTitle();
-    painter.DrawTicks(LinearTicks(*this, fPlaceStep), true);
+    CRoomyList ticks(m_pGraph, &TFrameRoom::ticks);
+    ListLinearTicks(*this, fPlaceStep, *ticks);
+    painter.DrawTicks(*ticks, true);
     painter.DrawLine();
 }
 
@@ -95,6 +94,8 @@ void AxisPainting::DrawLogarithmic(CXGraphAxis& axis, CDCEx* pDC, bool bMarkers)
     axis.m_nLength = LogLength(axis);
     painter.DrawBackground(bMarkers);
     painter.DrawTitle();
-    painter.DrawTicks(LogTicks(axis), false);
+    CRoomyList ticks(axis.m_pGraph, &TFrameRoom::ticks);
+    ListLogTicks(axis, *ticks);
+    painter.DrawTicks(*ticks, false);
     painter.DrawLine();
 }

@@ -29,7 +29,7 @@ CSize CXGraphAxis::GetLabelSize(CDCEx* pDC, double fValue)
     CKeptLabels* const kept = KeptLabels(pDC);
     if (const CKeptLabels::Label known = kept ? kept->Find(fValue) : nullptr)
         return known->size;
-    const CFontSelector font(&m_LabelFont, pDC, false);
+    const CFontSelector font(&m_LabelFont, pDC, false, true);
     const CTickLabels::Made made = CTickLabels::Make(LabelText(fValue), fValue);
     made->size = pDC->GetTextExtent(made->cText);
     if (kept)
@@ -56,7 +56,7 @@ CSize CXGraphAxis::GetTitleSize(CDCEx* pDC)
     const bool bKeep = pDC->IsScreen() && m_TitleFont.GetLogFont(&look) != 0;
     if (const CSize* known = bKeep ? m_KeptTitle.Find(look, m_cLabel) : nullptr)
         return *known;
-    const CFontSelector font(&m_TitleFont, pDC, false);
+    const CFontSelector font(&m_TitleFont, pDC, false, true);
     const CSize size = pDC->GetTextExtent(m_cLabel);
     if (bKeep)
         m_KeptTitle.Keep(look, m_cLabel, size);

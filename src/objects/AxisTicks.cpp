@@ -3,6 +3,7 @@
 #include "base/Colors.h"
 #include "base/Trunc.h"
 #include "draw/Selectors.h"
+#include "objects/FrameRoom.h"
 #include "objects/PlotHost.h"
 #include "objects/TickLabels.h"
 
@@ -61,7 +62,7 @@ void CAxisTicks::DrawTitle()
     if (m_axis.m_cLabel.IsEmpty())
         return;
     const CSize size = m_axis.GetTitleSize(m_pDC);
-    const CFontSelector font(&m_axis.m_TitleFont, m_pDC, true);
+    const CFontSelector font(&m_axis.m_TitleFont, m_pDC, true, true);
     const int nTick = m_axis.m_nTickSize;
     if (!m_axis.IsVertical()) {
         m_axis.m_fEndMargin += size.cx;
@@ -92,7 +93,9 @@ void CAxisTicks::DrawTicks(const std::vector<TTick>& ticks, bool bClearGaps)
 {
     if (!HasTicks())
         return;
-    CTickLabels labels(m_axis, m_pDC, LabelFormat());
+    CRoomyList pile(m_axis.m_pGraph, &TFrameRoom::pile);
+    CRoomyList shapes(m_axis.m_pGraph, &TFrameRoom::shapes);
+    CTickLabels labels(m_axis, m_pDC, LabelFormat(), *pile, *shapes);
     const CPenSelector pen(m_axis.m_crGridColor, 1, m_pDC, AxisPainting::PenStyle(m_axis.m_nGridStyle));
     for (std::size_t i = 0; i < ticks.size(); ++i) {
         const TTick& tick = ticks[i];

@@ -84,17 +84,34 @@ std::size_t CColumnScan::RunStart(std::size_t from, std::size_t index) const noe
     return index;
 }
 
-std::size_t CColumnSearch::FirstOutside(std::size_t from, TColumns columns) const noexcept
+std::size_t CColumnSearch::FirstOutside(std::size_t from, TColumns columns) noexcept
 {
-    // Growing strides first: the answer is mostly near.
+    const auto isIn = [&](std::size_t index) { return columns.Contains(ColumnAt(index)); };
+    const std::size_t guess = from + std::min(m_nRun, m_points.size() - from);
+    std::size_t low = from; // all in front of it are in the columns
+    std::size_t high = guess;
+    // Growing strides, as the answer is mostly near: on from the guess, or back.
     std::size_t stride = 1;
-    std::size_t end = from;
-    while (end < m_points.size() && columns.Contains(ColumnAt(end))) {
-        from = end + 1;
-        end += std::min(stride, m_points.size() - end);
-        stride *= 2;
+    if (guess == m_points.size() || !isIn(guess)) {
+        while (high > low) {
+            const std::size_t before = high - std::min(stride, high - low);
+            if (isIn(before)) {
+                low = before + 1;
+                break;
+            }
+            high = before;
+            stride *= 2;
+        }
+    } else {
+        while (high < m_points.size() && isIn(high)) {
+            low = high + 1;
+            high += std::min(stride, m_points.size() - high);
+            stride *= 2;
+        }
     }
-    return FirstFailing(from, end, [&](std::size_t index) { return columns.Contains(ColumnAt(index)); });
+    const std::size_t found = FirstFailing(low, high, isIn);
+    m_nRun = found - from;
+    return found;
 }
 
 std::size_t CColumnSearch::RunStart(std::size_t from, std::size_t index) const noexcept

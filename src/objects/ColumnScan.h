@@ -55,7 +55,8 @@ public:
     {
     }
 
-    [[nodiscard]] std::size_t FirstOutside(std::size_t from, TColumns columns) const noexcept;
+    // Looks first where a run as long as the last one would end: most points are even.
+    [[nodiscard]] std::size_t FirstOutside(std::size_t from, TColumns columns) noexcept;
     [[nodiscard]] std::size_t RunStart(std::size_t from, std::size_t index) const noexcept;
 
 private:
@@ -66,6 +67,7 @@ private:
 
     std::span<const TDataPoint> m_points;
     const AxisMapping::CMapper& m_x;
+    std::size_t m_nRun = 0; // points that the last search passed
 };
 
 // Number of leading points, ascending on a mapping that keeps order, whose place is below

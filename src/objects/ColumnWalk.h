@@ -65,7 +65,7 @@ namespace Details
 
 // Walks the first `count` points and returns the last kept one.
 template <class Columns, class Visit>
-TPoint Walk(const TCurve& curve, const Columns& columns, std::size_t count, TColumns visible,
+TPoint Walk(const TCurve& curve, Columns&& columns, std::size_t count, TColumns visible,
             Visit&& visit)
 {
     std::size_t kept = 0;
@@ -98,7 +98,7 @@ template <class Visit> TEnds WalkVisibleSegments(const TCurve& curve, TColumns v
     const std::size_t regular = CountWithColumn(curve.points, curve.x);
     TPoint last = first;
     if (regular > 0) {
-        const CColumnSearch search(curve.points.first(regular), curve.x);
+        CColumnSearch search(curve.points.first(regular), curve.x);
         last = Details::Walk(curve, search, regular, visible, visit);
     }
     if (regular < count) {

@@ -12,6 +12,7 @@
 #include "draw/Selectors.h"
 #include "objects/AxisTicks.h"
 #include "objects/ColumnWalk.h"
+#include "objects/FrameRoom.h"
 #include "objects/PlotHost.h"
 #include "objects/PolylineBatches.h"
 #include "objects/XGraphAxis.h"
@@ -149,10 +150,10 @@ void CXGraphDataSerie::Draw(CDCEx* pDC)
         return;
     const COLORREF crLine = pDC->m_bMono ? Black : m_bSelected ? m_crColor ^ 0xFFFFFF : m_crColor;
     const CPenSelector pen(crLine, LineSize(), pDC, AxisPainting::PenStyle(m_nLineStyle));
-    std::vector<TPoint> polygon;
-    DrawShape(pDC, polygon);
+    CRoomyList polygon(m_pGraph, &TFrameRoom::polygon);
+    DrawShape(pDC, *polygon);
     if (m_bFillBeneath)
-        DrawFill(pDC, polygon);
+        DrawFill(pDC, *polygon);
 }
 
 void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
@@ -168,7 +169,8 @@ void CXGraphDataSerie::DrawShape(CDCEx* pDC, std::vector<TPoint>& polygon)
     const CRect plot = PlotHost::InnerRect(*m_pGraph);
     const TRect reach = ReachOf(plot, PenReach());
     const bool bJoin = m_nLineStyle == PS_SOLID;
-    CPolylineBatches lines(reach,
+    CRoomyList room(m_pGraph, &TFrameRoom::line);
+    CPolylineBatches lines(reach, *room,
                            [&](std::span<const TPoint> points) { DrawPolyline(pDC, points, bJoin); });
     CChain chain(polygon, reach);
 

@@ -14,6 +14,7 @@ class CWnd;
 class CXGraph;
 class CXGraphAxis;
 class CXGraphDataSerie;
+struct TFrameRoom;
 struct TObjectRef;
 
 namespace PlotHost
@@ -37,6 +38,9 @@ namespace PlotHost
 // In the list of the axis's own kind: a file can put a Y axis into the list of X axes, where it has
 // no position.
 [[nodiscard]] int AxisIndex(const CXGraph& graph, const CXGraphAxis& axis);
+
+// What the graph keeps for the lists of its frames; null before its first frame.
+[[nodiscard]] TFrameRoom* FrameRoom(CXGraph& graph);
 
 // Whether the object is still among the free objects.
 [[nodiscard]] bool Owns(const CXGraph& graph, const TObjectRef& entry);

@@ -16,8 +16,10 @@ public:
     static constexpr std::size_t MostPoints = 16384;
     static constexpr std::size_t UsualPoints = 1024; // about one a column
 
-    // `reach` is the plot, grown by what a pen adds to a line; its edges are part of it.
-    CPolylineBatches(TRect reach, Emit emit) : m_reach(reach), m_emit(std::move(emit))
+    // `reach` is the plot, grown by what a pen adds to a line; its edges are part of it. `points` is
+    // the room for a polyline, empty at first and in the end.
+    CPolylineBatches(TRect reach, std::vector<TPoint>& points, Emit emit)
+        : m_reach(reach), m_points(points), m_emit(std::move(emit))
     {
         m_points.reserve(UsualPoints);
     }
@@ -50,6 +52,6 @@ private:
     }
 
     TRect m_reach;
+    std::vector<TPoint>& m_points;
     Emit m_emit;
-    std::vector<TPoint> m_points;
 };

@@ -67,9 +67,10 @@ CTickLabels::Made CTickLabels::Make(CString cText, double fValue)
     return made;
 }
 
-CTickLabels::CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat)
-    : m_axis(axis), m_pDC(pDC), m_nFormat(nFormat), m_font(&axis.m_LabelFont, pDC, true),
-      m_kept(axis.KeptLabels(pDC)), m_cFormat(axis.LabelFormat()), m_visible(pDC->Visible())
+CTickLabels::CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat, std::vector<TLabel>& pile,
+                         std::vector<TShape>& shapes)
+    : m_axis(axis), m_pDC(pDC), m_nFormat(nFormat), m_font(&axis.m_LabelFont, pDC, true, true),
+      m_kept(axis.KeptLabels(pDC)), m_visible(pDC->Visible()), m_shapes(shapes), m_pile(pile)
 {
 }
 
@@ -77,8 +78,10 @@ bool CTickLabels::MayShow(CPoint place)
 {
     if (m_visible.Meets(place, 0))
         return true;
-    if (!m_fReach)
+    if (!m_fReach) {
+        m_pDC->SelectWantedFont();
         m_fReach = CXGraphAxis::LongestLabel * LargestGlyph(*m_pDC);
+    }
     return m_visible.Meets(place, *m_fReach);
 }
 
@@ -95,7 +98,8 @@ bool CTickLabels::IsUpright()
 bool CTickLabels::HasDigitsAlike()
 {
     if (!m_bDigitsAlike) {
-        const CFontSelector measuring(&m_axis.m_LabelFont, m_pDC, false);
+        const CFontSelector measuring(&m_axis.m_LabelFont, m_pDC, false, true);
+        m_pDC->SelectWantedFont();
         m_bDigitsAlike = AreDigitsAlike(*m_pDC);
     }
     return *m_bDigitsAlike;
@@ -103,8 +107,10 @@ bool CTickLabels::HasDigitsAlike()
 
 bool CTickLabels::HasDigitsInside()
 {
-    if (!m_bDigitsInside)
+    if (!m_bDigitsInside) {
+        m_pDC->SelectWantedFont();
         m_bDigitsInside = AreDigitsAlike(*m_pDC) && AreDigitsInside(*m_pDC);
+    }
     return *m_bDigitsInside;
 }
 
@@ -129,7 +135,9 @@ CKeptLabels::Label CTickLabels::LabelOf(double fValue)
 {
     if (CKeptLabels::Label known = m_kept ? m_kept->Find(fValue) : nullptr)
         return known;
-    const Made made = Make(m_axis.LabelText(m_cFormat, fValue), fValue);
+    if (!m_cFormat)
+        m_cFormat = m_axis.LabelFormat();
+    const Made made = Make(m_axis.LabelText(*m_cFormat, fValue), fValue);
     made->size = Measure(made->cText, made->strShape);
     if (m_kept)
         m_kept->Keep(made);
@@ -151,7 +159,7 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
         return known->size;
     std::optional<CFontSelector> measuring;
     if (m_pDC->m_bScaling)
-        measuring.emplace(&m_axis.m_LabelFont, m_pDC, false);
+        measuring.emplace(&m_axis.m_LabelFont, m_pDC, false, true);
     const CSize size = m_pDC->GetTextExtent(cText);
     if (known == m_shapes.end()) {
         if (m_shapes.size() == MostShapes)

@@ -21,19 +21,6 @@ public:
     // Returns the rectangle, in screen units, of a label of a size.
     using Place = std::function<CRect(CSize)>;
 
-    // A label with its text, its size still to be measured.
-    using Made = std::shared_ptr<TAxisLabel>;
-    [[nodiscard]] static Made Make(CString cText, double fValue);
-
-    // The axis's label font is selected, scaled, as long as this lives.
-    CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat);
-
-    // Adds the label of a value to those of the present pixel.
-    void Pile(double fValue, const Place& place);
-    // Draws the labels of the present pixel; the next one begins a new pixel.
-    void Draw();
-
-private:
     // Texts that differ in their digits alone have one shape: the text with zeros for digits.
     struct TShape {
         std::wstring strShape;
@@ -44,6 +31,20 @@ private:
         CRect rect;
     };
 
+    // A label with its text, its size still to be measured.
+    using Made = std::shared_ptr<TAxisLabel>;
+    [[nodiscard]] static Made Make(CString cText, double fValue);
+
+    // The axis's label font is selected, scaled, as long as this lives. The lists are empty.
+    CTickLabels(CXGraphAxis& axis, CDCEx* pDC, UINT nFormat, std::vector<TLabel>& pile,
+                std::vector<TShape>& shapes);
+
+    // Adds the label of a value to those of the present pixel.
+    void Pile(double fValue, const Place& place);
+    // Draws the labels of the present pixel; the next one begins a new pixel.
+    void Draw();
+
+private:
     [[nodiscard]] bool MayShow(CPoint place);
     [[nodiscard]] CKeptLabels::Label LabelOf(double fValue);
     [[nodiscard]] CSize Measure(const CString& cText, const std::wstring& strShape);
@@ -57,13 +58,13 @@ private:
     UINT m_nFormat;
     CFontSelector m_font;
     CKeptLabels* m_kept;    // the axis's own, if the canvas is one to keep them for
-    CString m_cFormat;      // m_cDisplayFmt, as far as it can show
     TVisibleArea m_visible; // in screen units
-    // Asked of the platform when first needed, which in most frames is never.
+    // Made or asked of the platform when first needed, which in most frames is never.
+    std::optional<CString> m_cFormat;    // m_cDisplayFmt, as far as it can show
     std::optional<double> m_fReach;      // farther than any label extends from its place
     std::optional<bool> m_bUpright;      // text runs from left to right
     std::optional<bool> m_bDigitsAlike;  // all digits are equally wide, for measuring
     std::optional<bool> m_bDigitsInside; // and, as drawn, none of them leaves its cell
-    std::vector<TShape> m_shapes;
-    std::vector<TLabel> m_pile;
+    std::vector<TShape>& m_shapes;
+    std::vector<TLabel>& m_pile;
 };

@@ -72,12 +72,10 @@ void CXGraphLabel::Draw(CDCEx* pDC)
     const CFontSelector selectFont(&m_Font, pDC, true);
     std::optional<CBrushSelector> selectBrush;
     HGDIOBJ hOldBrush = nullptr;
-    if (m_bTransparent) {
-        if (const CGdiObject* pOldBrush = pDC->SelectStockObject(HOLLOW_BRUSH))
-            hOldBrush = pOldBrush->m_hObject;
-    } else {
+    if (m_bTransparent)
+        hOldBrush = pDC->SelectHandle(::GetStockObject(HOLLOW_BRUSH));
+    else
         selectBrush.emplace(crFill, pDC);
-    }
     std::optional<CPenSelector> selectPen;
     if (m_bBorder)
         selectPen.emplace(Black, 1, pDC, PS_SOLID);
@@ -105,8 +103,7 @@ void CXGraphLabel::Draw(CDCEx* pDC)
         pDC->DrawText(m_cText, &rcText, m_nAlignment);
     }
     pDC->SetTextColor(crOldText);
-    if (hOldBrush)
-        pDC->SelectObject(CBrush::FromHandle(static_cast<HBRUSH>(hOldBrush)));
+    pDC->SelectHandle(hOldBrush);
 }
 
 // From the curve's middle point to the middle of the box, which then hides its inner part.

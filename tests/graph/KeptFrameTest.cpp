@@ -4,12 +4,21 @@
 
 #include "NativeGraph.h"
 #include "support/CountedMemory.h"
+#include "support/GdiCount.h"
 #include "support/ImportSlot.h"
 
+#include <algorithm>
 #include <cmath>
 #include <random>
+#include <string>
 
-extern "C" decltype(&::GetTextExtentPoint32W) __imp_GetTextExtentPoint32W;
+extern "C" {
+extern decltype(&::CreateFontW) __imp_CreateFontW;
+extern decltype(&::CreateFontIndirectW) __imp_CreateFontIndirectW;
+extern decltype(&::DrawTextW) __imp_DrawTextW;
+extern decltype(&::GetTextExtentPoint32W) __imp_GetTextExtentPoint32W;
+extern decltype(&::SelectObject) __imp_SelectObject;
+}
 
 namespace
 {
@@ -21,6 +30,40 @@ BOOL WINAPI CountedExtent(HDC hDC, LPCWSTR text, int nLength, LPSIZE size)
 {
     ++s_measured;
     return s_measure(hDC, text, nLength, size);
+}
+
+int s_fontsMade = 0;
+
+HFONT WINAPI CountedFont(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                         LPCWSTR)
+{
+    ++s_fontsMade;
+    return nullptr;
+}
+
+HFONT WINAPI CountedIndirectFont(const LOGFONTW*)
+{
+    ++s_fontsMade;
+    return nullptr;
+}
+
+std::vector<HGDIOBJ> s_selectedFonts;
+decltype(&::SelectObject) s_select = nullptr;
+
+HGDIOBJ WINAPI NotedSelection(HDC hDC, HGDIOBJ hObject)
+{
+    if (::GetObjectType(hObject) == OBJ_FONT)
+        s_selectedFonts.push_back(hObject);
+    return s_select(hDC, hObject);
+}
+
+std::vector<std::wstring> s_texts;
+decltype(&::DrawTextW) s_draw = nullptr;
+
+int WINAPI NotedText(HDC hDC, LPCWSTR text, int nLength, LPRECT rect, UINT nFormat)
+{
+    s_texts.emplace_back(text, static_cast<std::size_t>(nLength));
+    return s_draw(hDC, text, nLength, rect, nFormat);
 }
 
 class KeptFrame : public GraphTest
@@ -40,6 +83,14 @@ protected:
         return values.begin()[m_random() % values.size()];
     }
     double Share() { return (m_random() % 1001) / 1000.0; }
+    // Rounding may move a bound by a bit in each frame, and that is another label then.
+    void HoldRanges()
+    {
+        for (CXGraphAxis& axis : graph.m_XAxes)
+            axis.m_bAutoScale = false;
+        for (CXGraphAxis& axis : graph.m_YAxes)
+            axis.m_bAutoScale = false;
+    }
     bool Sometimes() { return m_random() % 4 == 0; }
 
     // A few settings of an axis, such as hosts and users change between two frames.
@@ -139,14 +190,9 @@ TEST_F(KeptFrame, ACopyShowsWhatTheCallersArrayShows)
 
 TEST_F(KeptFrame, ASecondFrameMeasuresNoLabelAgain)
 {
-    graph.m_bShowLegend = false;
-    // Rounding may move a bound by a bit in each frame, and that is another label then.
-    for (CXGraphAxis& axis : graph.m_XAxes) {
-        axis.m_cLabel = L"title";
-        axis.m_bAutoScale = false;
-    }
-    for (CXGraphAxis& axis : graph.m_YAxes)
-        axis.m_bAutoScale = false;
+    HoldRanges();
+    graph.m_XAxes[0].m_cLabel = L"title";
+    graph.m_Curves[0].m_cLabel = L"a row of the legend";
     Paint();
     const ImportSlot slot(__imp_GetTextExtentPoint32W, &CountedExtent);
     s_measure = slot.Original();
@@ -159,18 +205,125 @@ TEST_F(KeptFrame, ASecondFrameMeasuresNoLabelAgain)
     EXPECT_GT(s_measured, 0);
 }
 
-TEST_F(KeptFrame, WhatAFrameTakesFromTheHeapDoesNotGrowWithTheScreenfulOfPoints)
+TEST_F(KeptFrame, ALegendRowIsMeasuredAgainForAnotherTextAlone)
 {
-    const auto taken = [this] {
+    HoldRanges();
+    Paint();
+    const ImportSlot slot(__imp_GetTextExtentPoint32W, &CountedExtent);
+    s_measure = slot.Original();
+    s_measured = 0;
+    graph.m_Curves[1].m_cLabel = L"another label";
+    Paint();
+    EXPECT_EQ(s_measured, 1);
+    graph.m_Curves[0].m_bVisible = false; // the second row moves up to the first
+    Paint();
+    EXPECT_EQ(s_measured, 3);
+}
+
+TEST_F(KeptFrame, AFrameLikeTheLastTakesNothingFromTheHeap)
+{
+    HoldRanges();
+    graph.m_XAxes[0].m_cLabel = L"a title of some length";
+    graph.m_XAxes[1].m_cDisplayFmt = L"%10.4f and more";
+    graph.m_YAxes[1].m_AxisType = atLog;
+    graph.m_Curves[0].m_cLabel = L"a row of the legend";
+    graph.m_Curves[0].m_bShowMarker = true;
+    graph.m_Curves[1].m_bShowMarker = true;
+    graph.m_Curves[1].m_nMarkerType = 1;
+    graph.m_Curves[1].m_nType = gtScatter;
+    Paint();
+    const CountedMemory memory;
+    Paint();
+    EXPECT_EQ(memory.Calls(), 0u);
+}
+
+TEST_F(KeptFrame, AFrameOfOtherPointsOfTheSameCountTakesNothingFromTheHeap)
+{
+    HoldRanges();
+    Paint();
+    for (TDataPoint& point : m_points)
+        point.fYVal = 10 - point.fYVal; // the graph reads these of the second curve in place
+    const CountedMemory memory;
+    Paint();
+    EXPECT_EQ(memory.Calls(), 0u);
+}
+
+TEST_F(KeptFrame, ASecondFrameMakesNoFont)
+{
+    Paint();
+    s_fontsMade = 0;
+    {
+        const ImportSlot made(__imp_CreateFontW, &CountedFont);
+        const ImportSlot copied(__imp_CreateFontIndirectW, &CountedIndirectFont);
         Paint();
-        const CountedMemory memory;
+    }
+    EXPECT_EQ(s_fontsMade, 0);
+}
+
+TEST_F(KeptFrame, AFontThatIsSelectedStaysUntilAnotherIsWanted)
+{
+    HoldRanges();
+    Paint();
+    s_selectedFonts.clear();
+    {
+        const ImportSlot slot(__imp_SelectObject, &NotedSelection);
+        s_select = slot.Original();
         Paint();
-        return memory.Calls();
+    }
+    constexpr std::size_t axes = 4; // each with keys, title and labels
+    EXPECT_EQ(s_selectedFonts.size(), 1 + 3 * axes) << "and the legend";
+    for (std::size_t i = 1; i < s_selectedFonts.size(); ++i)
+        EXPECT_NE(s_selectedFonts[i], s_selectedFonts[i - 1]) << i;
+}
+
+TEST_F(KeptFrame, KeysOfManySizesAreDrawnAsEver)
+{
+    graph.m_bDoubleBuffer = false;
+    const auto resize = [this](int nFirst) {
+        for (CXGraphAxis* axis : {&graph.m_XAxes[0], &graph.m_XAxes[1], &graph.m_YAxes[0]})
+            axis->m_nMarkerSize = nFirst++;
+        for (CXGraphDataSerie& curve : graph.m_Curves) {
+            curve.m_bShowMarker = true;
+            curve.m_nMarkerSize = nFirst++;
+        }
     };
-    const std::size_t nMany = taken();
-    for (CXGraphDataSerie& curve : graph.m_Curves)
-        curve.CopyData(m_points.data(), 10);
-    const std::size_t nFew = taken();
-    EXPECT_LE(nMany, nFew + 8);
-    EXPECT_LE(nMany, 60u);
+    HoldRanges();
+    for (int nFirst = 5; nFirst < 30; nFirst += 6) { // more fonts than a graph keeps
+        resize(nFirst);
+        graph.m_bDoubleBuffer = false;
+        const Picture plain = Shoot();
+        graph.m_bDoubleBuffer = true;
+        EXPECT_EQ(Shoot().CountDifferences(plain), 0) << nFirst;
+        EXPECT_EQ(Shoot().CountDifferences(plain), 0) << nFirst << ", again";
+    }
+}
+
+TEST_F(KeptFrame, WhatIsKeptGoesWithTheWindow)
+{
+    graph.DestroyWindow();
+    const int nWithout = GdiCount::All();
+    graph.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, Width, Height),
+                 CWnd::FromHandle(host.m_hWnd), 7);
+    Paint();
+    EXPECT_GT(GdiCount::All(), nWithout);
+    graph.DestroyWindow();
+    EXPECT_EQ(GdiCount::All(), nWithout);
+}
+
+TEST_F(KeptFrame, ALegendRowBelowTheWindowIsListedButNotDrawn)
+{
+    constexpr int curves = 60;
+    for (int i = 3; i < curves; ++i)
+        graph.SetData(m_points.data(), 2, i, 0, 0, false);
+    const ImportSlot slot(__imp_DrawTextW, &NotedText);
+    s_draw = slot.Original();
+    s_texts.clear();
+    Paint();
+    EXPECT_EQ(graph.m_LegendEntries.size(), std::size_t{curves});
+    const auto drawn = [](const wchar_t* start) {
+        return std::count_if(s_texts.begin(), s_texts.end(),
+                             [&](const std::wstring& text) { return text.starts_with(start); });
+    };
+    EXPECT_EQ(drawn(L"01 "), 1);
+    EXPECT_EQ(drawn(L"60 "), 0);
 }

@@ -18,6 +18,11 @@ struct TDCTableEnd {
     ~TDCTableEnd() { g_dcTable.DeleteTemporaries(0); }
 } g_dcTableEnd;
 
+HGDIOBJ HandleOf(const CGdiObject* pObject) noexcept
+{
+    return pObject ? pObject->GetSafeHandle() : nullptr;
+}
+
 bool IsPrinterDC(HDC hDC)
 {
     // A memory context takes the technology of the device that it is compatible with.
@@ -139,43 +144,36 @@ BOOL CDC::RestoreDC(int nSavedDC)
     return restored;
 }
 
-HGDIOBJ CDC::SelectBoth(const CGdiObject* pObject) const noexcept
+HGDIOBJ CDC::SelectHandle(HGDIOBJ hObject) const noexcept
 {
-    const HGDIOBJ object = pObject ? pObject->GetSafeHandle() : nullptr;
-    if (!object)
+    if (!hObject)
         return nullptr;
     HGDIOBJ old = nullptr;
     if (m_hDC && m_hDC != m_hAttribDC)
-        old = ::SelectObject(m_hDC, object);
+        old = ::SelectObject(m_hDC, hObject);
     if (m_hAttribDC)
-        old = ::SelectObject(m_hAttribDC, object);
+        old = ::SelectObject(m_hAttribDC, hObject);
     return old;
 }
 
 CGdiObject* CDC::SelectStockObject(int nIndex)
 {
-    const HGDIOBJ object = ::GetStockObject(nIndex);
-    HGDIOBJ old = nullptr;
-    if (m_hDC && m_hDC != m_hAttribDC)
-        old = ::SelectObject(m_hDC, object);
-    if (m_hAttribDC)
-        old = ::SelectObject(m_hAttribDC, object);
-    return CGdiObject::FromHandle(old);
+    return CGdiObject::FromHandle(SelectHandle(::GetStockObject(nIndex)));
 }
 
 CPen* CDC::SelectObject(CPen* pPen)
 {
-    return CPen::FromHandle(static_cast<HPEN>(SelectBoth(pPen)));
+    return CPen::FromHandle(static_cast<HPEN>(SelectHandle(HandleOf(pPen))));
 }
 
 CBrush* CDC::SelectObject(CBrush* pBrush)
 {
-    return CBrush::FromHandle(static_cast<HBRUSH>(SelectBoth(pBrush)));
+    return CBrush::FromHandle(static_cast<HBRUSH>(SelectHandle(HandleOf(pBrush))));
 }
 
 CFont* CDC::SelectObject(CFont* pFont)
 {
-    return CFont::FromHandle(static_cast<HFONT>(SelectBoth(pFont)));
+    return CFont::FromHandle(static_cast<HFONT>(SelectHandle(HandleOf(pFont))));
 }
 
 CBitmap* CDC::SelectObject(CBitmap* pBitmap)
@@ -188,7 +186,7 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap)
 
 int CDC::SelectObject(CRgn* pRgn)
 {
-    return static_cast<int>(reinterpret_cast<INT_PTR>(SelectBoth(pRgn)));
+    return static_cast<int>(reinterpret_cast<INT_PTR>(SelectHandle(HandleOf(pRgn))));
 }
 
 CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground)

@@ -63,6 +63,8 @@ public:
     int SelectObject(CRgn* pRgn);
     CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
     UINT RealizePalette();
+    // A pen, brush, font or region by its handle, for one who has no use for the old one's object.
+    HGDIOBJ SelectHandle(HGDIOBJ hObject) const noexcept;
     [[nodiscard]] CPen* GetCurrentPen() const;
     [[nodiscard]] CBrush* GetCurrentBrush() const;
     [[nodiscard]] CFont* GetCurrentFont() const;
@@ -188,8 +190,6 @@ public:
 private:
     friend class HandleTable<CDC>;
     HandleTableLink<CDC> m_Link;
-
-    HGDIOBJ SelectBoth(const CGdiObject* pObject) const noexcept;
 };
 
 // The client area of a window inside WM_PAINT, from BeginPaint to EndPaint.

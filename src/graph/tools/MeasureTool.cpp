@@ -1,7 +1,7 @@
 #include "graph/tools/MeasureTool.h"
 
 #include "draw/DCEx.h"
-#include "draw/QuickFont.h"
+#include "draw/KeptFonts.h"
 #include "draw/Selectors.h"
 #include "graph/PointSearch.h"
 #include "graph/XGraph.h"
@@ -100,8 +100,7 @@ CPoint CMeasureTool::PointOfCurve(int nCurve, int nIndex)
 
 void CMeasureTool::DrawMeasure(CDCEx* pDC, CRect& rc)
 {
-    CQuickFont font(L"Arial", -11, FW_BOLD);
-    const CFontSelector selectFont(&font, pDC, true);
+    const CArialSelector selectFont(-11, FW_BOLD, pDC, true);
     const COLORREF background = pDC->SetBkColor(m_Graph.m_crInnerColor);
     if (rc.IsRectEmpty() && m_Graph.m_opOperation == opMeasure)
         rc = m_rcMeasure = LiveMeasureRect();

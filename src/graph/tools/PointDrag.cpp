@@ -2,8 +2,7 @@
 
 #include "base/Wrap.h"
 #include "draw/DCEx.h"
-#include "draw/QuickFont.h"
-#include "draw/Selectors.h"
+#include "draw/KeptFonts.h"
 #include "graph/DragState.h"
 #include "graph/PointSearch.h"
 #include "graph/XGraph.h"
@@ -54,8 +53,7 @@ void CPointDrag::Drag(CPoint point)
 void CPointDrag::DrawValue(CDCEx* pDC)
 {
     constexpr int distance = 10;
-    CQuickFont font(L"Arial", 13, FW_NORMAL);
-    const CFontSelector selectFont(&font, pDC, true);
+    const CArialSelector selectFont(13, FW_NORMAL, pDC, true);
     pDC->SetBkMode(TRANSPARENT);
     CString strValue;
     strValue.Format(L"%.2f", m_fEditValue);

@@ -2,18 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <climits>
+#include <initializer_list>
 
 namespace
 {
 constexpr TRect Graph{5, 5, 395, 295};
+
+GraphLegendLayout::Extent ExtentOf(std::initializer_list<TSize> texts)
+{
+    GraphLegendLayout::Extent extent;
+    for (const TSize& text : texts)
+        extent.Add(text);
+    return extent;
 }
+} // namespace
 
 TEST(GraphLegendLayout, TheWidestTextAndTheSumOfHeightsCount)
 {
-    constexpr std::array<TSize, 3> texts{{{30, 15}, {50, 31}, {40, 16}}};
-    const auto extent = GraphLegendLayout::Measure(texts);
+    const auto extent = ExtentOf({{30, 15}, {50, 31}, {40, 16}});
     EXPECT_EQ(extent.nWidth, 50);
     EXPECT_EQ(extent.nHeight, 62);
     EXPECT_EQ(extent.nRowHeight, 16); // the last row's
@@ -38,8 +45,7 @@ TEST(GraphLegendLayout, TheLeftBoxTakesItsWidthAndTwentyFromTheLeft)
 TEST(GraphLegendLayout, WithNoVisibleCurveTheBoxIsSixteenByTwo)
 {
     TRect graph = Graph;
-    const TRect box =
-        GraphLegendLayout::PlaceBox(EAlignment::right, GraphLegendLayout::Measure({}), graph);
+    const TRect box = GraphLegendLayout::PlaceBox(EAlignment::right, ExtentOf({}), graph);
     EXPECT_EQ(box.Width(), 16);
     EXPECT_EQ(box.Height(), 2);
     EXPECT_EQ(Graph.right - graph.right, 36);
@@ -75,8 +81,7 @@ TEST(GraphLegendLayout, TheBoxGrowsWithItsRowsWhateverTheGraphsHeight)
 TEST(GraphLegendLayout, HugeTextsWrapInsteadOfOverflowing)
 {
     TRect graph{INT_MIN, INT_MIN, INT_MIN, INT_MIN};
-    constexpr std::array<TSize, 2> texts{{{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}}};
-    const auto extent = GraphLegendLayout::Measure(texts);
+    const auto extent = ExtentOf({{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}});
     EXPECT_EQ(extent.nHeight, -2);
     const TRect box = GraphLegendLayout::PlaceBox(EAlignment::right, extent, graph);
     EXPECT_EQ(box.right, INT_MAX - 9);

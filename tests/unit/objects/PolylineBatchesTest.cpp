@@ -14,7 +14,8 @@ using Polylines = std::vector<std::vector<TPoint>>;
 Polylines Joined(const std::vector<std::pair<TPoint, TPoint>>& segments)
 {
     Polylines polylines;
-    CPolylineBatches batches(TRect{0, 0, 100, 100}, [&](std::span<const TPoint> points) {
+    std::vector<TPoint> room;
+    CPolylineBatches batches(TRect{0, 0, 100, 100}, room, [&](std::span<const TPoint> points) {
         polylines.emplace_back(points.begin(), points.end());
     });
     for (const auto& [from, to] : segments)
