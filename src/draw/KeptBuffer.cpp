@@ -21,11 +21,10 @@ bool CKeptBuffer::Start(CDC* pTarget, CSize size)
 void CKeptBuffer::Make(CDC* pTarget, CSize size)
 {
     if (!m_dc.CreateCompatibleDC(pTarget) ||
-        !m_bitmap.CreateCompatibleBitmap(pTarget, size.cx, size.cy)) {
+        !m_bitmap.CreateCompatibleBitmap(pTarget, size.cx, size.cy) || !::SelectObject(m_dc, m_bitmap)) {
         Free();
         return;
     }
-    m_hOldBitmap = ::SelectObject(m_dc, m_bitmap);
     m_size = size;
 }
 
@@ -44,9 +43,6 @@ void CKeptBuffer::Free() noexcept
 {
     if (m_bBusy)
         return;
-    if (m_hOldBitmap)
-        ::SelectObject(m_dc, m_hOldBitmap);
-    m_hOldBitmap = nullptr;
+    m_dc.DeleteDC(); // lets go of the bitmap, whatever becomes of a selection
     m_bitmap.DeleteObject();
-    m_dc.DeleteDC();
 }

@@ -31,7 +31,6 @@ private:
 
     CDC m_dc;
     CBitmap m_bitmap;
-    HGDIOBJ m_hOldBitmap = nullptr;
     CSize m_size;
     ULONGLONG m_nLastFrame = 0; // milliseconds
     bool m_bBusy = false;
