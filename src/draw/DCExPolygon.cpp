@@ -23,16 +23,6 @@ constexpr int PolygonRoom = 1 << 15;
 // Steps that a polygon may cost the platform: some hundredths of a second.
 constexpr double MostCost = 1 << 23;
 
-// Whatever the edges are like.
-bool IsCheap(std::span<const POINT> points) noexcept
-{
-    const auto [highest, lowest] =
-        std::minmax_element(points.begin(), points.end(),
-                            [](const POINT& one, const POINT& other) { return one.y < other.y; });
-    const auto edges = static_cast<double>(points.size());
-    return points.empty() || edges * edges * (lowest->y - highest->y) <= MostCost;
-}
-
 bool IsFilledAlone(HDC hDC) noexcept
 {
     LOGPEN pen{};
@@ -93,7 +83,10 @@ BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
     const LONG limit = recording ? LongLines::Limit : LongLines::TallPolygon;
     const bool isShort = std::all_of(points, points + nCount,
                                      [limit](const POINT& point) { return Within(point, limit); });
-    if (isShort && (recording || IsCheap({points, static_cast<size_t>(nCount)})))
+    const std::span pixels(points, static_cast<size_t>(nCount));
+    constexpr LongLines::TArea everything;
+    if (isShort &&
+        (recording || PolygonRows::Cost(pixels, everything.top, everything.bottom) <= MostCost))
         return CDC::Polygon(points, nCount);
 
     const std::vector<TVertex> vertices = Vertices(lpPoints, nCount);
@@ -101,7 +94,8 @@ BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
     const bool cut = !recording && ::GetClipBox(m_hDC, &visible) != ERROR;
     const LongLines::TArea area =
         cut && !isShort ? LongLines::AreaAround(visible, PolygonRoom) : LongLines::TArea{};
-    if (cut && PolygonRows::Cost(vertices, area.top, area.bottom) > MostCost && CanFillRows(m_hDC))
+    if (cut && PolygonRows::Cost(std::span{vertices}, area.top, area.bottom) > MostCost &&
+        CanFillRows(m_hDC))
         return FillRows(vertices, visible);
     return isShort ? CDC::Polygon(points, nCount) : LongPolygon(vertices, area);
 }

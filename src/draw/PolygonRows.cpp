@@ -95,21 +95,6 @@ private:
 };
 } // namespace
 
-double Cost(std::span<const TVertex> polygon, double top, double bottom)
-{
-    double crossings = 0;
-    double highest = bottom;
-    double lowest = top;
-    for (std::size_t i = 0; i < polygon.size(); ++i) {
-        const double y = std::clamp(polygon[i].y, top, bottom);
-        const double before = std::clamp(polygon[i == 0 ? polygon.size() - 1 : i - 1].y, top, bottom);
-        crossings += std::fabs(y - before);
-        highest = std::min(highest, y);
-        lowest = std::max(lowest, y);
-    }
-    return lowest > highest ? crossings * crossings / (lowest - highest) : 0;
-}
-
 std::vector<TRect> Fill(std::span<const TVertex> polygon, const TRect& visible)
 {
     if (visible.right <= visible.left || visible.bottom <= visible.top)

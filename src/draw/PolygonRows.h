@@ -5,11 +5,33 @@
 
 #include "draw/LongLines.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <span>
+#include <vector>
+
 namespace PolygonRows
 {
 // Steps that the platform takes for the polygon: in each row between top and bottom the square
-// of the edges that cross it, on the average.
-[[nodiscard]] double Cost(std::span<const LongLines::TVertex> polygon, double top, double bottom);
+// of the edges that cross it, on the average. Of pixels or vertices, whichever there are.
+template <class TPlace>
+[[nodiscard]] double Cost(std::span<const TPlace> polygon, double top, double bottom)
+{
+    const auto rowOf = [=](const TPlace& place) {
+        return std::clamp(static_cast<double>(place.y), top, bottom);
+    };
+    double crossings = 0;
+    double highest = bottom;
+    double lowest = top;
+    for (std::size_t i = 0; i < polygon.size(); ++i) {
+        const double y = rowOf(polygon[i]);
+        crossings += std::fabs(y - rowOf(polygon[i == 0 ? polygon.size() - 1 : i - 1]));
+        highest = std::min(highest, y);
+        lowest = std::max(lowest, y);
+    }
+    return lowest > highest ? crossings * crossings / (lowest - highest) : 0;
+}
 
 // The visible pixels of the polygon in alternate filling, as bands from top to bottom with their
 // rectangles from left to right. The pixels are those of the platform: an edge counts in the rows

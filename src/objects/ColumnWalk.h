@@ -65,8 +65,7 @@ namespace Details
 
 // Walks the first `count` points and returns the last kept one.
 template <class Columns, class Visit>
-TPoint Walk(const TCurve& curve, Columns&& columns, std::size_t count, TColumns visible,
-            Visit&& visit)
+TPoint Walk(const TCurve& curve, Columns&& columns, std::size_t count, TColumns visible, Visit&& visit)
 {
     std::size_t kept = 0;
     for (;;) {

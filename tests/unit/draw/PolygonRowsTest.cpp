@@ -71,10 +71,11 @@ TEST(PolygonRows, AVertexWithoutAPlaceIsLeftOut)
 
 TEST(PolygonRows, TheCostIsTheSquareOfTheEdgesInEachRow)
 {
-    const std::vector<TVertex> square = {{0, 10}, {9, 10}, {9, 30}, {0, 30}};
+    const std::vector<TVertex> vertices = {{0, 10}, {9, 10}, {9, 30}, {0, 30}};
+    const std::span square(vertices);
 
     EXPECT_EQ(PolygonRows::Cost(square, 0, 100), 2 * 2 * 20);
     EXPECT_EQ(PolygonRows::Cost(square, 25, 100), 2 * 2 * 5) << "rows between the two alone";
     EXPECT_EQ(PolygonRows::Cost(square, 40, 100), 0);
-    EXPECT_EQ(PolygonRows::Cost({}, 0, 100), 0);
+    EXPECT_EQ(PolygonRows::Cost(square.first(0), 0, 100), 0);
 }
