@@ -23,8 +23,8 @@ pictures=$VANTOPLEX_BUILD/printer
 mkdir -p "$pictures"
 work=$(mktemp -d)
 chmod 755 "$work"
-mkdir "$work"/{root,spool,cache,state,out}
-chown lp:lp "$work"/{root,spool,cache,state,out}
+mkdir "$work"/{server,spool,cache,state,out}
+chown lp:lp "$work"/{server,spool,cache,state,out}
 
 cat >"$work/cupsd.conf" <<CONF
 Listen $work/socket
@@ -41,7 +41,7 @@ Browsing Off
 CONF
 cat >"$work/files.conf" <<CONF
 FileDevice Yes
-ServerRoot $work/root
+ServerRoot $work/server
 RequestRoot $work/spool
 CacheDir $work/cache
 StateDir $work/state
@@ -63,7 +63,7 @@ add_queue() { # NAME DRIVER-OPTION...
 add_queue colour -m drv:///sample.drv/generic.ppd
 /usr/sbin/lpadmin -d colour
 sed 's/^\*ColorDevice: True/*ColorDevice: False/; s/^\*DefaultColorSpace: .*/*DefaultColorSpace: Gray/' \
-  "$work/root/ppd/colour.ppd" >"$work/fine.ppd"
+  "$work/server/ppd/colour.ppd" >"$work/fine.ppd"
 cat >>"$work/fine.ppd" <<'PPD'
 *OpenUI *Resolution/Resolution: PickOne
 *OrderDependency: 10 AnySetup *Resolution
