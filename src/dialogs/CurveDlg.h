@@ -77,7 +77,6 @@ private:
     // Adds the points as a curve on the axes of m_pCurve, which is found again by its index, and
     // labels it. False if there is no point.
     bool AddCurve(TDataPoint* pPoints, int nCount, const CString& strSuffix);
-    void AddFormula();
 
     CXGraph* m_pGraph = nullptr;   // of m_pCurve; outlives the page, with or without its window
     std::uint64_t m_nIdentity = 0; // of m_pCurve

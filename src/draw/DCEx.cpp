@@ -255,7 +255,7 @@ BOOL CDCEx::LargeEllipse(const CRect& rect)
 {
     CRect visible;
     LOGPEN pen{};
-    if (::GetClipBox(m_hDC, &visible) == ERROR || GetROP2() != R2_COPYPEN ||
+    if (::GetClipBox(m_hDC, &visible) == ERROR || ::GetROP2(m_hAttribDC) != R2_COPYPEN ||
         ::GetObject(::GetCurrentObject(m_hDC, OBJ_PEN), sizeof pen, &pen) == 0)
         return CDC::Ellipse(&rect);
     switch (EllipsePart(visible, rect, std::max(pen.lopnWidth.x, 1L))) {

@@ -82,11 +82,6 @@ TPoint ToPixel(TVertex vertex) noexcept
             static_cast<std::int32_t>(std::lround(vertex.y))};
 }
 
-bool AreShort(std::span<const TPoint> points) noexcept
-{
-    return std::all_of(points.begin(), points.end(), [](TPoint point) { return IsShort(point); });
-}
-
 bool CutSegment(TVertex& from, TVertex& to, const TArea& area) noexcept
 {
     if (!IsUsable(from) || !IsUsable(to))

@@ -34,7 +34,6 @@ inline constexpr std::int32_t TallWideLine = 1 << 15;
 {
     return IsShort(point.x, point.y);
 }
-[[nodiscard]] bool AreShort(std::span<const TPoint> points) noexcept;
 
 // A part of the square to which lines and polygons are cut; no side lies outside the square.
 struct TArea {

@@ -46,13 +46,6 @@ void Remove(CXGraph* pGraph) noexcept
     account.graphs.erase(pGraph);
 }
 
-int GetCount()
-{
-    Account& account = TheAccount();
-    const std::lock_guard lock(account.guard);
-    return static_cast<int>(account.graphs.size());
-}
-
 void FreeAll()
 {
     // A graph takes itself off the account when it dies.

@@ -9,7 +9,6 @@ namespace GraphRegister
 
 void Add(CXGraph* pGraph);
 void Remove(CXGraph* pGraph) noexcept;
-[[nodiscard]] int GetCount();
 void FreeAll();
 
 } // namespace GraphRegister

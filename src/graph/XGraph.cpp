@@ -168,8 +168,3 @@ void CXGraph::FreeAll()
 {
     GraphRegister::FreeAll();
 }
-
-int CXGraph::GetLiveCount()
-{
-    return GraphRegister::GetCount();
-}

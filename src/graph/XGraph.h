@@ -154,7 +154,6 @@ public:
 
     // Destroys every graph that is left, with its window. For the end of the module.
     static void FreeAll();
-    [[nodiscard]] static int GetLiveCount(); // graphs alive in this module
 
     static constexpr const auto& m_pfnMarker = MarkerPainters; // by marker number
 

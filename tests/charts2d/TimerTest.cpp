@@ -2,6 +2,7 @@
 
 #include "automation/Interfaces.h"
 #include "charts2d/GraphObject.h"
+#include "support/HostWindow.h"
 #include "support/ImportSlot.h"
 
 #include <gtest/gtest.h>
@@ -37,21 +38,12 @@ protected:
     static constexpr COLORREF Background = 0xE0F0C0;
     static constexpr TFill Cleared{{32, 140, 352, 340}, Background}; // of 640 x 400
 
-    ChartTimer()
-        : m_hHost(::CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 700, 500, nullptr,
-                                    nullptr, nullptr, nullptr))
-    {
-        s_fills.clear();
-    }
-    ~ChartTimer() override
-    {
-        m_Chart.DestroyWindow();
-        ::DestroyWindow(m_hHost);
-    }
+    ChartTimer() { s_fills.clear(); }
+    ~ChartTimer() override { m_Chart.DestroyWindow(); }
 
     void Create(int kind)
     {
-        m_Chart.Create(nullptr, nullptr, 0, CRect(0, 0, 640, 400), CWnd::FromHandle(m_hHost), 1);
+        m_Chart.Create(nullptr, nullptr, 0, CRect(0, 0, 640, 400), CWnd::FromHandle(m_Host.m_hWnd), 1);
         m_Chart.CreateGraph(kind);
         m_Chart.SetGraphBackgroundColor(Background);
     }
@@ -65,7 +57,7 @@ protected:
         return s_fills;
     }
 
-    HWND m_hHost;
+    HostWindow m_Host;
     CGraphObject m_Chart;
 };
 

@@ -209,7 +209,6 @@ TEST_F(ComModule, CallsFailWithoutTheModulesSections)
 {
     module.Term();
     void* object = nullptr;
-    IGlobalInterfaceTable* table = nullptr;
 
     EXPECT_EQ(module.Init(rows, nullptr, nullptr), E_FAIL);
     EXPECT_EQ(module.GetClassObject(CLSID_Counted, IID_IUnknown, &object), E_FAIL);
@@ -217,7 +216,6 @@ TEST_F(ComModule, CallsFailWithoutTheModulesSections)
     EXPECT_EQ(module.RegisterServer(), E_FAIL);
     EXPECT_EQ(module.UnregisterServer(), E_FAIL);
     EXPECT_EQ(module.AddTermFunc(&Note, 1), E_FAIL);
-    EXPECT_EQ(module.GetGITPtr(&table), E_FAIL);
 }
 
 TEST_F(ComModule, ObjectsMayOutliveTheTermination)
@@ -230,21 +228,6 @@ TEST_F(ComModule, ObjectsMayOutliveTheTermination)
 
     EXPECT_EQ(CCounted::alive, 0);
     EXPECT_EQ(module.GetLockCount(), 0);
-}
-
-TEST_F(ComModule, InterfaceTableIsHeldUntilTheEnd)
-{
-    ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
-    {
-        CComPtr<IGlobalInterfaceTable> first;
-        CComPtr<IGlobalInterfaceTable> second;
-        EXPECT_EQ(module.GetGITPtr(&first), S_OK);
-        EXPECT_EQ(module.GetGITPtr(&second), S_OK);
-        EXPECT_EQ(first.p, second.p);
-        EXPECT_EQ(module.GetGITPtr(nullptr), E_POINTER);
-        module.Term();
-    }
-    CoUninitialize();
 }
 
 TEST_F(ComModule, RegistrationWalksTheTableAndStopsAtTheFirstFailure)

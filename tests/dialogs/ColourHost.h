@@ -131,7 +131,7 @@ public:
     static void ReleaseAt(const CColourPopup& popup, CPoint point)
     {
         const LPARAM client = MAKELPARAM(point.x, point.y);
-        popup.ClientToScreen(&point);
+        ::ClientToScreen(popup, &point);
         ::SetCursorPos(point.x, point.y);
         popup.PostMessage(WM_LBUTTONUP, 0, client);
         DrainQueue();

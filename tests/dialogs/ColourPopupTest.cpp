@@ -66,8 +66,8 @@ TEST_F(ColourPopup, StartsOnTheColourWithNothingHot)
 
 TEST_F(ColourPopup, BoxesWithoutACaptionDoNotExist)
 {
-    m_button.m_strAutoCaption.Empty();
-    m_button.m_strMoreCaption.Empty();
+    m_button.m_strAutoCaption = CString();
+    m_button.m_strMoreCaption = CString();
     for (const COLORREF colour : {CLR_DEFAULT, Unknown}) {
         CColourPopup* const popup = OpenOn(colour);
         ASSERT_NE(popup, nullptr);

@@ -22,7 +22,7 @@ TEST(MemDC, BuffersTheClipBoxAndCopiesItInTheTargetsCoordinates)
         EXPECT_TRUE(memory.m_bMemDC);
         EXPECT_EQ(memory.m_rcArea, CRect(10, 20, 30, 40));
         EXPECT_TRUE(memory.m_rcBlit.IsRectEmpty());
-        memory.SetPixel(15, 25, Red);
+        ::SetPixel(memory, 15, 25, Red);
         EXPECT_EQ(canvas.At(15, 25), White) << "nothing is seen before the end";
     }
     EXPECT_EQ(canvas.At(15, 25), Red);
@@ -54,7 +54,7 @@ TEST(MemDC, WhoCoversAllOfItNeedsNoFirstFill)
     ::SetBkColor(canvas.dc, Green);
     {
         CMemDC memory(&canvas.dc, 0, false);
-        EXPECT_NE(memory.GetPixel(5, 5), Green);
+        EXPECT_NE(::GetPixel(memory, 5, 5), Green);
         memory.FillSolidRect(0, 0, 60, 60, Red);
     }
     EXPECT_EQ(canvas.At(0, 0), Red);
@@ -106,7 +106,7 @@ TEST(MemDC, OverAPrintingContextItDrawsStraightWithNoBitmap)
         EXPECT_EQ(memory.m_hAttribDC, page.dc.m_hAttribDC);
         EXPECT_EQ(memory.m_Bitmap.GetSafeHandle(), nullptr);
         EXPECT_EQ(memory.m_rcArea, CRect(0, 0, 30, 30));
-        memory.SetPixel(3, 4, Red);
+        ::SetPixel(memory, 3, 4, Red);
         EXPECT_EQ(page.At(3, 4), Red) << "at once";
     }
     EXPECT_EQ(page.At(0, 0), Green);

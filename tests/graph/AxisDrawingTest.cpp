@@ -18,7 +18,7 @@ protected:
         for (CXGraphAxis* pAxis : {&x, &y}) {
             pAxis->m_bShowMarker = false;
             pAxis->m_bAutoScale = false;
-            pAxis->m_cLabel.Empty();
+            pAxis->m_cLabel = CString();
             pAxis->SetCurrentRange(0, 10, 2);
         }
         x.m_cDisplayFmt = L"X%g";

@@ -39,7 +39,7 @@ protected:
         axis.m_nOriginY = Y().m_nOriginY;
         axis.m_rcArea = Y().m_rcArea;
         axis.m_cDisplayFmt = L"L%g";
-        axis.m_cLabel.Empty();
+        axis.m_cLabel = CString();
     }
 };
 

@@ -20,7 +20,7 @@ protected:
         graph.m_Curves[0].m_bVisible = false;
         for (CXGraphAxis* pAxis : {graph.GetXAxis(0), graph.GetYAxis(0)}) {
             pAxis->m_bAutoScale = false;
-            pAxis->m_cLabel.Empty();
+            pAxis->m_cLabel = CString();
             pAxis->SetCurrentRange(0, 10, 2);
         }
         X().m_cDisplayFmt = L"X%g";

@@ -312,5 +312,5 @@ TEST_F(CurvePixels, TheContextIsLeftAsItWas)
     EXPECT_EQ(::GetCurrentObject(canvas.dc, OBJ_PEN), hPen);
     EXPECT_EQ(::GetCurrentObject(canvas.dc, OBJ_BRUSH), hBrush);
     EXPECT_EQ(canvas.dc.GetBkMode(), TRANSPARENT);
-    EXPECT_EQ(canvas.dc.GetROP2(), R2_COPYPEN);
+    EXPECT_EQ(::GetROP2(canvas.dc), R2_COPYPEN);
 }

@@ -264,7 +264,7 @@ TEST_F(HostileFile, FontsWithoutTerminatorAreCutAtTheirRecord)
         label.replace(27 + 6 + 28 + unit * 2, 2, std::string("A\0", 2)); // base, text " ", to the face
     ASSERT_EQ(LoadObjects(1, NewClass("CXGraphLabel") + label), CArchiveException::none);
     LOGFONTW font = {};
-    auto* loaded = static_cast<CXGraphLabel*>(graph.m_Objects.GetTail());
+    auto* loaded = LastObject<CXGraphLabel>(graph);
     loaded->m_Font.GetLogFont(&font);
     EXPECT_LT(std::wcslen(std::wstring(font.lfFaceName, 32).c_str()), 32u);
     EXPECT_EQ(font.lfFaceName[0], L'A');

@@ -45,10 +45,6 @@ protected:
         }
         return CArchiveException::none;
     }
-    template <class Object = CXGraphObject> Object* ObjectAt(INT_PTR nIndex)
-    {
-        return static_cast<Object*>(graph.m_Objects.GetAt(graph.m_Objects.FindIndex(nIndex)));
-    }
 };
 
 TSettings OtherSettings()
@@ -221,12 +217,12 @@ TEST_F(GraphFile, AFileInTheReadersFormLoadsItemForItem)
     ASSERT_EQ(graph.m_Measures.size(), 1u);
     EXPECT_EQ(graph.m_Measures[0].nIndex1, 1);
     ASSERT_EQ(graph.m_Objects.GetCount(), 5);
-    EXPECT_EQ(ObjectAt(0), &graph.m_CursorLabel);
-    EXPECT_TRUE(ObjectAt<CXGraphLabel>(1)->m_cText == L"one");
-    EXPECT_EQ(ObjectAt<CXGraphDataNotation>(2)->m_fXVal, 1.5);
-    EXPECT_NE(ObjectAt<CXGraphBitmap>(3)->m_pBitmap, nullptr);
-    EXPECT_TRUE(ObjectAt<CXGraphLabel>(4)->m_cText == L"two\nlines");
-    EXPECT_EQ(ObjectAt(4)->m_pGraph, &graph);
+    EXPECT_EQ(ObjectAt(graph, 0), &graph.m_CursorLabel);
+    EXPECT_TRUE(ObjectAt<CXGraphLabel>(graph, 1)->m_cText == L"one");
+    EXPECT_EQ(ObjectAt<CXGraphDataNotation>(graph, 2)->m_fXVal, 1.5);
+    EXPECT_NE(ObjectAt<CXGraphBitmap>(graph, 3)->m_pBitmap, nullptr);
+    EXPECT_TRUE(ObjectAt<CXGraphLabel>(graph, 4)->m_cText == L"two\nlines");
+    EXPECT_EQ(ObjectAt(graph, 4)->m_pGraph, &graph);
     Paint();
 }
 

@@ -174,7 +174,7 @@ TEST_F(GraphData, ResetAllLeavesTheCursorsLabelAndTheMeasures)
     EXPECT_TRUE(graph.m_XAxes.empty());
     EXPECT_TRUE(graph.m_YAxes.empty());
     ASSERT_EQ(graph.m_Objects.GetCount(), 1);
-    EXPECT_EQ(graph.m_Objects.GetHead(), &graph.m_CursorLabel);
+    EXPECT_EQ(ObjectAt(graph, 0), &graph.m_CursorLabel);
     EXPECT_EQ(graph.m_Measures.size(), 1u);
 }
 

@@ -7,10 +7,15 @@ namespace
 {
 using GraphWindow = GraphTest;
 
-CXGraphObject* ObjectAt(CXGraph& graph, int nIndex)
+class CountedGraph : public CXGraph
 {
-    return static_cast<CXGraphObject*>(graph.m_Objects.GetAt(graph.m_Objects.FindIndex(nIndex)));
-}
+public:
+    explicit CountedGraph(int& nFreed) : m_nFreed(nFreed) {}
+    ~CountedGraph() override { ++m_nFreed; }
+
+private:
+    int& m_nFreed;
+};
 } // namespace
 
 TEST_F(GraphWindow, ItIsASerialClassWithACreator)
@@ -48,7 +53,7 @@ TEST_F(GraphWindow, DefaultsAreThoseOfAFreshGraph)
 TEST_F(GraphWindow, TheCursorsLabelHeadsTheObjects)
 {
     ASSERT_EQ(graph.m_Objects.GetCount(), 1);
-    EXPECT_EQ(graph.m_Objects.GetHead(), &graph.m_CursorLabel);
+    EXPECT_EQ(ObjectAt(graph, 0), &graph.m_CursorLabel);
     EXPECT_EQ(graph.m_CursorLabel.m_rcObject, CRect(100, 100, 200, 175));
     EXPECT_FALSE(graph.m_CursorLabel.m_bVisible);
     EXPECT_FALSE(graph.m_CursorLabel.m_bCanEdit);
@@ -125,29 +130,27 @@ TEST_F(GraphWindow, ANewSizeRepaintsEverything)
 
 TEST_F(GraphWindow, AGraphOutlivesItsWindowUntilItIsFreed)
 {
-    const int before = CXGraph::GetLiveCount();
-    auto* pGraph = new CXGraph;
+    int nFreed = 0;
+    auto* pGraph = new CountedGraph(nFreed);
     pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50),
                    CWnd::FromHandle(host.m_hWnd), 8);
     ::DestroyWindow(pGraph->m_hWnd);
     EXPECT_EQ(pGraph->m_hWnd, nullptr);
-    EXPECT_EQ(CXGraph::GetLiveCount(), before + 1);
+    EXPECT_EQ(nFreed, 0);
     delete pGraph;
-    EXPECT_EQ(CXGraph::GetLiveCount(), before);
+    EXPECT_EQ(nFreed, 1);
 }
 
 TEST(GraphAccount, FreeAllDestroysWhatIsLeftWithItsWindow)
 {
     HostWindow host;
-    const int before = CXGraph::GetLiveCount();
-    ASSERT_EQ(before, 0);
-    auto* pGraph = new CXGraph;
+    int nFreed = 0;
+    auto* pGraph = new CountedGraph(nFreed);
     pGraph->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50),
                    CWnd::FromHandle(host.m_hWnd), 8);
-    new CXGraph; // never had a window
+    new CountedGraph(nFreed); // never had a window
     const HWND hWnd = pGraph->m_hWnd;
-    EXPECT_EQ(CXGraph::GetLiveCount(), 2);
     CXGraph::FreeAll();
-    EXPECT_EQ(CXGraph::GetLiveCount(), 0);
+    EXPECT_EQ(nFreed, 2);
     EXPECT_FALSE(::IsWindow(hWnd));
 }

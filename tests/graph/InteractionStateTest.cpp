@@ -283,7 +283,7 @@ TEST_F(InteractionState, ADragInTheMeasuresStateSpansTwoPoints)
 TEST_F(InteractionState, ANoteIsFramedAndKeepsItsPlace)
 {
     graph.InsertDataNotation(0, 5);
-    auto* note = static_cast<CXGraphDataNotation*>(graph.m_Objects.GetTail());
+    auto* note = LastObject<CXGraphDataNotation>(graph);
     Paint();
     const CRect place = note->m_rcObject;
     const CPoint at = place.CenterPoint();

@@ -22,6 +22,20 @@ inline void PrintTo(const CRect& rect, std::ostream* stream)
     PrintTo(static_cast<const RECT&>(rect), stream);
 }
 
+// The object of that number in the graph's list, the cursor's label first.
+template <class Object = CXGraphObject> Object* ObjectAt(const CXGraph& graph, int nIndex)
+{
+    POSITION place = graph.m_Objects.GetHeadPosition();
+    for (int i = 0; i < nIndex; ++i)
+        (void)graph.m_Objects.GetNext(place);
+    return static_cast<Object*>(graph.m_Objects.GetNext(place));
+}
+
+template <class Object> Object* LastObject(const CXGraph& graph)
+{
+    return ObjectAt<Object>(graph, static_cast<int>(graph.m_Objects.GetCount()) - 1);
+}
+
 class GraphTest : public testing::Test
 {
 protected:

@@ -23,7 +23,7 @@ protected:
     CXGraphDataNotation& Insert(int nIndex)
     {
         graph.InsertDataNotation(0, nIndex);
-        return *static_cast<CXGraphDataNotation*>(graph.m_Objects.GetTail());
+        return *LastObject<CXGraphDataNotation>(graph);
     }
     CPoint PixelOf(double fX, double fY)
     {
@@ -165,7 +165,7 @@ TEST_F(Notation, AClickWithTheCursorPinsOneToThePointUnderIt)
     graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     graph.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
     ASSERT_EQ(graph.m_Objects.GetCount(), 2);
-    const auto& note = *static_cast<CXGraphDataNotation*>(graph.m_Objects.GetTail());
+    const auto& note = *LastObject<CXGraphDataNotation>(graph);
     EXPECT_EQ(note.m_nIndex, 6); // the first point past the cursor
     EXPECT_EQ(note.m_fXVal, 6);
 }

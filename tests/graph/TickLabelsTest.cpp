@@ -22,7 +22,7 @@ protected:
         graph.m_Curves[0].m_bVisible = false;
         for (CXGraphAxis* pAxis : {graph.GetXAxis(0), graph.GetYAxis(0)}) {
             pAxis->m_bAutoScale = pAxis->m_bShowMarker = false;
-            pAxis->m_cLabel.Empty();
+            pAxis->m_cLabel = CString();
             pAxis->SetCurrentRange(0, 10, 2);
         }
         Paint();
@@ -177,21 +177,22 @@ TEST_F(TickLabels, OfAHundredThousandOnlyThoseThatShowAreDrawn)
         pAxis->m_fStep = 1e-4;
         const auto pixels = static_cast<std::size_t>(std::max(Width, Height));
         EXPECT_LE(LabelsOf(*pAxis), 2 * pixels);
-        pAxis->m_cDisplayFmt = CString(L"%.3f") + CString(L'x', 3000);
+        pAxis->m_cDisplayFmt = CString(L"%.3f") + CString(std::wstring(3000, L'x'));
         EXPECT_LE(LabelsOf(*pAxis), 2 * pixels);
     }
 }
 
 TEST_F(TickLabels, TextsAreCutBeyondWhatAnyScreenShows)
 {
-    X().m_cDisplayFmt = CString(L"%.0f") + CString(L'x', 3000);
+    X().m_cDisplayFmt = CString(L"%.0f") + CString(std::wstring(3000, L'x'));
     WatchedCanvas canvas(Width, Height);
     X().Draw(&canvas.dc);
     ASSERT_FALSE(canvas.dc.texts.empty());
     EXPECT_EQ(canvas.dc.texts[0].text, L"0" + std::wstring(1023, L'x'));
     const CFontSelector font(&X().m_LabelFont, &canvas.dc, false);
     EXPECT_EQ(X().GetMaxLabelWidth(&canvas.dc),
-              canvas.dc.GetTextExtent(CString(L"10") + CString(L'x', 1022)).cx + X().m_nTickSize);
+              canvas.dc.GetTextExtent(CString(L"10") + CString(std::wstring(1022, L'x'))).cx +
+                  X().m_nTickSize);
     EXPECT_EQ(X().FormatValue(0).GetLength(), 3001); // what isn't a tick's label stays whole
 }
 

@@ -83,7 +83,7 @@ TEST_F(PieHostile, HugeAnglesTiltsAndDepthsAreDrawnWithoutHarm)
 
 TEST_F(PieHostile, TextsOfAnyLengthAreTaken)
 {
-    const CString longText(L'W', 100000);
+    const CString longText(std::wstring(100000, L'W'));
     pie.InsertItem(longText, longText, 1, Red);
     pie.SetPieChartTitle(longText);
     pie.SetLabelFontName(longText);

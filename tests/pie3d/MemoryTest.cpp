@@ -17,7 +17,7 @@ Gdiplus::GpStatus WINGDIPAPI NoRoom(Gdiplus::GpBitmap*, GDIPCONST Gdiplus::GpRec
     return Gdiplus::OutOfMemory;
 }
 
-const CString longText(L'W', 200); // too long for a string's own room
+const CString longText(std::wstring(200, L'W')); // too long for a string's own room
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #pragma once
 // A top-level window of a host that keeps the notifications it gets, and the host's message loop.
+// A handler sees each message first and returns whether it is done with it.
 
 #include <windows.h>
 
@@ -16,19 +17,27 @@ public:
         LPARAM lParam;
     };
 
-    explicit HostWindow(int nWidth = 900, int nHeight = 700)
+    using Handler = std::function<bool(HWND, UINT, WPARAM, LPARAM)>;
+
+    explicit HostWindow(int nWidth = 900, int nHeight = 700, Handler handler = {},
+                        DWORD nStyle = WS_POPUP | WS_VISIBLE)
+        : m_handler(std::move(handler))
     {
         WNDCLASSW wndclass = {};
         wndclass.lpfnWndProc = &HostWindow::Procedure;
         wndclass.hInstance = ::GetModuleHandleW(nullptr);
         wndclass.lpszClassName = L"VantoplexTestHost";
         ::RegisterClassW(&wndclass); // fails harmlessly the second time
-        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", WS_POPUP | WS_VISIBLE, 0, 0,
+        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", nStyle, 0, 0,
                                    nWidth, nHeight, nullptr, nullptr, wndclass.hInstance, this);
     }
     HostWindow(const HostWindow&) = delete;
     HostWindow& operator=(const HostWindow&) = delete;
-    ~HostWindow() { Destroy(); }
+    ~HostWindow()
+    {
+        m_handler = {};
+        Destroy();
+    }
 
     void Destroy()
     {
@@ -69,8 +78,12 @@ private:
                                     reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams));
         }
         auto* pHost = reinterpret_cast<HostWindow*>(::GetWindowLongPtrW(hWnd, GWLP_USERDATA));
+        if (pHost && pHost->m_handler && pHost->m_handler(hWnd, message, wParam, lParam))
+            return 0;
         if (pHost && message >= WM_USER && message < 0xC000)
             pHost->m_notifications.push_back({message, wParam, lParam});
         return ::DefWindowProcW(hWnd, message, wParam, lParam);
     }
+
+    Handler m_handler;
 };

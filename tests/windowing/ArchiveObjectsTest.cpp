@@ -64,7 +64,7 @@ TEST(ArchiveObjects, NewClassThenReferencesInOneSequence)
         ar.WriteObject(&second); // object 3
         ar.WriteObject(&third);  // class 4, object 5
         ar.WriteObject(&second);
-        ar << &third;
+        ar.WriteObject(&third);
     });
     EXPECT_EQ(bytes, NewNote + One + Bytes("\x01\x80") + Two +
                          Bytes("\xFF\xFF\x03\0\x09\0CLongNote\0\0\0\0\xFF\xFE\xFF\x01x\0") +

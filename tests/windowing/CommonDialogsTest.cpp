@@ -18,7 +18,7 @@ protected:
     void SetUp() override
     {
         ::SetActiveWindow(m_host.Handle());
-        DrainQueue();
+        HostWindow::Pump();
     }
     // Presses a button of the dialog over `owner`; false while there is none.
     [[nodiscard]] static bool Press(HWND owner, int button)
@@ -95,12 +95,12 @@ TEST_F(CommonDialog, EveryOwnerIsKeptFromInput)
     CColorDialog dialog(0, 0, &outer);
     const CModalSteps steps({[&] {
         const bool open = Press(outer, IDCANCEL);
-        EXPECT_TRUE(!open || !outer.IsWindowEnabled());
+        EXPECT_TRUE(!open || !::IsWindowEnabled(outer));
         EXPECT_TRUE(!open || !::IsWindowEnabled(m_host.Handle()));
         return open;
     }});
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    EXPECT_TRUE(outer.IsWindowEnabled());
+    EXPECT_TRUE(::IsWindowEnabled(outer));
     EXPECT_TRUE(::IsWindowEnabled(m_host.Handle()));
 }
 

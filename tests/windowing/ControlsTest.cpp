@@ -116,16 +116,16 @@ TEST(Controls, ToolTipFindsTheRectangleUnderThePointer)
         return std::wstring(text);
     };
     CPoint point(70, 20);
-    panel.ClientToScreen(&point);
+    ::ClientToScreen(panel, &point);
     ::SetCursorPos(point.x, point.y);
     ::SetActiveWindow(::GetParent(panel));
-    DrainQueue();
+    HostWindow::Pump();
     MSG move{panel, WM_MOUSEMOVE, 0, MAKELPARAM(70, 20), 0, {}};
     tips.SendMessage(TTM_SETDELAYTIME, TTDT_INITIAL, 0);
     tips.RelayEvent(&move);
     for (int wait = 0; wait < 300 && !tips.IsWindowVisible(); ++wait) {
         ::Sleep(10);
-        DrainQueue();
+        HostWindow::Pump();
         tips.RelayEvent(&move);
     }
     EXPECT_EQ(current(), L"right");

@@ -91,7 +91,7 @@ protected:
         m_dialog.m_dtDate = COleDateTime(2024, 2, 29, 13, 14, 15);
         ASSERT_TRUE(m_dialog.Create(30000, m_host));
         m_dialog.ShowWindow(SW_SHOW);
-        DrainQueue();
+        HostWindow::Pump();
     }
     // The text is refused with one box, the focus is in the control and its text selected, and
     // no value behind it was taken.
@@ -340,19 +340,10 @@ TEST(OleDateTime, HoldsDatesInTheOleForm)
 
 TEST(OleDateTime, DateThatDoesNotExistIsInvalid)
 {
-    EXPECT_EQ(COleDateTime(2023, 2, 29, 0, 0, 0).GetStatus(), COleDateTime::invalid);
-    EXPECT_EQ(COleDateTime(2023, 2, 28, 24, 0, 0).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ(COleDateTime(2023, 2, 29, 0, 0, 0).m_status, COleDateTime::invalid);
+    EXPECT_EQ(COleDateTime(2023, 2, 28, 24, 0, 0).m_status, COleDateTime::invalid);
     EXPECT_EQ(COleDateTime(2023, 2, 29, 0, 0, 0).GetYear(), COleDateTime::error);
     SYSTEMTIME time{};
     EXPECT_FALSE(COleDateTime(1e300).GetAsSystemTime(time));
     EXPECT_EQ(time.wYear, 0);
-}
-
-TEST(OleDateTime, SecondsSinceTheEpochAreLocalTime)
-{
-    SYSTEMTIME now{};
-    ::GetLocalTime(&now);
-    const COleDateTime date(::_time64(nullptr));
-    EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
-    EXPECT_NEAR(date, COleDateTime(now), 5.0 / 86400.0);
 }

@@ -106,7 +106,7 @@ TEST_F(Dialog, NestedDialogKeepsBothOwnersFromInput)
                              },
                              [&] {
                                  EXPECT_EQ(::GetWindow(inner, GW_OWNER), outer.m_hWnd);
-                                 EXPECT_FALSE(outer.IsWindowEnabled());
+                                 EXPECT_FALSE(::IsWindowEnabled(outer));
                                  EXPECT_FALSE(::IsWindowEnabled(m_host.Handle()));
                              },
                              [&] { inner.EndDialog(2); }});
@@ -333,10 +333,10 @@ TEST_F(Dialog, HostsOwnLoopGivesAModelessDialogItsKeys)
     page.ShowWindow(SW_SHOW);
     ::SetFocus(::GetDlgItem(page, 101));
     page.Press(VK_TAB);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDOK);
     page.Press(VK_RETURN);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(page.m_nOK, 1);
 }
 

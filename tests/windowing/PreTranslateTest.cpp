@@ -53,7 +53,7 @@ protected:
     {
         ASSERT_TRUE(m_outer.Create(nullptr, nullptr, WS_VISIBLE, Place, m_host, 1));
         ASSERT_TRUE(m_inner.Create(nullptr, nullptr, WS_VISIBLE, Place, &m_outer, 2));
-        DrainQueue();
+        HostWindow::Pump();
     }
     CHostWindow m_host;
     CWatcher m_outer;
@@ -65,7 +65,7 @@ protected:
 TEST_F(PreTranslate, HostLoopOffersMessagesFromTheTargetUpwards)
 {
     m_inner.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_offered, std::vector<HWND>{m_inner});
     EXPECT_EQ(m_outer.m_offered, std::vector<HWND>{m_inner});
     EXPECT_EQ(m_inner.m_delivered, std::vector<WPARAM>{5});
@@ -75,7 +75,7 @@ TEST_F(PreTranslate, TakenMessageIsNeitherOfferedFurtherNorDispatched)
 {
     m_inner.m_bTake = true;
     m_inner.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_offered.size(), 1u);
     EXPECT_TRUE(m_outer.m_offered.empty());
     EXPECT_TRUE(m_inner.m_delivered.empty());
@@ -85,7 +85,7 @@ TEST_F(PreTranslate, ParentMayTakeWhatTheChildLets)
 {
     m_outer.m_bTake = true;
     m_inner.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_offered.size(), 1u);
     EXPECT_TRUE(m_inner.m_delivered.empty());
 }
@@ -95,14 +95,14 @@ TEST_F(PreTranslate, ForeignChildOfOursIsWatchedToo)
     const HWND edit =
         ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD, 0, 0, 5, 5, m_inner, nullptr, nullptr, nullptr);
     ::PostMessageW(edit, WM_WATCHED, 0, 0);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_offered, std::vector<HWND>{edit});
 }
 
 TEST_F(PreTranslate, OtherWindowsOfTheHostAreNotOffered)
 {
     ::PostMessageW(m_host.Handle(), WM_WATCHED, 0, 0);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_TRUE(m_outer.m_offered.empty());
 }
 
@@ -112,7 +112,7 @@ TEST_F(PreTranslate, LookingWithoutRemovingOffersNothing)
     MSG message;
     EXPECT_TRUE(::PeekMessageW(&message, nullptr, WM_WATCHED, WM_WATCHED, PM_NOREMOVE));
     EXPECT_TRUE(m_inner.m_offered.empty());
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_offered.size(), 1u);
 }
 
@@ -137,7 +137,7 @@ TEST_F(PreTranslate, LoopInsideOfAMessageOffersOnceAsWell)
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
             if (message == WM_USER + 31)
-                DrainQueue(); // as a message box does while a loop of ours waits for messages
+                HostWindow::Pump(); // as a message box does while a loop of ours waits for messages
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
@@ -161,7 +161,7 @@ TEST_F(PreTranslate, ExceptionEndsAtTheHostsLoopAndTheMessageGoesOn)
 {
     m_inner.m_bThrow = true;
     m_inner.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_delivered.size(), 1u);
 }
 
@@ -169,12 +169,12 @@ TEST_F(PreTranslate, WindowMayGoAwayWhileItLooks)
 {
     m_inner.m_bDestroy = true;
     m_inner.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_inner.m_hWnd, nullptr);
     EXPECT_TRUE(m_inner.m_delivered.empty());
     m_outer.m_bDestroy = true;
     m_outer.PostMessage(WM_WATCHED, 5);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_EQ(m_outer.m_hWnd, nullptr);
     EXPECT_EQ(AfxGetThreadState().hMessageHook, nullptr) << "nothing is left to watch for";
 }

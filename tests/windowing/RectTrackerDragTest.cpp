@@ -37,7 +37,7 @@ public:
         std::vector<COLORREF> pixels;
         for (int y = 0; y < 150; ++y)
             for (int x = 0; x < 200; ++x)
-                pixels.push_back(dc.GetPixel(x, y));
+                pixels.push_back(::GetPixel(dc, x, y));
         return pixels;
     }
 };
@@ -58,8 +58,8 @@ public:
         finalErase = m_bFinalErase != FALSE;
         CRectTracker::DrawTrackerRect(lpRect, pWndClipTo, pDC, pWnd);
         CClientDC dc(pWnd);
-        seen.push_back(dc.GetPixel(lpRect->left + 1, lpRect->top) !=
-                       dc.GetPixel(lpRect->left, lpRect->top));
+        seen.push_back(::GetPixel(dc, lpRect->left + 1, lpRect->top) !=
+                       ::GetPixel(dc, lpRect->left, lpRect->top));
     }
     void OnChangedRect(const CRect& rectOld) override { changedFrom.push_back(rectOld); }
 
@@ -300,7 +300,7 @@ TEST_F(RectTrackerDrag, ThePointerTellsWhatAPressWouldDo)
                            {{50, 71}, IDC_SIZENS},   {{18, 50}, IDC_SIZEWE},   {{50, 50}, IDC_SIZEALL}};
     for (const TCase& one : cases) {
         CPoint screen = one.point;
-        window.ClientToScreen(&screen);
+        ::ClientToScreen(window, &screen);
         ::SetCursorPos(screen.x, screen.y);
         ::SetCursor(nullptr);
 
@@ -311,7 +311,7 @@ TEST_F(RectTrackerDrag, ThePointerTellsWhatAPressWouldDo)
     }
     EXPECT_FALSE(tracker.SetCursor(&window, HTCAPTION)) << "not in the client area";
     CPoint beside(150, 100);
-    window.ClientToScreen(&beside);
+    ::ClientToScreen(window, &beside);
     ::SetCursorPos(beside.x, beside.y);
     EXPECT_FALSE(tracker.SetCursor(&window, HTCLIENT));
 }

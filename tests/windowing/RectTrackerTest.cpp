@@ -35,7 +35,7 @@ public:
     }
     ~Look() { m_DC.SelectObject(m_Old); }
 
-    COLORREF At(int x, int y) const { return m_DC.GetPixel(x, y); }
+    COLORREF At(int x, int y) const { return ::GetPixel(m_DC, x, y); }
 
     // Whether both black and another colour, or the only colour, are in the rectangle.
     bool Is(const CRect& rect, COLORREF colour) const
@@ -62,7 +62,7 @@ TEST(RectTracker, StartsEmptyWithoutStyle)
 {
     const CRectTracker tracker;
 
-    EXPECT_TRUE(tracker.m_rect.IsRectNull());
+    EXPECT_EQ(tracker.m_rect, CRect());
     EXPECT_EQ(tracker.m_nStyle, 0u);
     EXPECT_GT(tracker.m_nHandleSize, 0);
     EXPECT_EQ(tracker.m_sizeMin, CSize(2 * tracker.m_nHandleSize, 2 * tracker.m_nHandleSize));

@@ -24,7 +24,11 @@ protected:
         ++m_nClicks;
         return m_bHandled;
     }
-    afx_msg void OnFocus() { ++m_nFocus; }
+    afx_msg BOOL OnFocus()
+    {
+        ++m_nFocus;
+        return TRUE;
+    }
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
     {
         if (message != WM_DRAWITEM && message != WM_MEASUREITEM)
@@ -37,7 +41,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(CClickable, CWnd)
 ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClicked)
-ON_CONTROL_REFLECT(BN_SETFOCUS, OnFocus)
+ON_CONTROL_REFLECT_EX(BN_SETFOCUS, OnFocus)
 END_MESSAGE_MAP()
 
 class CPanel : public CWnd

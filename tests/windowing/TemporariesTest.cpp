@@ -94,7 +94,7 @@ TEST_F(TemporaryHandles, ThoseOutsideOfAnyCallStayUntilTheNextMessageIsFetched)
     EXPECT_TRUE(PenIsKept());
     EXPECT_TRUE(ContextIsKept());
     ::PostMessageW(host.Handle(), WM_NULL, 0, 0);
-    DrainQueue();
+    HostWindow::Pump();
     EXPECT_FALSE(PenIsKept());
     EXPECT_FALSE(ContextIsKept());
 }

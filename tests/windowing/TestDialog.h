@@ -63,7 +63,7 @@ protected:
     void SetUp() override
     {
         ::SetActiveWindow(m_host.Handle());
-        DrainQueue();
+        HostWindow::Pump();
     }
     // What must hold after every end of a modal dialog.
     void TearDown() override

@@ -34,8 +34,6 @@ public:
         }
     };
 
-    static const CLSID& WINAPI GetObjectCLSID() { return *pclsid; }
-
     // A new object with one reference, asked for Q.
     template <class Q> static HRESULT CreateInstance(Q** pp)
     {

@@ -53,10 +53,6 @@ void CComModule::Term()
         m_termFuncs.pop_back();
         last.pFunc(last.dw);
     }
-    if (m_pGIT) {
-        m_pGIT->Release();
-        m_pGIT = nullptr;
-    }
     m_csObjMap.Term();
     m_csTypeInfoHolder.Term();
     m_csStaticDataInit.Term();
@@ -107,26 +103,6 @@ HRESULT CComModule::MakeClassObject(_ATL_OBJMAP_ENTRY& entry)
     if (SUCCEEDED(result))
         entry.pCF = static_cast<IUnknown*>(made);
     return result;
-}
-
-HRESULT CComModule::GetGITPtr(IGlobalInterfaceTable** ppGIT)
-{
-    if (!ppGIT)
-        return E_POINTER;
-    *ppGIT = nullptr;
-    const CComCritSecLock lock(m_csStaticDataInit);
-    if (FAILED(lock.Result()))
-        return lock.Result();
-    if (!m_pGIT) {
-        const HRESULT result =
-            ::CoCreateInstance(CLSID_StdGlobalInterfaceTable, nullptr, CLSCTX_INPROC_SERVER,
-                               __uuidof(IGlobalInterfaceTable), reinterpret_cast<void**>(&m_pGIT));
-        if (FAILED(result))
-            return result;
-    }
-    m_pGIT->AddRef();
-    *ppGIT = m_pGIT;
-    return S_OK;
 }
 
 HRESULT CComModule::UpdateClasses(BOOL bRegister, const CLSID* pCLSID)

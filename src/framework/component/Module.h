@@ -82,9 +82,6 @@ public:
     // E_POINTER without ppv, CLASS_E_CLASSNOTAVAILABLE for a class that no row has.
     HRESULT GetClassObject(REFCLSID rclsid, REFIID riid, LPVOID* ppv);
 
-    // The process's table of interface pointers, made at the first call and held until Term.
-    HRESULT GetGITPtr(IGlobalInterfaceTable** ppGIT);
-
     // Every class of the map in its order (or the one given), then the type library. The first
     // failure ends it.
     HRESULT RegisterServer(BOOL bRegTypeLib = FALSE, const CLSID* pCLSID = nullptr);
@@ -103,7 +100,6 @@ private:
     HRESULT UpdateClasses(BOOL bRegister, const CLSID* pCLSID);
 
     std::vector<TTermFunc> m_termFuncs;
-    IGlobalInterfaceTable* m_pGIT = nullptr;
 };
 
 extern CComModule* _pModule;

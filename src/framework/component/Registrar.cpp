@@ -203,16 +203,6 @@ HRESULT CRegObject::ResourceUnregister(HINSTANCE module, UINT nID, LPCWSTR szTyp
     return RunResource(module, nID, szType, false);
 }
 
-HRESULT CRegObject::StringRegister(std::wstring_view script)
-{
-    return Run(Narrowed(script), true);
-}
-
-HRESULT CRegObject::StringUnregister(std::wstring_view script)
-{
-    return Run(Narrowed(script), false);
-}
-
 std::wstring CRegObject::EscapeSingleQuotes(std::wstring_view text)
 {
     const std::u16string escaped = RegistrarScript::EscapeSingleQuotes(Narrowed(text));

@@ -21,20 +21,18 @@ class CRegObject
 {
 public:
     void AddReplacement(std::wstring_view key, std::wstring_view item);
-    void ClearReplacements() noexcept { m_replacements.Clear(); }
 
     // A script in the module's resources: text of that type and id.
     HRESULT ResourceRegister(HINSTANCE module, UINT nID, LPCWSTR szType);
     HRESULT ResourceUnregister(HINSTANCE module, UINT nID, LPCWSTR szType);
 
-    HRESULT StringRegister(std::wstring_view script);
-    HRESULT StringUnregister(std::wstring_view script);
+    // The script itself.
+    HRESULT Run(std::u16string_view script, bool bRegister) const;
 
     // Makes a text fit for the quotes of a script.
     [[nodiscard]] static std::wstring EscapeSingleQuotes(std::wstring_view text);
 
 private:
-    HRESULT Run(std::u16string_view script, bool bRegister) const;
     HRESULT RunResource(HINSTANCE module, UINT nID, LPCWSTR szType, bool bRegister) const;
 
     RegistrarScript::Replacements m_replacements;

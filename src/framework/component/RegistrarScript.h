@@ -65,7 +65,6 @@ class Replacements
 {
 public:
     void Add(std::u16string_view name, std::u16string_view text);
-    void Clear() noexcept { m_texts.clear(); }
     [[nodiscard]] const std::u16string* Find(std::u16string_view name) const;
 
 private:

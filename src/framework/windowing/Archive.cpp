@@ -128,12 +128,6 @@ void CArchive::Close()
     m_pFile = nullptr;
 }
 
-void CArchive::Abort() noexcept
-{
-    m_nCur = m_nEnd = 0;
-    m_pFile = nullptr;
-}
-
 ULONGLONG CArchive::GetRemaining() const
 {
     RequireLoading();

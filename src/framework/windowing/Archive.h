@@ -29,7 +29,6 @@ public:
 
     [[nodiscard]] BOOL IsLoading() const noexcept { return (m_nMode & load) != 0; }
     [[nodiscard]] BOOL IsStoring() const noexcept { return (m_nMode & load) == 0; }
-    [[nodiscard]] CFile* GetFile() const noexcept { return m_pFile; }
 
     // Reads what there is, at most nMax bytes, and returns the number.
     UINT Read(void* lpBuf, UINT nMax);
@@ -37,8 +36,6 @@ public:
     // Storing: writes the buffer out. Loading: returns unread bytes to the file.
     void Flush();
     void Close();
-    // Drops the buffer and never touches the file again.
-    void Abort() noexcept;
 
     // Reads exactly nCount bytes; less is an end of the file.
     void ReadExactly(void* lpBuf, UINT nCount);
@@ -66,7 +63,6 @@ public:
     CArchive& operator<<(ULONGLONG value) { return Put(value); }
     CArchive& operator<<(bool value) { return Put(static_cast<BYTE>(value ? 1 : 0)); }
     CArchive& operator<<(const CString& text);
-    CArchive& operator<<(const CObject* pOb);
 
     CArchive& operator>>(BYTE& value) { return Get(value); }
     CArchive& operator>>(WORD& value) { return Get(value); }

@@ -11,12 +11,6 @@
 
 using ArchiveEncoding::ETagKind;
 
-CArchive& CArchive::operator<<(const CObject* pOb)
-{
-    WriteObject(pOb);
-    return *this;
-}
-
 DWORD CArchive::NextNumber()
 {
     if (m_nNumbers >= ArchiveEncoding::MaxNumber)

@@ -28,24 +28,9 @@ int CDC::GetBkMode() const noexcept
     return ::GetBkMode(m_hAttribDC);
 }
 
-int CDC::GetROP2() const noexcept
-{
-    return ::GetROP2(m_hAttribDC);
-}
-
 COLORREF CDC::GetTextColor() const noexcept
 {
     return ::GetTextColor(m_hAttribDC);
-}
-
-UINT CDC::GetTextAlign() const noexcept
-{
-    return ::GetTextAlign(m_hAttribDC);
-}
-
-int CDC::GetPolyFillMode() const noexcept
-{
-    return ::GetPolyFillMode(m_hAttribDC);
 }
 
 COLORREF CDC::SetBkColor(COLORREF crColor)
@@ -73,42 +58,6 @@ int CDC::SetPolyFillMode(int nPolyFillMode) noexcept
     return OnBoth(*this, 0, [=](HDC hDC) { return ::SetPolyFillMode(hDC, nPolyFillMode); });
 }
 
-int CDC::SetStretchBltMode(int nStretchMode) noexcept
-{
-    return OnBoth(*this, 0, [=](HDC hDC) { return ::SetStretchBltMode(hDC, nStretchMode); });
-}
-
-UINT CDC::SetTextAlign(UINT nFlags) noexcept
-{
-    return OnBoth<UINT>(*this, GDI_ERROR, [=](HDC hDC) { return ::SetTextAlign(hDC, nFlags); });
-}
-
-COLORREF CDC::GetNearestColor(COLORREF crColor) const noexcept
-{
-    return ::GetNearestColor(m_hAttribDC, crColor);
-}
-
-CPoint CDC::SetBrushOrg(int x, int y) noexcept
-{
-    CPoint old;
-    ::SetBrushOrgEx(m_hDC, x, y, &old);
-    return old;
-}
-
-CPoint CDC::GetWindowOrg() const noexcept
-{
-    CPoint origin;
-    ::GetWindowOrgEx(m_hAttribDC, &origin);
-    return origin;
-}
-
-CPoint CDC::GetViewportOrg() const noexcept
-{
-    CPoint origin;
-    ::GetViewportOrgEx(m_hAttribDC, &origin);
-    return origin;
-}
-
 CPoint CDC::SetWindowOrg(int x, int y)
 {
     return OnBoth(*this, CPoint(), [=](HDC hDC) {
@@ -125,21 +74,6 @@ CPoint CDC::SetViewportOrg(int x, int y)
         ::SetViewportOrgEx(hDC, x, y, &old);
         return old;
     });
-}
-
-int CDC::SetMapMode(int nMapMode)
-{
-    return OnBoth(*this, 0, [=](HDC hDC) { return ::SetMapMode(hDC, nMapMode); });
-}
-
-void CDC::DPtoLP(LPPOINT lpPoints, int nCount) const noexcept
-{
-    ::DPtoLP(m_hAttribDC, lpPoints, nCount);
-}
-
-void CDC::DPtoLP(LPRECT lpRect) const noexcept
-{
-    ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 void CDC::LPtoDP(LPPOINT lpPoints, int nCount) const noexcept
@@ -167,22 +101,6 @@ int CDC::SelectClipRgn(CRgn* pRgn, int nMode)
 {
     const HRGN region = pRgn ? static_cast<HRGN>(*pRgn) : nullptr;
     return OnBoth(*this, ERROR, [=](HDC hDC) { return ::ExtSelectClipRgn(hDC, region, nMode); });
-}
-
-int CDC::ExcludeClipRect(LPCRECT lpRect)
-{
-    const CRect rect(lpRect);
-    return OnBoth(*this, ERROR, [&](HDC hDC) {
-        return ::ExcludeClipRect(hDC, rect.left, rect.top, rect.right, rect.bottom);
-    });
-}
-
-int CDC::IntersectClipRect(LPCRECT lpRect)
-{
-    const CRect rect(lpRect);
-    return OnBoth(*this, ERROR, [&](HDC hDC) {
-        return ::IntersectClipRect(hDC, rect.left, rect.top, rect.right, rect.bottom);
-    });
 }
 
 BOOL CDC::PtVisible(int x, int y) const

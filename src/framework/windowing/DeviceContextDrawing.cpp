@@ -27,12 +27,6 @@ BOOL CDC::LineTo(int x, int y)
     return ::LineTo(m_hDC, x, y);
 }
 
-BOOL CDC::Arc(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
-{
-    return ::Arc(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y,
-                 ptEnd.x, ptEnd.y);
-}
-
 BOOL CDC::Polyline(const POINT* lpPoints, int nCount)
 {
     return ::Polyline(m_hDC, lpPoints, nCount);
@@ -53,25 +47,9 @@ BOOL CDC::Rectangle(int x1, int y1, int x2, int y2)
     return ::Rectangle(m_hDC, x1, y1, x2, y2);
 }
 
-BOOL CDC::Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
-{
-    return ::Pie(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y,
-                 ptEnd.x, ptEnd.y);
-}
-
 void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush)
 {
     ::FillRect(m_hDC, lpRect, *pBrush);
-}
-
-void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush)
-{
-    ::FrameRect(m_hDC, lpRect, *pBrush);
-}
-
-void CDC::InvertRect(LPCRECT lpRect)
-{
-    ::InvertRect(m_hDC, lpRect);
 }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF crColor)
@@ -121,36 +99,6 @@ BOOL CDC::StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSr
                         nSrcWidth, nSrcHeight, dwRop);
 }
 
-BOOL CDC::GradientFill(TRIVERTEX* pVertices, ULONG nVertices, void* pMesh, ULONG nMeshElements,
-                       DWORD dwMode)
-{
-    return ::GradientFill(m_hDC, pVertices, nVertices, pMesh, nMeshElements, dwMode);
-}
-
-BOOL CDC::AlphaBlend(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC* pSrcDC, int xSrc,
-                     int ySrc, int nSrcWidth, int nSrcHeight, BLENDFUNCTION blend)
-{
-    return ::AlphaBlend(m_hDC, xDest, yDest, nDestWidth, nDestHeight, pSrcDC->m_hDC, xSrc, ySrc,
-                        nSrcWidth, nSrcHeight, blend);
-}
-
-BOOL CDC::TransparentBlt(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC* pSrcDC, int xSrc,
-                         int ySrc, int nSrcWidth, int nSrcHeight, UINT clrTransparent)
-{
-    return ::TransparentBlt(m_hDC, xDest, yDest, nDestWidth, nDestHeight, pSrcDC->m_hDC, xSrc, ySrc,
-                            nSrcWidth, nSrcHeight, clrTransparent);
-}
-
-COLORREF CDC::GetPixel(int x, int y) const noexcept
-{
-    return ::GetPixel(m_hDC, x, y);
-}
-
-COLORREF CDC::SetPixel(int x, int y, COLORREF crColor) noexcept
-{
-    return ::SetPixel(m_hDC, x, y, crColor);
-}
-
 BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 {
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
@@ -197,37 +145,7 @@ CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const noexcept
     return size;
 }
 
-BOOL CDC::GetTextMetrics(LPTEXTMETRIC lpMetrics) const noexcept
-{
-    return ::GetTextMetrics(m_hAttribDC, lpMetrics);
-}
-
 int CDC::Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData)
 {
     return ::Escape(m_hDC, nEscape, nCount, lpszInData, lpOutData);
-}
-
-int CDC::StartDoc(const DOCINFO* lpDocInfo)
-{
-    return ::StartDoc(m_hDC, lpDocInfo);
-}
-
-int CDC::StartPage()
-{
-    return ::StartPage(m_hDC);
-}
-
-int CDC::EndPage()
-{
-    return ::EndPage(m_hDC);
-}
-
-int CDC::EndDoc()
-{
-    return ::EndDoc(m_hDC);
-}
-
-int CDC::AbortDoc()
-{
-    return ::AbortDoc(m_hDC);
 }

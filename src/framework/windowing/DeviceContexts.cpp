@@ -54,11 +54,6 @@ CDC* CDC::FromHandle(HDC hDC)
     });
 }
 
-void CDC::DeleteTempMap() noexcept
-{
-    AfxFreeTemporaryDCs(::GetCurrentThreadId());
-}
-
 BOOL CDC::Attach(HDC hDC)
 {
     if (!hDC)
@@ -78,13 +73,6 @@ HDC CDC::Detach() noexcept
     m_hDC = nullptr;
     ReleaseAttribDC();
     return handle;
-}
-
-BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
-                   const void* lpInitData)
-{
-    return Attach(
-        ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC)
@@ -203,24 +191,9 @@ UINT CDC::RealizePalette()
     return ::RealizePalette(m_hDC);
 }
 
-CPen* CDC::GetCurrentPen() const
-{
-    return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hAttribDC, OBJ_PEN)));
-}
-
-CBrush* CDC::GetCurrentBrush() const
-{
-    return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hAttribDC, OBJ_BRUSH)));
-}
-
 CFont* CDC::GetCurrentFont() const
 {
     return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hAttribDC, OBJ_FONT)));
-}
-
-CBitmap* CDC::GetCurrentBitmap() const
-{
-    return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hAttribDC, OBJ_BITMAP)));
 }
 
 namespace

@@ -22,7 +22,7 @@ public:
 
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
-    // The context is that of a printer's page: set by Attach and CreateDC from the device's
+    // The context is that of a printer's page: set by Attach from the device's
     // technology, and by whoever renders a page into something else.
     BOOL m_bPrinting = FALSE;
 
@@ -31,15 +31,11 @@ public:
     [[nodiscard]] BOOL IsPrinting() const noexcept { return m_bPrinting; }
     // The CDC attached to the handle last, else a temporary one that owns nothing.
     static CDC* FromHandle(HDC hDC);
-    // Frees the temporary contexts of this thread; nobody may hold one then.
-    static void DeleteTempMap() noexcept;
 
     // Both handles become hDC. FALSE for null, with nothing changed.
     BOOL Attach(HDC hDC);
     // The caller owns the result; both handles are null then.
     HDC Detach() noexcept;
-    BOOL CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
-                  const void* lpInitData);
     // A memory context like pDC, or like the screen for null.
     BOOL CreateCompatibleDC(CDC* pDC);
     BOOL DeleteDC() noexcept;
@@ -65,38 +61,23 @@ public:
     UINT RealizePalette();
     // A pen, brush, font or region by its handle, for one who has no use for the old one's object.
     HGDIOBJ SelectHandle(HGDIOBJ hObject) const noexcept;
-    [[nodiscard]] CPen* GetCurrentPen() const;
-    [[nodiscard]] CBrush* GetCurrentBrush() const;
     [[nodiscard]] CFont* GetCurrentFont() const;
-    [[nodiscard]] CBitmap* GetCurrentBitmap() const;
 
     // Attributes. Setters return the value before.
     [[nodiscard]] COLORREF GetBkColor() const noexcept;
     [[nodiscard]] int GetBkMode() const noexcept;
-    [[nodiscard]] int GetROP2() const noexcept;
     [[nodiscard]] COLORREF GetTextColor() const noexcept;
-    [[nodiscard]] UINT GetTextAlign() const noexcept;
-    [[nodiscard]] int GetPolyFillMode() const noexcept;
     virtual COLORREF SetBkColor(COLORREF crColor);
     virtual COLORREF SetTextColor(COLORREF crColor);
     int SetBkMode(int nBkMode) noexcept;
     int SetROP2(int nDrawMode) noexcept;
     int SetPolyFillMode(int nPolyFillMode) noexcept;
-    int SetStretchBltMode(int nStretchMode) noexcept;
-    UINT SetTextAlign(UINT nFlags) noexcept;
-    COLORREF GetNearestColor(COLORREF crColor) const noexcept;
-    CPoint SetBrushOrg(int x, int y) noexcept;
 
     // Coordinates.
-    [[nodiscard]] CPoint GetWindowOrg() const noexcept;
-    [[nodiscard]] CPoint GetViewportOrg() const noexcept;
     virtual CPoint SetWindowOrg(int x, int y);
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     virtual CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
-    virtual int SetMapMode(int nMapMode);
-    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const noexcept;
-    void DPtoLP(LPRECT lpRect) const noexcept;
     void LPtoDP(LPPOINT lpPoints, int nCount = 1) const noexcept;
     void LPtoDP(LPRECT lpRect) const noexcept;
 
@@ -104,8 +85,6 @@ public:
     virtual int GetClipBox(LPRECT lpRect) const;
     virtual int SelectClipRgn(CRgn* pRgn);
     int SelectClipRgn(CRgn* pRgn, int nMode);
-    virtual int ExcludeClipRect(LPCRECT lpRect);
-    virtual int IntersectClipRect(LPCRECT lpRect);
     virtual BOOL PtVisible(int x, int y) const;
     BOOL PtVisible(POINT point) const { return PtVisible(point.x, point.y); }
     virtual BOOL RectVisible(LPCRECT lpRect) const;
@@ -116,7 +95,6 @@ public:
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Arc(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
     BOOL Polyline(const POINT* lpPoints, int nCount);
     BOOL Polygon(const POINT* lpPoints, int nCount);
     BOOL Ellipse(int x1, int y1, int x2, int y2);
@@ -129,12 +107,9 @@ public:
     {
         return Rectangle(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
     }
-    BOOL Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
 
     // Fills and frames. FillSolidRect leaves crColor as the background colour.
     void FillRect(LPCRECT lpRect, CBrush* pBrush);
-    void FrameRect(LPCRECT lpRect, CBrush* pBrush);
-    void InvertRect(LPCRECT lpRect);
     void FillSolidRect(LPCRECT lpRect, COLORREF crColor);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor);
     void DrawFocusRect(LPCRECT lpRect);
@@ -146,14 +121,6 @@ public:
     BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
     BOOL StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc,
                     int nSrcWidth, int nSrcHeight, DWORD dwRop);
-    BOOL GradientFill(TRIVERTEX* pVertices, ULONG nVertices, void* pMesh, ULONG nMeshElements,
-                      DWORD dwMode);
-    BOOL AlphaBlend(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC* pSrcDC, int xSrc,
-                    int ySrc, int nSrcWidth, int nSrcHeight, BLENDFUNCTION blend);
-    BOOL TransparentBlt(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC* pSrcDC, int xSrc,
-                        int ySrc, int nSrcWidth, int nSrcHeight, UINT clrTransparent);
-    COLORREF GetPixel(int x, int y) const noexcept;
-    COLORREF SetPixel(int x, int y, COLORREF crColor) noexcept;
 
     // Text.
     virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
@@ -177,15 +144,8 @@ public:
     {
         return GetTextExtent(str, str.GetLength());
     }
-    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const noexcept;
 
-    // Print jobs.
     virtual int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData);
-    int StartDoc(const DOCINFO* lpDocInfo);
-    int StartPage();
-    int EndPage();
-    int EndDoc();
-    int AbortDoc();
 
 private:
     friend class HandleTable<CDC>;

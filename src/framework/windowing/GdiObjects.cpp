@@ -75,21 +75,6 @@ int CGdiObject::GetObject(int nCount, LPVOID lpObject) const noexcept
     return ::GetObject(m_hObject, nCount, lpObject);
 }
 
-UINT CGdiObject::GetObjectType() const noexcept
-{
-    return ::GetObjectType(m_hObject);
-}
-
-BOOL CGdiObject::CreateStockObject(int nIndex)
-{
-    return Attach(::GetStockObject(nIndex));
-}
-
-BOOL CGdiObject::UnrealizeObject() noexcept
-{
-    return ::UnrealizeObject(m_hObject);
-}
-
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject)
 {
     return FindGdiObject<CGdiObject>(hObject);
@@ -104,16 +89,6 @@ CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor)
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
 {
     return Attach(::CreatePen(nPenStyle, nWidth, crColor));
-}
-
-BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen)
-{
-    return Attach(::CreatePenIndirect(lpLogPen));
-}
-
-int CPen::GetLogPen(LOGPEN* pLogPen) const noexcept
-{
-    return GetObject(sizeof *pLogPen, pLogPen);
 }
 
 CPen* CPen::FromHandle(HPEN hPen)
@@ -141,21 +116,6 @@ BOOL CBrush::CreateSolidBrush(COLORREF crColor)
 BOOL CBrush::CreateHatchBrush(int nIndex, COLORREF crColor)
 {
     return Attach(::CreateHatchBrush(nIndex, crColor));
-}
-
-BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush)
-{
-    return Attach(::CreateBrushIndirect(lpLogBrush));
-}
-
-BOOL CBrush::CreateSysColorBrush(int nIndex)
-{
-    return Attach(::GetSysColorBrush(nIndex));
-}
-
-int CBrush::GetLogBrush(LOGBRUSH* pLogBrush) const noexcept
-{
-    return GetObject(sizeof *pLogBrush, pLogBrush);
 }
 
 CBrush* CBrush::FromHandle(HBRUSH hBrush)
@@ -212,50 +172,14 @@ DWORD CBitmap::GetBitmapBits(DWORD dwCount, LPVOID lpBits) const noexcept
     return static_cast<DWORD>(::GetBitmapBits(*this, static_cast<LONG>(dwCount), lpBits));
 }
 
-DWORD CBitmap::SetBitmapBits(DWORD dwCount, const void* lpBits) noexcept
-{
-    return static_cast<DWORD>(::SetBitmapBits(*this, dwCount, lpBits));
-}
-
 CBitmap* CBitmap::FromHandle(HBITMAP hBitmap)
 {
     return FindGdiObject<CBitmap>(hBitmap);
 }
 
-BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2)
-{
-    return Attach(::CreateRectRgn(x1, y1, x2, y2));
-}
-
 BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect)
 {
     return Attach(::CreateRectRgnIndirect(lpRect));
-}
-
-BOOL CRgn::CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
-{
-    return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
-}
-
-int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) noexcept
-{
-    return ::CombineRgn(*this, pRgn1 ? static_cast<HRGN>(*pRgn1) : nullptr,
-                        pRgn2 ? static_cast<HRGN>(*pRgn2) : nullptr, nCombineMode);
-}
-
-void CRgn::SetRectRgn(LPCRECT lpRect) noexcept
-{
-    ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-}
-
-int CRgn::GetRgnBox(LPRECT lpRect) const noexcept
-{
-    return ::GetRgnBox(*this, lpRect);
-}
-
-BOOL CRgn::PtInRegion(POINT point) const noexcept
-{
-    return ::PtInRegion(*this, point.x, point.y);
 }
 
 CRgn* CRgn::FromHandle(HRGN hRgn)
@@ -266,19 +190,6 @@ CRgn* CRgn::FromHandle(HRGN hRgn)
 BOOL CPalette::CreatePalette(const LOGPALETTE* lpLogPalette)
 {
     return Attach(::CreatePalette(lpLogPalette));
-}
-
-int CPalette::GetEntryCount() const noexcept
-{
-    WORD count = 0;
-    GetObject(sizeof count, &count);
-    return count;
-}
-
-UINT CPalette::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
-                                 LPPALETTEENTRY lpPaletteColors) const noexcept
-{
-    return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
 }
 
 CPalette* CPalette::FromHandle(HPALETTE hPalette)

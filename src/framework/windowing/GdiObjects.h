@@ -36,9 +36,6 @@ public:
     BOOL DeleteObject() noexcept;
 
     int GetObject(int nCount, LPVOID lpObject) const noexcept;
-    [[nodiscard]] UINT GetObjectType() const noexcept;
-    BOOL CreateStockObject(int nIndex);
-    BOOL UnrealizeObject() noexcept;
     bool operator==(const CGdiObject& object) const noexcept { return m_hObject == object.m_hObject; }
 
     static CGdiObject* FromHandle(HGDIOBJ hObject);
@@ -58,8 +55,6 @@ public:
 
     operator HPEN() const noexcept { return static_cast<HPEN>(m_hObject); }
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor);
-    BOOL CreatePenIndirect(LPLOGPEN lpLogPen);
-    int GetLogPen(LOGPEN* pLogPen) const noexcept;
     static CPen* FromHandle(HPEN hPen);
 };
 
@@ -76,9 +71,6 @@ public:
     operator HBRUSH() const noexcept { return static_cast<HBRUSH>(m_hObject); }
     BOOL CreateSolidBrush(COLORREF crColor);
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor);
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush);
-    BOOL CreateSysColorBrush(int nIndex);
-    int GetLogBrush(LOGBRUSH* pLogBrush) const noexcept;
     static CBrush* FromHandle(HBRUSH hBrush);
 };
 
@@ -111,7 +103,6 @@ public:
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) const noexcept;
     DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const noexcept;
-    DWORD SetBitmapBits(DWORD dwCount, const void* lpBits) noexcept;
     static CBitmap* FromHandle(HBITMAP hBitmap);
 };
 
@@ -123,13 +114,7 @@ public:
     CRgn() noexcept = default;
 
     operator HRGN() const noexcept { return static_cast<HRGN>(m_hObject); }
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
     BOOL CreateRectRgnIndirect(LPCRECT lpRect);
-    BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode);
-    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) noexcept;
-    void SetRectRgn(LPCRECT lpRect) noexcept;
-    int GetRgnBox(LPRECT lpRect) const noexcept;
-    [[nodiscard]] BOOL PtInRegion(POINT point) const noexcept;
     static CRgn* FromHandle(HRGN hRgn);
 };
 
@@ -142,8 +127,5 @@ public:
 
     operator HPALETTE() const noexcept { return static_cast<HPALETTE>(m_hObject); }
     BOOL CreatePalette(const LOGPALETTE* lpLogPalette);
-    [[nodiscard]] int GetEntryCount() const noexcept;
-    UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries,
-                           LPPALETTEENTRY lpPaletteColors) const noexcept;
     static CPalette* FromHandle(HPALETTE hPalette);
 };

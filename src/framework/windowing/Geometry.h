@@ -23,7 +23,6 @@ public:
     constexpr operator TSize() const noexcept { return {static_cast<int>(cx), static_cast<int>(cy)}; }
 
     constexpr bool operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
-    constexpr void SetSize(int newCX, int newCY) noexcept { *this = CSize(newCX, newCY); }
     constexpr void operator+=(SIZE size) noexcept { *this = *this + size; }
     constexpr void operator-=(SIZE size) noexcept { *this = *this - size; }
     [[nodiscard]] constexpr CSize operator+(SIZE size) const noexcept
@@ -113,14 +112,12 @@ public:
         return CPoint(Wrap::Add(left, right) / 2, Wrap::Add(top, bottom) / 2);
     }
 
-    // Empty: no width or no height, or a negative one. Null: all four are 0.
+    // No width or no height, or a negative one.
     [[nodiscard]] constexpr bool IsRectEmpty() const noexcept { return left >= right || top >= bottom; }
-    [[nodiscard]] constexpr bool IsRectNull() const noexcept { return *this == CRect(); }
     [[nodiscard]] constexpr bool PtInRect(POINT point) const noexcept
     {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
     }
-    [[nodiscard]] constexpr bool EqualRect(LPCRECT lpRect) const noexcept { return *this == *lpRect; }
     constexpr bool operator==(const RECT& rect) const noexcept
     {
         return left == rect.left && top == rect.top && right == rect.right && bottom == rect.bottom;
@@ -161,13 +158,6 @@ public:
     }
     constexpr void OffsetRect(SIZE size) noexcept { OffsetRect(size.cx, size.cy); }
     constexpr void OffsetRect(POINT point) noexcept { OffsetRect(point.x, point.y); }
-    constexpr void MoveToX(int x) noexcept { OffsetRect(Wrap::Subtract(x, left), 0); }
-    constexpr void MoveToY(int y) noexcept { OffsetRect(0, Wrap::Subtract(y, top)); }
-    constexpr void MoveToXY(int x, int y) noexcept
-    {
-        MoveToX(x);
-        MoveToY(y);
-    }
     // Swaps edges so that width and height are not negative.
     constexpr void NormalizeRect() noexcept
     {

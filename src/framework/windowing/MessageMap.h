@@ -208,10 +208,8 @@ bool Thunk(CCmdTarget* target, const AFX_MSG_ARGS& args)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
-// A control's own notification, seen by the control before its parent. The EX form's handler
-// answers FALSE to let the parent have it too.
-#define ON_CONTROL_REFLECT(code, memberFxn)                                                             \
-    {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AFX_MSG_FN(Command, memberFxn)},
+// A control's own notification, seen by the control before its parent. The handler returns FALSE
+// to let the parent have it too.
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                          \
     {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AFX_MSG_FN(CommandEx, memberFxn)},
 // Codes of notifications are compared by their low halves, which differ.

@@ -40,16 +40,6 @@ void CObList::RemoveAll()
     m_blocks.clear();
 }
 
-CObject* CObList::GetHead() const noexcept
-{
-    return m_pHead ? m_pHead->pObject : nullptr;
-}
-
-CObject* CObList::GetTail() const noexcept
-{
-    return m_pTail ? m_pTail->pObject : nullptr;
-}
-
 POSITION CObList::AddTail(CObject* newElement)
 {
     TNode* const node = NewNode(newElement);
@@ -59,28 +49,12 @@ POSITION CObList::AddTail(CObject* newElement)
     return PositionOf(node);
 }
 
-POSITION CObList::AddHead(CObject* newElement)
-{
-    TNode* const node = NewNode(newElement);
-    node->pNext = m_pHead;
-    (m_pHead ? m_pHead->pPrev : m_pTail) = node;
-    m_pHead = node;
-    return PositionOf(node);
-}
-
-CObject* CObList::RemoveHead()
-{
-    CObject* const object = GetHead();
-    if (m_pHead)
-        Unlink(m_pHead);
-    return object;
-}
-
 CObject* CObList::RemoveTail()
 {
-    CObject* const object = GetTail();
-    if (m_pTail)
-        Unlink(m_pTail);
+    if (!m_pTail)
+        return nullptr;
+    CObject* const object = m_pTail->pObject;
+    Unlink(m_pTail);
     return object;
 }
 
@@ -89,28 +63,11 @@ POSITION CObList::GetHeadPosition() const noexcept
     return PositionOf(m_pHead);
 }
 
-POSITION CObList::GetTailPosition() const noexcept
-{
-    return PositionOf(m_pTail);
-}
-
 CObject* CObList::GetNext(POSITION& rPosition) const noexcept
 {
     const TNode* const node = NodeOf(rPosition);
     rPosition = PositionOf(node->pNext);
     return node->pObject;
-}
-
-CObject* CObList::GetPrev(POSITION& rPosition) const noexcept
-{
-    const TNode* const node = NodeOf(rPosition);
-    rPosition = PositionOf(node->pPrev);
-    return node->pObject;
-}
-
-CObject* CObList::GetAt(POSITION position) const noexcept
-{
-    return NodeOf(position)->pObject;
 }
 
 void CObList::RemoveAt(POSITION position)
@@ -122,16 +79,6 @@ POSITION CObList::Find(const CObject* searchValue, POSITION startAfter) const no
 {
     TNode* node = startAfter ? NodeOf(startAfter)->pNext : m_pHead;
     while (node && node->pObject != searchValue)
-        node = node->pNext;
-    return PositionOf(node);
-}
-
-POSITION CObList::FindIndex(INT_PTR nIndex) const noexcept
-{
-    if (nIndex < 0 || nIndex >= m_nCount)
-        return nullptr;
-    TNode* node = m_pHead;
-    while (nIndex-- > 0)
         node = node->pNext;
     return PositionOf(node);
 }

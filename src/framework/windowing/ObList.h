@@ -21,27 +21,19 @@ public:
     [[nodiscard]] INT_PTR GetCount() const noexcept { return m_nCount; }
     [[nodiscard]] BOOL IsEmpty() const noexcept { return m_nCount == 0; }
 
-    // Null for an empty list.
-    [[nodiscard]] CObject* GetHead() const noexcept;
-    [[nodiscard]] CObject* GetTail() const noexcept;
     POSITION AddTail(CObject* newElement);
-    POSITION AddHead(CObject* newElement);
-    CObject* RemoveHead();
+    // Null for an empty list.
     CObject* RemoveTail();
     void RemoveAll();
 
     [[nodiscard]] POSITION GetHeadPosition() const noexcept;
-    [[nodiscard]] POSITION GetTailPosition() const noexcept;
     // The element at the position, which moves on and becomes null behind the last one.
     CObject* GetNext(POSITION& rPosition) const noexcept;
-    CObject* GetPrev(POSITION& rPosition) const noexcept;
-    [[nodiscard]] CObject* GetAt(POSITION position) const noexcept;
     void RemoveAt(POSITION position);
 
     // The first element after startAfter (null: from the head) that is that pointer, or null.
     [[nodiscard]] POSITION Find(const CObject* searchValue,
                                 POSITION startAfter = nullptr) const noexcept;
-    [[nodiscard]] POSITION FindIndex(INT_PTR nIndex) const noexcept;
 
 private:
     struct TNode {

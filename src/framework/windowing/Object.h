@@ -39,7 +39,6 @@ public:
     {
         return GetRuntimeClass()->IsDerivedFrom(pClass);
     }
-    [[nodiscard]] BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
 
     static CRuntimeClass classCObject;
 

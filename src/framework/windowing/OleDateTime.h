@@ -1,8 +1,6 @@
 #pragma once
 // COleDateTime: a date and time of day in the OLE form, days since 1899-12-30 as a double.
 
-#include <ctime>
-
 #include <windows.h>
 
 #include <oleauto.h>
@@ -14,14 +12,11 @@ public:
 
     COleDateTime() noexcept = default;
     COleDateTime(DATE dtSrc) noexcept : m_dt(dtSrc) {}
-    // Local time.
-    explicit COleDateTime(__time64_t timeSrc);
     explicit COleDateTime(const SYSTEMTIME& systimeSrc) noexcept;
     // Month and day count from 1. Invalid if there is no such date or time of day.
     COleDateTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec) noexcept;
 
     operator DATE() const noexcept { return m_dt; }
-    [[nodiscard]] DateTimeStatus GetStatus() const noexcept { return m_status; }
     void SetStatus(DateTimeStatus status) noexcept { m_status = status; }
     // FALSE, with nothing written, unless valid and a date that the platform knows.
     [[nodiscard]] BOOL GetAsSystemTime(SYSTEMTIME& sysTime) const noexcept;

@@ -28,23 +28,10 @@ CString::CString(LPCWSTR text, int length)
         m_text.assign(text, static_cast<size_t>(length));
 }
 
-CString::CString(WCHAR unit, int repeat) : m_text(static_cast<size_t>(std::max(repeat, 0)), unit) {}
-
 CString& CString::operator=(LPCWSTR text)
 {
     m_text = ViewOf(text);
     return *this;
-}
-
-WCHAR CString::GetAt(int index) const noexcept
-{
-    return index >= 0 && index < GetLength() ? m_text[static_cast<size_t>(index)] : L'\0';
-}
-
-void CString::SetAt(int index, WCHAR unit) noexcept
-{
-    if (index >= 0 && index < GetLength())
-        m_text[static_cast<size_t>(index)] = unit;
 }
 
 LPWSTR CString::GetBuffer(int minLength)
@@ -141,20 +128,6 @@ int CString::Replace(WCHAR oldUnit, WCHAR newUnit)
     return static_cast<int>(count);
 }
 
-CString& CString::Trim()
-{
-    const auto isText = [](WCHAR unit) { return !std::iswspace(unit); };
-    m_text.erase(std::find_if(m_text.rbegin(), m_text.rend(), isText).base(), m_text.end());
-    m_text.erase(m_text.begin(), std::find_if(m_text.begin(), m_text.end(), isText));
-    return *this;
-}
-
-CString& CString::MakeLower()
-{
-    ::CharLowerBuffW(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
 CString& CString::MakeUpper()
 {
     ::CharUpperBuffW(m_text.data(), static_cast<DWORD>(m_text.size()));
@@ -166,14 +139,6 @@ int CString::Compare(LPCWSTR other) const noexcept
     return View().compare(ViewOf(other));
 }
 
-int CString::CompareNoCase(LPCWSTR other) const noexcept
-{
-    const std::wstring_view view = ViewOf(other);
-    return ::CompareStringOrdinal(m_text.data(), GetLength(), view.data() ? view.data() : L"",
-                                  static_cast<int>(view.size()), TRUE) -
-           CSTR_EQUAL;
-}
-
 BOOL CString::LoadString(UINT id)
 {
     // With a length of 0 the result is a pointer into the resource itself, unterminated.
@@ -181,14 +146,6 @@ BOOL CString::LoadString(UINT id)
     const int length = ::LoadStringW(AfxGetResourceHandle(), id, reinterpret_cast<LPWSTR>(&text), 0);
     *this = CString(text, length);
     return length > 0;
-}
-
-BSTR CString::AllocSysString() const
-{
-    const BSTR result = ::SysAllocStringLen(m_text.data(), static_cast<UINT>(m_text.size()));
-    if (!result)
-        AfxThrowMemoryException();
-    return result;
 }
 
 std::wstring CString::Formatted(LPCWSTR format, std::initializer_list<TArgument> args)

@@ -18,7 +18,6 @@ public:
     CString() noexcept = default;
     CString(LPCWSTR text) : m_text(text ? text : L"") {}
     CString(LPCWSTR text, int length);
-    CString(WCHAR unit, int repeat);
     explicit CString(std::wstring_view text) : m_text(text) {}
     explicit CString(std::u16string_view text) : m_text(text.begin(), text.end()) {}
 
@@ -26,15 +25,11 @@ public:
 
     [[nodiscard]] int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
     [[nodiscard]] bool IsEmpty() const noexcept { return m_text.empty(); }
-    void Empty() noexcept { m_text.clear(); }
     [[nodiscard]] LPCWSTR GetString() const noexcept { return m_text.c_str(); }
     operator LPCWSTR() const noexcept { return m_text.c_str(); }
     [[nodiscard]] std::wstring_view View() const noexcept { return m_text; }
     // The same units for the arithmetic files, whose text is char16_t.
     [[nodiscard]] std::u16string ToU16() const { return {m_text.begin(), m_text.end()}; }
-    // The unit at a position inside the text, else 0.
-    [[nodiscard]] WCHAR GetAt(int index) const noexcept;
-    void SetAt(int index, WCHAR unit) noexcept;
 
     // A buffer of at least minLength units and a terminator, good until ReleaseBuffer;
     // -1 takes the length up to the terminator.
@@ -57,12 +52,9 @@ public:
     // Replaces every occurrence; the result is their number.
     int Replace(LPCWSTR oldPart, LPCWSTR newPart);
     int Replace(WCHAR oldUnit, WCHAR newUnit);
-    CString& Trim();
-    CString& MakeLower();
     CString& MakeUpper();
 
     [[nodiscard]] int Compare(LPCWSTR other) const noexcept;
-    [[nodiscard]] int CompareNoCase(LPCWSTR other) const noexcept;
 
     // Formats of our own: items of printf with integer, floating and text arguments in order.
     // Each item takes the next argument of its kind; an item without one stays as it is, so
@@ -71,14 +63,8 @@ public:
     {
         m_text = Formatted(format, {Argument(args)...});
     }
-    template <class... Args> void AppendFormat(LPCWSTR format, const Args&... args)
-    {
-        m_text += Formatted(format, {Argument(args)...});
-    }
     // Takes a string of the current resource module; false, and empty, if there is none.
     BOOL LoadString(UINT id);
-
-    [[nodiscard]] BSTR AllocSysString() const;
 
 private:
     using TArgument = NumberFormat::TArgument;

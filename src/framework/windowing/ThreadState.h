@@ -46,7 +46,6 @@ public:
     [[nodiscard]] CWnd* FromHandle(HWND hWnd, bool inScope);
     // Frees the temporary objects made inside of a scope; with `all`, the others too.
     void FreeTemporary(bool all) noexcept;
-    [[nodiscard]] size_t GetTemporaryCount() const noexcept { return m_temporary.size(); }
 
 private:
     struct TTemporary {

@@ -82,11 +82,6 @@ BOOL CWnd::SubclassWindow(HWND hWnd)
     return TRUE;
 }
 
-BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent)
-{
-    return SubclassWindow(::GetDlgItem(pParent->m_hWnd, static_cast<int>(nID)));
-}
-
 BOOL CWnd::Create(LPCWSTR lpszClassName, LPCWSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                   CWnd* pParentWnd, UINT nID, void* pContext)
 {
@@ -174,11 +169,6 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
     return TRUE;
 }
 
-void CWnd::ClientToScreen(RECT* lpRect) const
-{
-    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(lpRect), 2);
-}
-
 void CWnd::ScreenToClient(RECT* lpRect) const
 {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(lpRect), 2);
@@ -207,38 +197,4 @@ void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
     const HGDIOBJ handle = pFont ? pFont->GetSafeHandle() : nullptr;
     ::SendMessageW(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(handle), bRedraw);
-}
-
-CFont* CWnd::GetFont() const
-{
-    return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
-}
-
-CDC* CWnd::GetDC()
-{
-    return CDC::FromHandle(::GetDC(m_hWnd));
-}
-
-CDC* CWnd::GetWindowDC()
-{
-    return CDC::FromHandle(::GetWindowDC(m_hWnd));
-}
-
-int CWnd::ReleaseDC(CDC* pDC)
-{
-    return ::ReleaseDC(m_hWnd, pDC->GetSafeHdc());
-}
-
-BOOL CWnd::GetScrollInfo(int nBar, SCROLLINFO* lpScrollInfo, UINT nMask) const
-{
-    lpScrollInfo->cbSize = sizeof *lpScrollInfo;
-    lpScrollInfo->fMask = nMask;
-    return ::GetScrollInfo(m_hWnd, nBar, lpScrollInfo);
-}
-
-BOOL CWnd::SetScrollInfo(int nBar, SCROLLINFO* lpScrollInfo, BOOL bRedraw)
-{
-    lpScrollInfo->cbSize = sizeof *lpScrollInfo;
-    ::SetScrollInfo(m_hWnd, nBar, lpScrollInfo, bRedraw);
-    return TRUE;
 }

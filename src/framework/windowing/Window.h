@@ -46,7 +46,6 @@ public:
 
     // Handles and objects
     operator HWND() const noexcept { return m_hWnd; }
-    [[nodiscard]] HWND GetSafeHwnd() const noexcept { return m_hWnd; }
     static CWnd* FromHandle(HWND hWnd);
     [[nodiscard]] static CWnd* FromHandlePermanent(HWND hWnd) noexcept;
     // Makes this the permanent object of a window, without taking its messages.
@@ -55,7 +54,6 @@ public:
     HWND Detach() noexcept;
     // Attaches and takes the messages of a window that exists already.
     BOOL SubclassWindow(HWND hWnd);
-    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
 
     // Creation. A null class name means AfxRegisterWndClass(0) with the arrow cursor.
     // Create always makes a child window.
@@ -94,16 +92,10 @@ public:
     {
         return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_STYLE));
     }
-    [[nodiscard]] DWORD GetExStyle() const
-    {
-        return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE));
-    }
     // FALSE if nothing changes. With nFlags the frame is redrawn by SetWindowPos.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     void GetWindowRect(RECT* lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
     void GetClientRect(RECT* lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
-    void ClientToScreen(POINT* lpPoint) const { ::ClientToScreen(m_hWnd, lpPoint); }
-    void ClientToScreen(RECT* lpRect) const;
     void ScreenToClient(POINT* lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(RECT* lpRect) const;
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE)
@@ -123,25 +115,18 @@ public:
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     [[nodiscard]] BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
-    [[nodiscard]] BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
 
     // Family
-    [[nodiscard]] CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     // The nearest ancestor or owner that is not a child window itself.
     [[nodiscard]] CWnd* GetParentOwner() const;
-    [[nodiscard]] CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
     [[nodiscard]] int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
 
     // Text and font
     void SetWindowText(LPCWSTR lpszString) { ::SetWindowTextW(m_hWnd, lpszString); }
     void GetWindowText(CString& rString) const;
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
-    [[nodiscard]] CFont* GetFont() const;
 
     // Painting
-    CDC* GetDC();
-    CDC* GetWindowDC();
-    int ReleaseDC(CDC* pDC);
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     // Without a window these do nothing; the platform would take the whole screen instead.
     void Invalidate(BOOL bErase = TRUE) { InvalidateRect(nullptr, bErase); }
@@ -158,27 +143,12 @@ public:
 
     // Input
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
-    [[nodiscard]] static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    [[nodiscard]] static CWnd* GetCapture() { return FromHandle(::GetCapture()); }
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr)
     {
         return m_hWnd ? ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer) : 0;
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
-
-    // Scroll bars of the window (SB_HORZ, SB_VERT)
-    [[nodiscard]] int GetScrollPos(int nBar) const { return ::GetScrollPos(m_hWnd, nBar); }
-    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE)
-    {
-        return ::SetScrollPos(m_hWnd, nBar, nPos, bRedraw);
-    }
-    void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE)
-    {
-        ::SetScrollRange(m_hWnd, nBar, nMinPos, nMaxPos, bRedraw);
-    }
-    BOOL GetScrollInfo(int nBar, SCROLLINFO* lpScrollInfo, UINT nMask = SIF_ALL) const;
-    BOOL SetScrollInfo(int nBar, SCROLLINFO* lpScrollInfo, BOOL bRedraw = TRUE);
 
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra) override;
 

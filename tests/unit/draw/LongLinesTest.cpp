@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -228,7 +229,7 @@ TEST(LongLines, RandomPolygonsEndInsideTheSquare)
 
         const std::vector<TPoint> cut = Cut(polygon);
 
-        ASSERT_TRUE(LongLines::AreShort(cut));
+        ASSERT_TRUE(std::ranges::all_of(cut, [](TPoint point) { return LongLines::IsShort(point); }));
         ASSERT_LE(std::abs(TwiceArea(cut)), std::abs(2.0 * 4 * Limit * double(Limit)) * polygon.size());
     }
 }
