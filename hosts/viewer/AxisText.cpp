@@ -27,9 +27,8 @@ std::u16string NumberFormatFor(double low, double high)
 {
     const double largest = std::max(std::abs(low), std::abs(high));
     const double span = high - low;
-    if (!(span > 0) || !std::isfinite(span)) {
+    if (!(span > 0) || !std::isfinite(span))
         return u"%g";
-    }
     const double decimals = std::ceil(-std::log10(span / MostTicks));
     if (largest >= 1e7 || decimals > 6) {
         const double digits = std::ceil(std::log10(largest) - std::log10(span / MostTicks));
@@ -41,26 +40,21 @@ std::u16string NumberFormatFor(double low, double high)
 std::u16string DateFormatFor(double low, double high)
 {
     const double days = high - low;
-    if (days >= YearsAlone) {
+    if (days >= YearsAlone)
         return u"%Y";
-    }
-    if (days >= DaysOfYear) {
+    if (days >= DaysOfYear)
         return u"%Y-%m";
-    }
-    if (days >= 10) {
+    if (days >= 10)
         return u"%Y-%m-%d";
-    }
-    if (days >= 1) {
+    if (days >= 1)
         return u"%m-%d %H:%M";
-    }
     return days >= 10.0 / (24 * 60) ? u"%H:%M" : u"%H:%M:%S";
 }
 
 bool GraphRoundsDatesWell(double low, double high) noexcept
 {
-    if (high - low >= YearsAlone) {
+    if (high - low >= YearsAlone)
         return false;
-    }
     // Rounding outward moves a bound by up to its distance to the next tick, at most the span.
     const double room = std::max(high - low, 1.0);
     return low - room >= Epoch1970 && high + room <= LastUnsignedSecond;

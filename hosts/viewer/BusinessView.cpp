@@ -84,9 +84,8 @@ void BusinessView::SetLooks(const Options& options)
 // Segments and series are counted from 1, and segments come first.
 void BusinessView::AddBars(const CategoryPlan& plan)
 {
-    for (const std::u16string& name : plan.categories) {
+    for (const std::u16string& name : plan.categories)
         Check(m_chart->Add2DBarGraphSegment(Bstr(name).Get()));
-    }
     for (std::size_t at = 0; at < plan.series.size(); ++at) {
         const Series& series = plan.series[at];
         Check(m_chart->Add2DBarGraphSeries(Bstr(series.name).Get(), ColorOf(at)));
@@ -99,9 +98,8 @@ void BusinessView::AddBars(const CategoryPlan& plan)
 
 void BusinessView::AddLines(const CategoryPlan& plan)
 {
-    for (const std::u16string& name : plan.categories) {
+    for (const std::u16string& name : plan.categories)
         Check(m_chart->Add2DLineGraphSegment(Bstr(name).Get()));
-    }
     for (std::size_t at = 0; at < plan.series.size(); ++at) {
         const Series& series = plan.series[at];
         Check(m_chart->Add2DLineGraphSeries(Bstr(series.name).Get(), ColorOf(at)));

@@ -95,9 +95,8 @@ bool Capture::CopyInPieces(HWND window) const
             RedrawWindow(window, nullptr, nullptr,
                          RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
             const RECT piece = {x, y, std::min(x + stepX, m_width), std::min(y + stepY, m_height)};
-            if (!CopyPiece(window, piece)) {
+            if (!CopyPiece(window, piece))
                 return false;
-            }
         }
     }
     return true;

@@ -26,9 +26,8 @@ constexpr std::size_t MostSeries = 20;
 const Column& Need(const Table& table, const std::u16string& name)
 {
     const Column* column = table.Find(name);
-    if (!column) {
+    if (!column)
         Refuse(u"there is no column " + Quote(name));
-    }
     return *column;
 }
 
@@ -40,13 +39,11 @@ std::size_t LengthOfDates(const Column& column)
     std::size_t length = year;
     for (const std::u16string& cell : column.cells) {
         const std::optional<double> value = ParseDate(cell);
-        if (!value || cell.size() < month) {
+        if (!value || cell.size() < month)
             continue;
-        }
         const CalendarDate date = OleToDate(*value);
-        if (date.day != 1 || *value != std::floor(*value)) {
+        if (date.day != 1 || *value != std::floor(*value))
             return std::u16string::npos;
-        }
         length = date.month != 1 ? month : length;
     }
     return length;
@@ -62,16 +59,13 @@ public:
         m_plan.rows = m_table.Rows();
         ChooseColumns();
         for (std::size_t row = 0; row < m_table.Rows(); ++row) {
-            for (const Column* column : m_values) {
+            for (const Column* column : m_values)
                 AddCell(*column, row);
-            }
         }
-        for (Series& series : m_plan.series) {
+        for (Series& series : m_plan.series)
             series.values.resize(m_plan.categories.size());
-        }
-        if (m_plan.series.empty()) {
+        if (m_plan.series.empty())
             Refuse(u"no row has a value to show");
-        }
         CutSlices();
         return std::move(m_plan);
     }
@@ -82,23 +76,19 @@ private:
         m_category = m_options.x ? &Need(m_table, *m_options.x) : &m_table.columns.front();
         m_group = m_options.group ? &Need(m_table, *m_options.group) : nullptr;
         for (const auto* names : {&m_options.y, &m_options.y2}) {
-            for (const std::u16string& name : *names) {
+            for (const std::u16string& name : *names)
                 m_values.push_back(&Need(m_table, name));
-            }
         }
         if (m_values.empty()) {
             for (const Column& column : m_table.columns) {
-                if (column.kind == ColumnKind::Number && &column != m_category && &column != m_group) {
+                if (column.kind == ColumnKind::Number && &column != m_category && &column != m_group)
                     m_values.push_back(&column);
-                }
             }
         }
-        if (m_values.empty()) {
+        if (m_values.empty())
             Refuse(u"no column holds numbers to show");
-        }
-        if (m_category->kind == ColumnKind::Date) {
+        if (m_category->kind == ColumnKind::Date)
             m_length = LengthOfDates(*m_category);
-        }
     }
 
     void AddCell(const Column& column, std::size_t row)
@@ -138,9 +128,8 @@ private:
         }
         const auto [found, isNew] = m_seriesOfName.emplace(name, m_plan.series.size());
         if (isNew) {
-            if (m_plan.series.size() == MostSeries) {
+            if (m_plan.series.size() == MostSeries)
                 Refuse(u"more than " + ToText(MostSeries) + u" series; choose columns with --y");
-            }
             m_plan.series.push_back({name, {}});
         }
         return m_plan.series[found->second];
@@ -149,41 +138,35 @@ private:
     void CutSlices()
     {
         std::optional<std::size_t> picked;
-        if (!m_options.pick.empty()) {
+        if (!m_options.pick.empty())
             picked = FindCategory(m_options.pick);
-        }
         if (m_plan.series.size() > 1) {
             m_plan.sliceTitle = picked ? m_plan.categories[*picked] : u"all of " + m_category->name;
             for (const Series& series : m_plan.series) {
                 double sum = 0;
-                for (std::size_t at = 0; at < series.values.size(); ++at) {
+                for (std::size_t at = 0; at < series.values.size(); ++at)
                     sum += !picked || *picked == at ? series.values[at] : 0;
-                }
                 AddSlice(series.name, sum);
             }
         } else {
             m_plan.sliceTitle = m_plan.series.front().name;
             for (std::size_t at = 0; at < m_plan.categories.size(); ++at) {
-                if (!picked || *picked == at) {
+                if (!picked || *picked == at)
                     AddSlice(m_plan.categories[at], m_plan.series.front().values[at]);
-                }
             }
         }
         double total = 0;
-        for (const Slice& slice : m_plan.slices) {
+        for (const Slice& slice : m_plan.slices)
             total += slice.value;
-        }
-        for (Slice& slice : m_plan.slices) {
+        for (Slice& slice : m_plan.slices)
             slice.percent = slice.value / total * 100;
-        }
     }
 
     std::size_t FindCategory(const std::u16string& name) const
     {
         for (std::size_t at = 0; at < m_plan.categories.size(); ++at) {
-            if (EqualsIgnoringCase(m_plan.categories[at], name)) {
+            if (EqualsIgnoringCase(m_plan.categories[at], name))
                 return at;
-            }
         }
         Refuse(u"column " + Quote(m_category->name) + u" has no " + Quote(name) + u" to pick");
     }
@@ -214,9 +197,8 @@ CategoryPlan MakeCategoryPlan(const Table& table, const Options& options)
 {
     CategoryPlan plan = CategoryPlanner(table, options).Make();
     const bool pie = options.chart == ChartKind::Pie || options.chart == ChartKind::Pie3d;
-    if (pie && plan.slices.empty()) {
+    if (pie && plan.slices.empty())
         Refuse(u"no value above 0 to cut a pie by");
-    }
     return plan;
 }
 
@@ -226,16 +208,14 @@ std::u16string Describe(const CategoryPlan& plan, std::u16string_view fileName)
     text += u": " + ToText(plan.rows) + (plan.rows == 1 ? u" row, " : u" rows, ") +
             ToText(plan.categories.size()) +
             (plan.categories.size() == 1 ? u" category\n" : u" categories\n");
-    for (const Series& series : plan.series) {
+    for (const Series& series : plan.series)
         text += u"  " + series.name + u"\n";
-    }
     if (plan.skipped > 0) {
         text += u"  " + ToText(plan.skipped) + (plan.skipped == 1 ? u" cell" : u" cells") +
                 u" without a number\n";
     }
-    if (plan.slicesLeftOut > 0) {
+    if (plan.slicesLeftOut > 0)
         text += u"  " + ToText(plan.slicesLeftOut) + u" of 0 or less, not in a pie\n";
-    }
     return text;
 }
 
@@ -243,9 +223,8 @@ int ToWholeValue(double value) noexcept
 {
     constexpr double low = std::numeric_limits<int>::min();
     constexpr double high = std::numeric_limits<int>::max();
-    if (std::isnan(value)) {
+    if (std::isnan(value))
         return 0;
-    }
     return static_cast<int>(std::clamp(std::round(value), low, high));
 }
 

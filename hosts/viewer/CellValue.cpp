@@ -50,9 +50,8 @@ public:
 
     bool Take(char16_t unit)
     {
-        if (m_rest.empty() || m_rest.front() != unit) {
+        if (m_rest.empty() || m_rest.front() != unit)
             return false;
-        }
         m_rest.remove_prefix(1);
         return true;
     }
@@ -92,31 +91,26 @@ double ReadClock(Reader& reader)
     double seconds = 0;
     if (reader.Take(u':')) {
         seconds = reader.Digits(2);
-        if (reader.Take(u'.')) {
+        if (reader.Take(u'.'))
             seconds += reader.Fraction();
-        }
     }
-    if (hours > 23 || minutes > 59 || seconds >= 60) {
+    if (hours > 23 || minutes > 59 || seconds >= 60)
         reader.Refuse();
-    }
     return (hours * 60 + minutes) * 60 + seconds;
 }
 
 double ReadOffset(Reader& reader)
 {
-    if (reader.Take(u'Z') || reader.AtEnd()) {
+    if (reader.Take(u'Z') || reader.AtEnd())
         return 0;
-    }
     const double sign = reader.Take(u'-') ? -1 : 1;
-    if (sign > 0) {
+    if (sign > 0)
         reader.Need(u'+');
-    }
     const int hours = reader.Digits(2);
     reader.Take(u':');
     const int minutes = reader.Digits(2);
-    if (hours > 14 || minutes > 59) {
+    if (hours > 14 || minutes > 59)
         reader.Refuse();
-    }
     return sign * (hours * 60 + minutes) * 60;
 }
 
@@ -148,9 +142,8 @@ bool IsGrouped(std::u16string_view whole, char16_t mark)
             ++digits;
             continue;
         }
-        if (first ? digits == 0 || digits > 3 : digits != 3) {
+        if (first ? digits == 0 || digits > 3 : digits != 3)
             return false;
-        }
         first = false;
         digits = 0;
     }
@@ -172,9 +165,8 @@ std::string ToPlain(std::u16string_view number, bool decimalComma)
     plain.reserve(number.size());
     for (std::size_t at = 0; at < number.size(); ++at) {
         const char16_t unit = number[at];
-        if (unit == group && at < wholeEnd && grouped) {
+        if (unit == group && at < wholeEnd && grouped)
             continue;
-        }
         const bool mark = unit == decimal || (unit == u'.' && point);
         plain.push_back(mark ? '.' : unit == u'.' || unit >= 0x80 ? '?' : static_cast<char>(unit));
     }
@@ -186,15 +178,12 @@ int VoteForComma(std::u16string_view cell)
 {
     const auto commas = std::count(cell.begin(), cell.end(), u',');
     const auto points = std::count(cell.begin(), cell.end(), u'.');
-    if (commas > 0 && points > 0) {
+    if (commas > 0 && points > 0)
         return cell.find_last_of(u",.") == cell.rfind(u',') ? 1 : -1;
-    }
-    if (commas > 1 || points > 1) {
+    if (commas > 1 || points > 1)
         return commas > 1 ? -1 : 1;
-    }
-    if (commas == 0) {
+    if (commas == 0)
         return 0;
-    }
     const std::size_t comma = cell.find(u',');
     const std::u16string_view before = cell.substr(0, comma);
     const bool group = cell.size() - comma == 4 && !before.empty() && IsDigit(before.back()) &&
@@ -209,9 +198,8 @@ std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
     std::u16string_view trimmed = TrimBlanks(cell);
     if (!trimmed.empty() && trimmed.front() == u'+') {
         trimmed.remove_prefix(1);
-        if (!trimmed.empty() && trimmed.front() == u'-') {
+        if (!trimmed.empty() && trimmed.front() == u'-')
             return std::nullopt;
-        }
     }
     if (trimmed.empty() || trimmed.size() > LongestNumber ||
         trimmed.find_first_not_of(u"0123456789.,eE+-") != trimmed.npos) {
@@ -220,9 +208,8 @@ std::optional<double> ParseNumber(std::u16string_view cell, bool decimalComma)
     const std::string plain = ToPlain(trimmed, decimalComma);
     double value = 0;
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value)) {
+    if (error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value))
         return std::nullopt;
-    }
     return value;
 }
 
@@ -233,12 +220,10 @@ bool HasDecimalCommas(std::span<const std::u16string> cells, bool otherwise)
         const std::u16string_view trimmed = TrimBlanks(cell);
         const bool number = !trimmed.empty() && IsDigit(trimmed.back()) && !ParseDate(trimmed) &&
                             trimmed.find_first_not_of(u"0123456789.,eE+-") == trimmed.npos;
-        if (!number) {
+        if (!number)
             continue;
-        }
-        if (const int vote = VoteForComma(trimmed); vote != 0) {
+        if (const int vote = VoteForComma(trimmed); vote != 0)
             return vote > 0;
-        }
         commas = commas || trimmed.find(u',') != trimmed.npos;
     }
     return commas && otherwise;
@@ -288,9 +273,8 @@ std::optional<double> ParseDate(std::u16string_view cell)
         seconds = ReadClock(reader);
         seconds -= ReadOffset(reader);
     }
-    if (!reader.Good() || !reader.AtEnd() || read.year < 100 || !date.ok()) {
+    if (!reader.Good() || !reader.AtEnd() || read.year < 100 || !date.ok())
         return std::nullopt;
-    }
     return ToOle(sys_days{date}, seconds);
 }
 

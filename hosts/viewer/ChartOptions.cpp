@@ -37,9 +37,8 @@ template <class T, std::size_t count>
 std::optional<T> Find(const std::array<Word<T>, count>& words, std::u16string_view sought) noexcept
 {
     for (const auto& [word, value] : words) {
-        if (word == sought) {
+        if (word == sought)
             return value;
-        }
     }
     return std::nullopt;
 }
@@ -69,9 +68,8 @@ std::span<const Animation> Animations() noexcept
 const Animation* FindAnimation(ChartKind kind, std::u16string_view word) noexcept
 {
     for (const Animation& animation : AllAnimations) {
-        if (animation.kind == kind && animation.word == word) {
+        if (animation.kind == kind && animation.word == word)
             return &animation;
-        }
     }
     return nullptr;
 }

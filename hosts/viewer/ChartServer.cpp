@@ -27,22 +27,18 @@ std::wstring ProgramPath()
 ChartServer::ChartServer(ServerSource source) : m_source(source)
 {
     const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    if (FAILED(result)) {
+    if (FAILED(result))
         Refuse(u"COM can't be started", static_cast<DWORD>(result));
-    }
-    if (source == ServerSource::BesideProgram) {
+    if (source == ServerSource::BesideProgram)
         ActivateManifest();
-    }
 }
 
 ChartServer::~ChartServer()
 {
-    if (m_cookie != 0) {
+    if (m_cookie != 0)
         DeactivateActCtx(0, m_cookie);
-    }
-    if (m_context != INVALID_HANDLE_VALUE) {
+    if (m_context != INVALID_HANDLE_VALUE)
         ReleaseActCtx(m_context);
-    }
     CoUninitialize();
 }
 
@@ -61,9 +57,8 @@ void ChartServer::ActivateManifest()
     m_context = CreateActCtxW(&request);
     if (m_context == INVALID_HANDLE_VALUE || !ActivateActCtx(m_context, &m_cookie)) {
         const DWORD code = GetLastError();
-        if (m_context != INVALID_HANDLE_VALUE) {
+        if (m_context != INVALID_HANDLE_VALUE)
             ReleaseActCtx(m_context);
-        }
         CoUninitialize();
         Refuse(u"Vantoplex.dll beside this program can't be used", code);
     }

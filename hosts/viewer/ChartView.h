@@ -37,9 +37,8 @@ template <class Chart> [[nodiscard]] HWND HandleOf(Chart& chart)
 {
     wireHWND window = nullptr;
     Check(chart.GetHandle(&window));
-    if (!window) {
+    if (!window)
         throw Error{ExitCode::NoServer, u"the chart has no window"};
-    }
     return FromWire(window);
 }
 

@@ -22,9 +22,8 @@ class OpenedClipboard
 public:
     explicit OpenedClipboard(HWND owner)
     {
-        if (!OpenClipboard(owner)) {
+        if (!OpenClipboard(owner))
             Refuse(u"the clipboard is in use");
-        }
         EmptyClipboard();
     }
     OpenedClipboard(const OpenedClipboard&) = delete;
@@ -87,9 +86,8 @@ void CopyAsMetafile(HWND owner, const Capture& capture, const std::u16string& ti
     description += L'\0' + ToWide(title) + L'\0';
     const HDC target = CreateEnhMetaFileW(reference, nullptr, &frame, description.c_str());
     ReleaseDC(owner, reference);
-    if (!target) {
+    if (!target)
         Refuse(u"no metafile can be made");
-    }
     BITMAPINFO info{};
     info.bmiHeader = HeaderOf(capture);
     StretchDIBits(target, 0, 0, capture.Width(), capture.Height(), 0, 0, capture.Width(),

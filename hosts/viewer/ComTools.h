@@ -28,9 +28,8 @@ public:
 
     void Release() noexcept
     {
-        if (T* pointer = std::exchange(m_pointer, nullptr)) {
+        if (T* pointer = std::exchange(m_pointer, nullptr))
             pointer->Release();
-        }
     }
 
     // For out parameters: lets go of what is held and takes over what is stored.

@@ -21,14 +21,12 @@ constexpr int LargestSide = 8192;
 // Digits alone; anything longer than five of them is beyond every limit anyway.
 std::optional<int> ParseWhole(std::u16string_view text)
 {
-    if (text.empty() || text.size() > 5) {
+    if (text.empty() || text.size() > 5)
         return std::nullopt;
-    }
     int value = 0;
     for (const char16_t unit : text) {
-        if (unit < u'0' || unit > u'9') {
+        if (unit < u'0' || unit > u'9')
             return std::nullopt;
-        }
         value = value * 10 + (unit - u'0');
     }
     return value;
@@ -86,9 +84,8 @@ using Store = void (*)(std::u16string_view value, Options& options);
 template <auto find, auto field> void StoreWord(std::u16string_view value, Options& options)
 {
     const auto found = find(value);
-    if (!found) {
+    if (!found)
         Refuse(u"there is no " + Quote(value) + u" to choose");
-    }
     options.*field = *found;
 }
 
@@ -141,9 +138,8 @@ constexpr std::array ValueOptions = {
 Store FindStore(std::u16string_view name)
 {
     for (const ValueOption& option : ValueOptions) {
-        if (option.name == name) {
+        if (option.name == name)
             return option.store;
-        }
     }
     Refuse(u"unknown option " + Quote(name));
 }
@@ -151,9 +147,8 @@ Store FindStore(std::u16string_view name)
 void StoreValue(std::u16string_view name, std::u16string_view value, Options& options)
 {
     const Store store = FindStore(name);
-    if (value.empty()) {
+    if (value.empty())
         Refuse(std::u16string(name) + u" needs a value");
-    }
     try {
         store(value, options);
     } catch (const Error& error) {
@@ -165,34 +160,26 @@ void StoreValue(std::u16string_view name, std::u16string_view value, Options& op
 // Options that mean something only together.
 void CheckTogether(const Options& options)
 {
-    if (options.help || options.version) {
+    if (options.help || options.version)
         return;
-    }
-    if (!options.png.empty() && options.file.empty()) {
+    if (!options.png.empty() && options.file.empty())
         Refuse(u"--png needs a CSV file to draw");
-    }
-    if (!options.script.empty() && options.file.empty()) {
+    if (!options.script.empty() && options.file.empty())
         Refuse(u"--script needs a CSV file to work with");
-    }
-    if (!options.script.empty() && !options.png.empty()) {
+    if (!options.script.empty() && !options.png.empty())
         Refuse(u"--script takes its own pictures; leave --png out");
-    }
-    if (!options.animation.empty() && !FindAnimation(options.chart, options.animation)) {
+    if (!options.animation.empty() && !FindAnimation(options.chart, options.animation))
         Refuse(u"--animation: this kind of chart has no " + Quote(options.animation));
-    }
-    if (options.tick >= 0 && options.animation.empty()) {
+    if (options.tick >= 0 && options.animation.empty())
         Refuse(u"--tick needs an --animation");
-    }
 }
 
 void StoreFile(const std::u16string& argument, Options& options)
 {
-    if (!options.file.empty()) {
+    if (!options.file.empty())
         Refuse(u"one file at a time: " + Quote(options.file) + u" or " + Quote(argument) + u"?");
-    }
-    if (argument.empty()) {
+    if (argument.empty())
         Refuse(u"the name of the file is empty");
-    }
     options.file = argument;
 }
 
@@ -212,9 +199,8 @@ Options ParseCommandLine(std::span<const std::u16string> arguments)
             StoreFile(argument, options);
             continue;
         }
-        if (ParseFlag(argument, options)) {
+        if (ParseFlag(argument, options))
             continue;
-        }
         const std::size_t equals = argument.find(u'=');
         const std::u16string name = argument.substr(0, equals);
         (void)FindStore(name);

@@ -27,9 +27,8 @@ ColumnKind FindKind(const Column& column)
     std::size_t dates = 0;
     std::size_t numbers = 0;
     for (const std::u16string& cell : column.cells) {
-        if (cell.empty()) {
+        if (cell.empty())
             continue;
-        }
         ++filled;
         if (ParseDate(cell)) {
             ++dates;
@@ -37,12 +36,10 @@ ColumnKind FindKind(const Column& column)
             ++numbers;
         }
     }
-    if (filled == 0) {
+    if (filled == 0)
         return ColumnKind::Empty;
-    }
-    if (dates * 2 >= filled && dates >= numbers) {
+    if (dates * 2 >= filled && dates >= numbers)
         return ColumnKind::Date;
-    }
     return numbers * 2 >= filled ? ColumnKind::Number : ColumnKind::Text;
 }
 
@@ -52,13 +49,11 @@ void NameColumns(std::vector<Column>& columns)
     for (std::size_t at = 0; at < columns.size(); ++at) {
         std::u16string& name = columns[at].name;
         name = std::u16string(TrimBlanks(name));
-        if (name.empty()) {
+        if (name.empty())
             name = u"Column " + ToText(at + 1);
-        }
         const std::u16string plain = name;
-        for (std::size_t number = 2; !taken.insert(name).second; ++number) {
+        for (std::size_t number = 2; !taken.insert(name).second; ++number)
             name = plain + u" (" + ToText(number) + u")";
-        }
     }
 }
 
@@ -67,14 +62,12 @@ void NameColumns(std::vector<Column>& columns)
 const Column* Table::Find(std::u16string_view name) const
 {
     for (const Column& column : columns) {
-        if (column.name == name) {
+        if (column.name == name)
             return &column;
-        }
     }
     for (const Column& column : columns) {
-        if (EqualsIgnoringCase(column.name, name)) {
+        if (EqualsIgnoringCase(column.name, name))
             return &column;
-        }
     }
     return nullptr;
 }
@@ -83,9 +76,8 @@ Table MakeTable(CsvContents contents)
 {
     Table table;
     table.endsInsideQuotes = contents.endsInsideQuotes;
-    if (contents.rows.empty()) {
+    if (contents.rows.empty())
         throw Error{ExitCode::BadData, u"the file is empty"};
-    }
     std::vector<std::u16string>& first = contents.rows.front().cells;
     const bool header = !std::all_of(first.begin(), first.end(),
                                      [](const std::u16string& cell) { return IsValue(cell); });
@@ -96,9 +88,8 @@ Table MakeTable(CsvContents contents)
     }
     table.columns.resize(first.size());
     if (header) {
-        for (std::size_t at = 0; at < first.size(); ++at) {
+        for (std::size_t at = 0; at < first.size(); ++at)
             table.columns[at].name = std::move(first[at]);
-        }
     }
     for (std::size_t row = header ? 1 : 0; row < contents.rows.size(); ++row) {
         std::vector<std::u16string>& cells = contents.rows[row].cells;
@@ -108,9 +99,8 @@ Table MakeTable(CsvContents contents)
                                                                 : std::u16string());
         }
     }
-    if (table.lines.empty()) {
+    if (table.lines.empty())
         throw Error{ExitCode::BadData, u"the file has a header but no rows of data"};
-    }
     NameColumns(table.columns);
     for (Column& column : table.columns) {
         column.decimalComma = HasDecimalCommas(column.cells, contents.separator == u';');

@@ -41,14 +41,12 @@ std::size_t SequenceLength(std::string_view bytes, char32_t& code)
         length = 4;
         code = lead & 0x07;
     }
-    if (length == 0 || bytes.size() < length) {
+    if (length == 0 || bytes.size() < length)
         return 0;
-    }
     for (std::size_t at = 1; at < length; ++at) {
         const auto next = static_cast<unsigned char>(bytes[at]);
-        if ((next & 0xC0) != 0x80) {
+        if ((next & 0xC0) != 0x80)
             return 0;
-        }
         code = code << 6 | (next & 0x3F);
     }
     const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
@@ -89,9 +87,8 @@ char16_t FindSeparator(std::u16string_view text)
             break;
         } else if (!quoted) {
             const auto found = std::find(candidates.begin(), candidates.end(), unit);
-            if (found != candidates.end()) {
+            if (found != candidates.end())
                 ++counts[static_cast<std::size_t>(found - candidates.begin())];
-            }
         }
     }
     const auto most = std::max_element(counts.begin(), counts.end());
@@ -109,9 +106,8 @@ public:
         while (m_at < m_text.size()) {
             CsvRow row = ReadRow();
             const bool empty = row.cells.size() == 1 && row.cells.front().empty();
-            if (!empty) {
+            if (!empty)
                 contents.rows.push_back(std::move(row));
-            }
         }
         contents.endsInsideQuotes = m_endsInsideQuotes;
     }
@@ -124,9 +120,8 @@ private:
 
     void TakeLineEnd()
     {
-        if (m_at >= m_text.size()) {
+        if (m_at >= m_text.size())
             return;
-        }
         const bool pair = m_text[m_at] == u'\r' && m_at + 1 < m_text.size() && m_text[m_at + 1] == u'\n';
         m_at += pair ? 2 : 1;
         ++m_line;
@@ -154,9 +149,8 @@ private:
         }
         // Also what is between a closing quote and the separator.
         const std::size_t start = m_at;
-        while (!AtLineEnd() && m_text[m_at] != m_separator) {
+        while (!AtLineEnd() && m_text[m_at] != m_separator)
             ++m_at;
-        }
         cell.append(m_text.substr(start, m_at - start));
         return cell;
     }
@@ -191,15 +185,12 @@ private:
 
 std::u16string DecodeText(std::string_view bytes)
 {
-    if (bytes.starts_with("\xEF\xBB\xBF")) {
+    if (bytes.starts_with("\xEF\xBB\xBF"))
         return DecodeUtf8(bytes.substr(3));
-    }
-    if (bytes.starts_with("\xFF\xFE")) {
+    if (bytes.starts_with("\xFF\xFE"))
         return DecodeUtf16(bytes.substr(2), false);
-    }
-    if (bytes.starts_with("\xFE\xFF")) {
+    if (bytes.starts_with("\xFE\xFF"))
         return DecodeUtf16(bytes.substr(2), true);
-    }
     return DecodeUtf8(bytes);
 }
 

@@ -32,9 +32,8 @@ std::vector<HWND> SeenWindows()
 {
     std::vector<HWND> windows;
     const auto add = [](HWND window, LPARAM list) -> BOOL {
-        if (IsWindowVisible(window)) {
+        if (IsWindowVisible(window))
             reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-        }
         return TRUE;
     };
     EnumThreadWindows(GetCurrentThreadId(), add, reinterpret_cast<LPARAM>(&windows));
@@ -44,9 +43,8 @@ std::vector<HWND> SeenWindows()
 HWND FirstOf(std::wstring_view className)
 {
     for (const HWND window : SeenWindows()) {
-        if (IsWindowEnabled(window) && ClassOf(window) == className) {
+        if (IsWindowEnabled(window) && ClassOf(window) == className)
             return window;
-        }
     }
     return nullptr;
 }
@@ -65,9 +63,8 @@ HWND FindSeen(HWND dialog, int id, std::wstring_view className)
         Search& wanted = *reinterpret_cast<Search*>(parameter);
         const bool right = wanted.className.empty() ? GetDlgCtrlID(window) == wanted.id
                                                     : ClassOf(window) == wanted.className;
-        if (!right || !IsWindowVisible(window)) {
+        if (!right || !IsWindowVisible(window))
             return TRUE;
-        }
         wanted.found = window;
         return FALSE;
     };
@@ -78,9 +75,8 @@ HWND FindSeen(HWND dialog, int id, std::wstring_view className)
 HWND Find(HWND dialog, int id)
 {
     const HWND control = FindSeen(dialog, id, {});
-    if (!control) {
+    if (!control)
         Refuse(u"the dialog shows no control " + ToText(static_cast<std::size_t>(id)));
-    }
     return control;
 }
 
@@ -113,13 +109,11 @@ void ChooseRow(HWND list, const std::u16string& value)
     const auto count = SendMessageW(list, CB_GETCOUNT, 0, 0);
     const auto row = [&] { return SendMessageW(list, CB_GETCURSEL, 0, 0); };
     const LRESULT wanted = wcstol(ToWide(value).c_str(), nullptr, 10) - 1;
-    if (wanted < 0 || wanted >= count) {
+    if (wanted < 0 || wanted >= count)
         Refuse(u"the list has no row " + Quote(value));
-    }
     SetFocus(list);
-    for (LRESULT step = 0; step <= count && row() != wanted; ++step) {
+    for (LRESULT step = 0; step <= count && row() != wanted; ++step)
         SendMessageW(list, WM_KEYDOWN, row() < wanted ? VK_DOWN : VK_UP, 1);
-    }
 }
 
 } // namespace
@@ -146,9 +140,8 @@ void TurnTo(HWND dialog, std::u16string_view page)
 {
     constexpr std::array<std::u16string_view, 3> pages = {u"chart", u"axis", u"curve"};
     const HWND tabs = FindSeen(dialog, 0, WC_TABCONTROLW);
-    if (!tabs) {
+    if (!tabs)
         Refuse(u"the dialog has no pages");
-    }
     const auto number = std::find(pages.begin(), pages.end(), page) - pages.begin();
     RECT tab{};
     SendMessageW(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(number), reinterpret_cast<LPARAM>(&tab));
@@ -162,12 +155,10 @@ void Set(HWND dialog, int id, const std::u16string& value)
     if (lstrcmpiW(name.c_str(), L"COMBOBOX") == 0) {
         ChooseRow(control, value);
     } else if (lstrcmpiW(name.c_str(), L"BUTTON") == 0) {
-        if (value != u"on" && value != u"off") {
+        if (value != u"on" && value != u"off")
             Refuse(u"a button is set on or off, not " + Quote(value));
-        }
-        if (IsOn(control) != (value == u"on")) {
+        if (IsOn(control) != (value == u"on"))
             ClickOn(control);
-        }
     } else {
         // As from the clipboard: at one stroke.
         SetFocus(control);
@@ -179,18 +170,16 @@ void Set(HWND dialog, int id, const std::u16string& value)
 void Press(HWND dialog, int id)
 {
     const HWND control = Find(dialog, id);
-    if (!IsWindowEnabled(control)) {
+    if (!IsWindowEnabled(control))
         Refuse(u"the control " + ToText(static_cast<std::size_t>(id)) + u" is disabled");
-    }
     ClickOn(control);
 }
 
 std::u16string Read(HWND dialog, int id)
 {
     const HWND control = Find(dialog, id);
-    if (SendMessageW(control, WM_GETDLGCODE, 0, 0) & (DLGC_BUTTON | DLGC_RADIOBUTTON)) {
+    if (SendMessageW(control, WM_GETDLGCODE, 0, 0) & (DLGC_BUTTON | DLGC_RADIOBUTTON))
         return IsOn(control) ? u"on" : u"off";
-    }
     wchar_t text[1024] = L"";
     SendMessageW(control, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text));
     return FromWide(text);
@@ -198,9 +187,8 @@ std::u16string Read(HWND dialog, int id)
 
 void Choose(HWND menu, int item)
 {
-    for (int at = 0; at < item; ++at) {
+    for (int at = 0; at < item; ++at)
         PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
-    }
     PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
 }
 

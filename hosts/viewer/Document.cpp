@@ -10,9 +10,8 @@ Document ReadDocument(const Options& options)
 {
     Document document{options, MakeTable(SplitCsv(DecodeText(ReadWholeFile(options.file)))),
                       NameOfFile(options.file)};
-    if (options.title.empty()) {
+    if (options.title.empty())
         document.options.title = document.name.substr(0, document.name.find_last_of(u'.'));
-    }
     return document;
 }
 

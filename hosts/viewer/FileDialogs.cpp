@@ -31,9 +31,8 @@ Answer Ask(Dialog dialog, HWND owner, const wchar_t* filter, const wchar_t* exte
     request.lpstrFile = path.data();
     request.nMaxFile = static_cast<DWORD>(path.size());
     request.Flags = flags | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-    if (!dialog(&request)) {
+    if (!dialog(&request))
         return {};
-    }
     return {FromWide(path.data()), request.nFilterIndex};
 }
 

@@ -59,9 +59,8 @@ bool AddAnalysis(ISGraph& graph, int curve, Analysis analysis, int parameter)
     Check(source->GetXAxis(&xAxis));
     Check(source->GetYAxis(&yAxis));
     const Points points = WorkOut(*source.Get(), analysis, parameter);
-    if (!points || count == 0) {
+    if (!points || count == 0)
         return false;
-    }
     const std::u16string name = NameOfAnalysis(NameOfCurve(graph, curve), analysis, parameter);
     int curves = 0;
     Check(graph.GetCurveCount(&curves));
@@ -103,9 +102,8 @@ std::u16string NameOfCurve(ISGraph& graph, int curve)
     ComPointer<ISGraphDataSerie> serie;
     Check(graph.GetCurve(serie.Receive(), curve));
     BSTR label = nullptr;
-    if (serie->GetLabel(&label) != S_OK || !label) {
+    if (serie->GetLabel(&label) != S_OK || !label)
         return {};
-    }
     std::u16string text = FromWide({label, SysStringLen(label)});
     SysFreeString(label);
     return text;

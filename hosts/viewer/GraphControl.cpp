@@ -69,9 +69,8 @@ void GraphControl::SetRounding(const std::vector<LONG>& rounding)
 {
     std::size_t at = 0;
     ForEachAxis([&](ISGraphAxis& axis) {
-        if (at < rounding.size()) {
+        if (at < rounding.size())
             Check(axis.SetAutoScale(rounding[at++]));
-        }
     });
 }
 
@@ -92,9 +91,8 @@ void GraphControl::FitDateLabels()
         Check(axis->GetDateTime(&date));
         Check(axis->GetValueForPos(0, &low));
         Check(axis->GetValueForPos(client.right, &high));
-        if (date && low < high) {
+        if (date && low < high)
             Check(axis->SetDisplayFmt(Bstr(DateFormatFor(low, high)).Get()));
-        }
     }
 }
 
@@ -134,9 +132,8 @@ int GraphControl::Operation() const
 
 void GraphControl::SetOperation(int operation)
 {
-    if (const unsigned command = CommandOf(operation); command != 0) {
+    if (const unsigned command = CommandOf(operation); command != 0)
         Send(command);
-    }
 }
 
 int GraphControl::ZoomDepth() const
@@ -161,9 +158,8 @@ int GraphControl::CurrentCurve() const
 void GraphControl::ChooseCurve(int curve)
 {
     m_curve = std::clamp(curve, 0, std::max(CurveCount() - 1, 0));
-    if (Operation() == opCursor) {
+    if (Operation() == opCursor)
         BindCursor();
-    }
 }
 
 bool GraphControl::ShowsLegend() const
@@ -201,9 +197,8 @@ ComPointer<ISGraphDataSerie> GraphControl::Curve(int curve) const
 std::u16string GraphControl::Reading() const
 {
     const int curve = CurrentCurve();
-    if (curve < 0) {
+    if (curve < 0)
         return {};
-    }
     TDataPoint point{};
     Check(m_graph.GetCursorAbsolute(curve, &point));
     const ComPointer<ISGraphDataSerie> serie = Curve(curve);

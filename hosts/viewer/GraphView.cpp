@@ -14,9 +14,8 @@ std::vector<TDataPoint> ToServerPoints(const std::vector<Point>& points)
 {
     std::vector<TDataPoint> result;
     result.reserve(points.size());
-    for (const Point& point : points) {
+    for (const Point& point : points)
         result.push_back({point.x, point.y});
-    }
     return result;
 }
 
@@ -33,9 +32,8 @@ GraphView::GraphView(const ChartServer& server, HWND parent, const RECT& place)
 // A graph's window doesn't go with its object.
 GraphView::~GraphView()
 {
-    if (IsWindow(m_window)) {
+    if (IsWindow(m_window))
         DestroyWindow(m_window);
-    }
 }
 
 void GraphView::Show(const PlotPlan& plan, const Options& options)
@@ -47,9 +45,8 @@ void GraphView::Show(const PlotPlan& plan, const Options& options)
 
 void GraphView::Refill(const PlotPlan& plan, const Options& options)
 {
-    for (std::size_t at = 0; at < plan.curves.size(); ++at) {
+    for (std::size_t at = 0; at < plan.curves.size(); ++at)
         AddCurve(plan.curves[at], static_cast<int>(at), options.points);
-    }
     GiveRanges(plan);
 
     ComPointer<ISGraphAxis> axis;
@@ -63,9 +60,8 @@ void GraphView::Refill(const PlotPlan& plan, const Options& options)
         // One grid is enough; keys and colours show which curve goes with which axis.
         Check(axis->SetShowGrid(at == 0));
         Check(axis->SetShowMarker(plan.y.size() > 1));
-        if (plan.y.size() == 2 && plan.curves.size() == 2) {
+        if (plan.y.size() == 2 && plan.curves.size() == 2)
             Check(axis->SetColor(ColorOf(at)));
-        }
     }
     Check(m_graph->Invalidate(TRUE));
 }
@@ -94,13 +90,11 @@ void GraphView::GiveRanges(const PlotPlan& plan)
     const Point first = plan.curves.front().points.front();
     for (std::size_t at = 0; at < plan.y.size(); ++at) {
         const Axis& y = plan.y[at];
-        if (plan.x.autoScale && y.autoScale) {
+        if (plan.x.autoScale && y.autoScale)
             continue;
-        }
         std::array<TDataPoint, 2> corners = {{{plan.x.low, y.low}, {plan.x.high, y.high}}};
-        if (plan.x.autoScale) {
+        if (plan.x.autoScale)
             corners[0].fXVal = corners[1].fXVal = first.x;
-        }
         const int helper = static_cast<int>(plan.curves.size());
         Check(m_graph->SetData(nullptr, corners.data(), 2, helper, 0, static_cast<int>(at), TRUE));
         Check(m_graph->DeleteCurve(helper));

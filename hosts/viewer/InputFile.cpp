@@ -32,22 +32,18 @@ std::string ReadWholeFile(const std::u16string& path)
     const HANDLE opened =
         CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                     OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) {
+    if (opened == INVALID_HANDLE_VALUE)
         Refuse(path, SystemText(GetLastError()));
-    }
     const std::unique_ptr<void, HandleCloser> file(opened);
     LARGE_INTEGER size{};
-    if (!GetFileSizeEx(file.get(), &size)) {
+    if (!GetFileSizeEx(file.get(), &size))
         Refuse(path, SystemText(GetLastError()));
-    }
-    if (size.QuadPart > LargestFile) {
+    if (size.QuadPart > LargestFile)
         Refuse(path, u"it has more than 256 MB");
-    }
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD read = 0;
-    if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) {
+    if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
         Refuse(path, SystemText(GetLastError()));
-    }
     bytes.resize(read);
     return bytes;
 }

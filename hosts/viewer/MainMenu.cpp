@@ -73,9 +73,8 @@ constexpr std::array HelpItems = {Item{Keys, L"&Keys and mouse\tF1"}, Item{About
 
 void Append(HMENU menu, std::span<const Item> items)
 {
-    for (const Item& item : items) {
+    for (const Item& item : items)
         AppendMenuW(menu, item.command ? MF_STRING : MF_SEPARATOR, item.command, item.text);
-    }
 }
 
 HMENU MakePopup(std::span<const Item> items)
@@ -106,9 +105,8 @@ HMENU MakeAnimationMenu()
     const std::array first = {Item{NoAnimation, L"&None"}};
     const HMENU menu = MakePopup(first);
     UINT_PTR command = FirstAnimation;
-    for (const Animation& animation : Animations()) {
+    for (const Animation& animation : Animations())
         AppendMenuW(menu, MF_STRING, command++, ToWide(animation.title).c_str());
-    }
     return menu;
 }
 
@@ -117,15 +115,12 @@ HMENU FindPopup(HMENU menu, unsigned firstCommand)
 {
     for (int at = 0; at < GetMenuItemCount(menu); ++at) {
         const HMENU popup = GetSubMenu(menu, at);
-        if (!popup) {
+        if (!popup)
             continue;
-        }
-        if (GetMenuItemID(popup, 0) == firstCommand) {
+        if (GetMenuItemID(popup, 0) == firstCommand)
             return popup;
-        }
-        if (const HMENU deeper = FindPopup(popup, firstCommand)) {
+        if (const HMENU deeper = FindPopup(popup, firstCommand))
             return deeper;
-        }
     }
     return nullptr;
 }
@@ -134,33 +129,27 @@ HMENU FindPopup(HMENU menu, unsigned firstCommand)
 void FillPopup(HMENU menu, unsigned first, unsigned last, std::span<const std::u16string> names)
 {
     const HMENU popup = FindPopup(menu, first);
-    if (!popup) {
+    if (!popup)
         return;
-    }
-    while (GetMenuItemCount(popup) > 0) {
+    while (GetMenuItemCount(popup) > 0)
         DeleteMenu(popup, 0, MF_BYPOSITION);
-    }
     UINT_PTR command = first;
     for (const std::u16string& name : names) {
-        if (command > last) {
+        if (command > last)
             break;
-        }
         std::wstring text;
-        for (const wchar_t unit : ToWide(name)) {
+        for (const wchar_t unit : ToWide(name))
             text += unit == L'&' ? std::wstring(L"&&") : std::wstring(1, unit);
-        }
         AppendMenuW(popup, MF_STRING, command++, text.c_str());
     }
-    if (names.empty()) {
+    if (names.empty())
         AppendMenuW(popup, MF_STRING | MF_GRAYED, first, L"none");
-    }
 }
 
 void Enable(HMENU menu, std::span<const Item> items, bool enabled)
 {
-    for (const Item& item : items) {
+    for (const Item& item : items)
         EnableMenuItem(menu, item.command, enabled ? MF_ENABLED : MF_GRAYED);
-    }
 }
 
 void Check(HMENU menu, unsigned command, bool checked)
@@ -221,25 +210,21 @@ void UpdateMenu(HMENU menu, const MenuState& state)
         EnableMenuItem(menu, command, graph ? MF_ENABLED : MF_GRAYED);
     }
     Enable(menu, PieItems, state.kind == ChartKind::Pie3d);
-    for (const Item& item : ModeItems) {
+    for (const Item& item : ModeItems)
         Check(menu, item.command, graph && item.command == CommandOf(state.operation));
-    }
     Check(menu, Legend, state.legend);
     Check(menu, Snap, state.snap);
     Check(menu, FirstCurve + static_cast<unsigned>(state.curve), state.curve >= 0);
-    for (const Item& item : SpanItems) {
+    for (const Item& item : SpanItems)
         Check(menu, item.command, item.command - FirstSpan == static_cast<unsigned>(state.span));
-    }
-    for (const Item& item : KindItems) {
+    for (const Item& item : KindItems)
         Check(menu, item.command, item.command - FirstKind == static_cast<unsigned>(state.kind));
-    }
     Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Doughnut),
           state.style == PieStyle::Doughnut);
     Check(menu, FirstStyle + static_cast<unsigned>(PieStyle::Flat), state.style == PieStyle::Flat);
     Check(menu, LastStyle, state.style == PieStyle::Solid);
-    for (unsigned order = FirstOrder; order <= LastOrder; ++order) {
+    for (unsigned order = FirstOrder; order <= LastOrder; ++order)
         Check(menu, order, order - FirstOrder == static_cast<unsigned>(state.order));
-    }
     Check(menu, NoAnimation, state.animation.empty());
     unsigned command = FirstAnimation;
     for (const Animation& animation : Animations()) {

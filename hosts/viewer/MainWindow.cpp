@@ -25,9 +25,8 @@ struct FrameStyle {
 
 FrameStyle StyleOf(FrameKind kind)
 {
-    if (kind == FrameKind::ForPerson) {
+    if (kind == FrameKind::ForPerson)
         return {WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0};
-    }
     return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
 }
 
@@ -66,18 +65,16 @@ MainWindow::MainWindow(FrameKind kind, int width, int height, std::u16string_vie
     CreateWindowExW(style.extended, ClassName, ToWide(title).c_str(), style.style, place, place,
                     frame.right - frame.left, frame.bottom - frame.top, nullptr,
                     picture ? nullptr : MakeMainMenu(), GetModuleHandleW(nullptr), this);
-    if (!m_window) {
+    if (!m_window)
         throw Error{ExitCode::NoPicture, u"no window can be made (" + SystemText(GetLastError()) + u")"};
-    }
 }
 
 MainWindow::~MainWindow()
 {
     m_events = nullptr;
     m_view.reset();
-    if (m_window) {
+    if (m_window)
         DestroyWindow(m_window);
-    }
 }
 
 void MainWindow::SetTitle(std::u16string_view title)
@@ -100,9 +97,8 @@ void MainWindow::SetStatus(StatusPart part, std::u16string_view text)
 
 void MainWindow::ShowTools(bool graph, int operation)
 {
-    if (m_tools) {
+    if (m_tools)
         m_tools->Show(graph, operation);
-    }
 }
 
 void MainWindow::Tick(bool on)
@@ -134,9 +130,8 @@ void MainWindow::MakeBars()
 
 LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (HandleEvent(message, wParam)) {
+    if (HandleEvent(message, wParam))
         return 0;
-    }
     switch (message) {
     case WM_CREATE:
         if (m_kind == FrameKind::ForPerson) {
@@ -155,9 +150,8 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         }
         break;
     case WM_SETFOCUS:
-        if (m_view) {
+        if (m_view)
             SetFocus(m_view->Window());
-        }
         return 0;
     case WM_DESTROY:
         m_view.reset();
@@ -177,9 +171,8 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
 {
-    if (!m_events) {
+    if (!m_events)
         return false;
-    }
     switch (message) {
     case WM_COMMAND:
         if (HIWORD(wParam) > 1) { // neither a menu, a key nor a button
@@ -191,9 +184,8 @@ bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
         m_events->OnOpenMenu(reinterpret_cast<HMENU>(wParam));
         return true;
     case WM_PARENTNOTIFY:
-        if (LOWORD(wParam) == WM_LBUTTONDOWN) {
+        if (LOWORD(wParam) == WM_LBUTTONDOWN)
             PostMessageW(m_window, ChartClicked, 0, 0);
-        }
         return false;
     case ChartClicked:
         m_events->OnChartClicked();
@@ -214,9 +206,8 @@ bool MainWindow::HandleEvent(UINT message, WPARAM wParam)
 
 void MainWindow::LayOut()
 {
-    if (m_tools) {
+    if (m_tools)
         m_tools->LayOut();
-    }
     if (m_status) {
         SendMessageW(m_status, WM_SIZE, 0, 0); // it finds its place itself
         RECT client{};
@@ -227,18 +218,16 @@ void MainWindow::LayOut()
                                    std::max<int>(client.right - operationWidth, 100), -1};
         SendMessageW(m_status, SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
     }
-    if (m_view) {
+    if (m_view)
         m_view->MoveTo(ChartPlace());
-    }
 }
 
 RECT MainWindow::ChartPlace() const
 {
     RECT place{};
     GetClientRect(m_window, &place);
-    if (m_tools) {
+    if (m_tools)
         place.top = std::min<LONG>(m_tools->Height(), place.bottom);
-    }
     if (m_status) {
         RECT status{};
         GetWindowRect(m_status, &status);

@@ -13,13 +13,11 @@ HANDLE FindHandle(Stream stream)
 {
     const DWORD number = stream == Stream::Output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE;
     HANDLE handle = GetStdHandle(number);
-    if (handle && handle != INVALID_HANDLE_VALUE) {
+    if (handle && handle != INVALID_HANDLE_VALUE)
         return handle;
-    }
     // A window program that was started from a console has to ask for it.
-    if (!AttachConsole(ATTACH_PARENT_PROCESS)) {
+    if (!AttachConsole(ATTACH_PARENT_PROCESS))
         return nullptr;
-    }
     handle = GetStdHandle(number);
     return handle == INVALID_HANDLE_VALUE ? nullptr : handle;
 }
@@ -39,9 +37,8 @@ std::string ToUtf8(std::wstring_view text)
 bool Print(Stream stream, std::u16string_view text)
 {
     const HANDLE handle = FindHandle(stream);
-    if (!handle) {
+    if (!handle)
         return false;
-    }
     const std::wstring wide = ToWide(text);
     DWORD mode = 0;
     DWORD written = 0;

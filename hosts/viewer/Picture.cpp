@@ -35,9 +35,8 @@ public:
     GdiplusSession()
     {
         const Gdiplus::GdiplusStartupInput input;
-        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok) {
+        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok)
             Refuse(u"GDI+ can't be started");
-        }
     }
     GdiplusSession(const GdiplusSession&) = delete;
     GdiplusSession& operator=(const GdiplusSession&) = delete;
@@ -55,9 +54,8 @@ void SaveAsPng(const Capture& capture, const std::u16string& path)
     Gdiplus::Bitmap picture(capture.Width(), capture.Height(), capture.Stride(), PixelFormat24bppRGB,
                             const_cast<BYTE*>(capture.Bits()));
     Gdiplus::Status status = picture.GetLastStatus();
-    if (status == Gdiplus::Ok) {
+    if (status == Gdiplus::Ok)
         status = picture.Save(ToWide(path).c_str(), &PngEncoder, nullptr);
-    }
     if (status != Gdiplus::Ok) {
         Refuse(u"can't write " + Quote(path) + u" (GDI+ status " +
                ToText(static_cast<std::size_t>(status)) + u")");

@@ -32,14 +32,12 @@ PieView::PieView(const ChartServer& server, HWND parent, const RECT& place, cons
     m_window = HandleOf(*m_pie.Get());
     Check(m_pie->SetParentWindowColor(GetSysColor(COLOR_WINDOW)));
     std::u16string labels;
-    for (const Slice& slice : plan.slices) {
+    for (const Slice& slice : plan.slices)
         labels += slice.name;
-    }
     Check(m_pie->SetLabelFontName(Bstr(FaceFor(labels)).Get()));
     Check(m_pie->SetTitleFontName(Bstr(FaceFor(options.title)).Get()));
-    if (options.gradient) {
+    if (options.gradient)
         Check(m_pie->SetBackgrndColor(RGB(0xB8, 0xCC, 0xE8)));
-    }
     for (std::size_t at = 0; at < plan.slices.size(); ++at) {
         const Slice& slice = plan.slices[at];
         Check(m_pie->InsertItem(Bstr(slice.name).Get(),
@@ -69,9 +67,8 @@ std::u16string PieView::SelectedName()
     VARIANT* item = nullptr;
     Check(m_pie->GetSelectedElement(&item));
     BSTR name = nullptr;
-    if (!item || m_pie->GetElementName(item, &name) != S_OK || !name) {
+    if (!item || m_pie->GetElementName(item, &name) != S_OK || !name)
         return {};
-    }
     std::u16string text = FromWide({name, SysStringLen(name)});
     SysFreeString(name);
     return text;

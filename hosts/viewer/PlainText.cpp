@@ -16,9 +16,8 @@ std::u16string Quote(std::u16string_view name)
 {
     constexpr std::size_t longest = 60;
     std::u16string text = u"\"";
-    for (const char16_t unit : name.substr(0, longest)) {
+    for (const char16_t unit : name.substr(0, longest))
         text.push_back(unit < u' ' ? u' ' : unit);
-    }
     return text + (name.size() > longest ? u"...\"" : u"\"");
 }
 
@@ -26,9 +25,8 @@ std::u16string_view TrimBlanks(std::u16string_view text)
 {
     constexpr std::u16string_view blanks = u" \t\r\n\u00A0";
     const std::size_t first = text.find_first_not_of(blanks);
-    if (first == text.npos) {
+    if (first == text.npos)
         return {};
-    }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 

@@ -28,9 +28,8 @@ std::u16string NamesOf(const Table& table)
     std::u16string names;
     for (const Column& column : table.columns) {
         names += (names.empty() ? u"" : u", ") + Quote(column.name);
-        if (names.size() > 400) {
+        if (names.size() > 400)
             return names + u"...";
-        }
     }
     return names;
 }
@@ -38,9 +37,8 @@ std::u16string NamesOf(const Table& table)
 const Column& Need(const Table& table, const std::u16string& name)
 {
     const Column* column = table.Find(name);
-    if (!column) {
+    if (!column)
         Refuse(u"there is no column " + Quote(name) + u"; there are " + NamesOf(table));
-    }
     return *column;
 }
 
@@ -72,9 +70,8 @@ public:
         m_plan.endsInsideQuotes = m_table.endsInsideQuotes;
         ChooseX();
         ChooseY();
-        for (const Request& request : m_requests) {
+        for (const Request& request : m_requests)
             AddCurves(request);
-        }
         DropEmptyCurves();
         DescribeXAxis();
         DescribeYAxes();
@@ -86,9 +83,8 @@ private:
     {
         if (m_options.x) {
             m_x = &Need(m_table, *m_options.x);
-            if (m_x->kind == ColumnKind::Empty) {
+            if (m_x->kind == ColumnKind::Empty)
                 Refuse(u"column " + Quote(m_x->name) + u" is empty");
-            }
             return;
         }
         const Column& first = m_table.columns.front();
@@ -99,42 +95,35 @@ private:
 
     void ChooseY()
     {
-        if (m_options.group) {
+        if (m_options.group)
             m_group = &Need(m_table, *m_options.group);
-        }
-        for (const std::u16string& name : m_options.y) {
+        for (const std::u16string& name : m_options.y)
             m_requests.push_back({&Need(m_table, name), 0});
-        }
         std::vector<const Column*> second;
-        for (const std::u16string& name : m_options.y2) {
+        for (const std::u16string& name : m_options.y2)
             second.push_back(&Need(m_table, name));
-        }
         if (m_options.y.empty()) {
             for (const Column& column : m_table.columns) {
                 const bool taken =
                     &column == m_x || std::count(second.begin(), second.end(), &column) > 0;
-                if (column.kind == ColumnKind::Number && !taken && &column != m_group) {
+                if (column.kind == ColumnKind::Number && !taken && &column != m_group)
                     m_requests.push_back({&column, 0});
-                }
             }
         }
         // Axes are numbered without gaps: if the first one has no column, the second is the first.
         const int secondAxis = m_requests.empty() ? 0 : 1;
-        for (const Column* column : second) {
+        for (const Column* column : second)
             m_requests.push_back({column, secondAxis});
-        }
-        if (m_requests.empty()) {
+        if (m_requests.empty())
             Refuse(u"no column holds numbers to plot; there are " + NamesOf(m_table));
-        }
         m_plan.y.resize(secondAxis == 1 && !second.empty() ? 2 : 1);
     }
 
     void AddCurves(const Request& request)
     {
         std::map<std::u16string, std::size_t> curveOfWord;
-        if (!m_group) {
+        if (!m_group)
             AddCurve(request.column->name, request);
-        }
         std::size_t current = m_plan.curves.size() - 1;
         for (std::size_t row = 0; row < m_table.Rows(); ++row) {
             if (m_group) {
@@ -158,9 +147,8 @@ private:
 
     void AddCurve(std::u16string label, const Request& request)
     {
-        if (m_plan.curves.size() == MostCurves) {
+        if (m_plan.curves.size() == MostCurves)
             Refuse(u"more than " + ToText(MostCurves) + u" curves; choose columns with --y");
-        }
         m_plan.curves.emplace_back();
         m_plan.curves.back().label = std::move(label);
         m_plan.curves.back().yAxis = request.yAxis;
@@ -175,9 +163,8 @@ private:
             curve.points.push_back({*x, *y});
             return;
         }
-        if (curve.skipped++ == 0) {
+        if (curve.skipped++ == 0)
             curve.firstSkippedLine = m_table.lines[row];
-        }
     }
 
     void DropEmptyCurves()
@@ -189,17 +176,15 @@ private:
             }
         }
         for (const Curve& curve : m_plan.curves) {
-            if (curve.points.empty() && !m_group) {
+            if (curve.points.empty() && !m_group)
                 Refuse(u"no row has a value to plot in column " + Quote(curve.label));
-            }
         }
         std::erase_if(m_plan.curves, [](const Curve& curve) { return curve.points.empty(); });
         for (int axis = 0; axis < static_cast<int>(m_plan.y.size()); ++axis) {
             const bool used = std::any_of(m_plan.curves.begin(), m_plan.curves.end(),
                                           [&](const Curve& curve) { return curve.yAxis == axis; });
-            if (!used) {
+            if (!used)
                 Refuse(u"no row has a value to plot in column " + Quote(FirstOn(axis)->name));
-            }
         }
     }
 
@@ -223,9 +208,8 @@ private:
             }
         }
         FinishAxis(axis);
-        if (!m_x) {
+        if (!m_x)
             CountWholeRows(axis);
-        }
     }
 
     // A graph rounds few rows to steps of a fraction; in tenths of its range it steps by whole rows.
@@ -233,9 +217,8 @@ private:
     {
         constexpr double mostSteps = 25; // beyond these it steps by whole rows itself
         const double steps = axis.high - axis.low;
-        if (steps < 1 || steps > mostSteps) {
+        if (steps < 1 || steps > mostSteps)
             return;
-        }
         axis.autoScale = false;
         axis.high = axis.low + 10 * std::ceil(steps / 10);
         axis.format = u"%.0f";
@@ -247,9 +230,8 @@ private:
             Axis& axis = m_plan.y[at];
             bool first = true;
             for (const Curve& curve : m_plan.curves) {
-                if (curve.yAxis != static_cast<int>(at)) {
+                if (curve.yAxis != static_cast<int>(at))
                     continue;
-                }
                 for (const Point& point : curve.points) {
                     axis.low = first ? point.y : std::min(axis.low, point.y);
                     axis.high = first ? point.y : std::max(axis.high, point.y);
@@ -268,9 +250,8 @@ private:
 
     static void FinishAxis(Axis& axis)
     {
-        if (axis.title.size() > LongestTitle) {
+        if (axis.title.size() > LongestTitle)
             axis.title.clear();
-        }
         axis.format =
             axis.date ? DateFormatFor(axis.low, axis.high) : NumberFormatFor(axis.low, axis.high);
         if (axis.date && !GraphRoundsDatesWell(axis.low, axis.high)) {
@@ -311,12 +292,10 @@ std::u16string Describe(const PlotPlan& plan, std::u16string_view fileName)
         }
         text += u"\n";
     }
-    if (plan.rowNumbers) {
+    if (plan.rowNumbers)
         text += u"  the first column holds no numbers or dates: rows are numbered instead\n";
-    }
-    if (plan.endsInsideQuotes) {
+    if (plan.endsInsideQuotes)
         text += u"  warning: the last quoted cell is never closed\n";
-    }
     return text;
 }
 

@@ -25,9 +25,8 @@ ScriptRunner::ScriptRunner(Session& session) : m_session(session)
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
     g_runner = this;
     m_timer = SetTimer(nullptr, 0, Patience, [](HWND, UINT, UINT_PTR, DWORD) {
-        if (g_runner && g_runner->m_isRunning) {
+        if (g_runner && g_runner->m_isRunning)
             g_runner->RunInDialog();
-        }
     });
 }
 
@@ -42,9 +41,8 @@ void ScriptRunner::RunInDialog()
 {
     const HWND dialog = Dialogs::Open();
     const HWND menu = Dialogs::OpenMenu();
-    if (!dialog && !menu) {
+    if (!dialog && !menu)
         return;
-    }
     if (m_failure || m_steps.empty()) {
         EndMenu();
         PostMessageW(dialog, WM_CLOSE, 0, 0);
@@ -66,9 +64,8 @@ void ScriptRunner::RunInDialog()
 
 bool ScriptRunner::RunDialog(const Step& step)
 {
-    if (step.verb < Verb::Choose) {
+    if (step.verb < Verb::Choose)
         return false;
-    }
     const HWND dialog = Dialogs::Open();
     const HWND menu = Dialogs::OpenMenu();
     if (step.verb == Verb::Choose ? !menu : !dialog) {

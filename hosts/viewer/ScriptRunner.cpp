@@ -64,9 +64,8 @@ constexpr std::array<Word, 12> Keys = {{{u"home", VK_HOME},
 template <class Words> unsigned Look(const Words& words, std::u16string_view sought)
 {
     for (const auto& [word, number] : words) {
-        if (word == sought) {
+        if (word == sought)
             return number;
-        }
     }
     return 0;
 }
@@ -89,18 +88,16 @@ void ScriptRunner::Run(std::span<const Step> steps)
         m_isRunning = true;
         RunStep(step);
         m_isRunning = false;
-        if (m_failure) {
+        if (m_failure)
             std::rethrow_exception(m_failure);
-        }
         Settle();
     }
 }
 
 void ScriptRunner::RunStep(const Step& step)
 {
-    if (RunMouse(step) || RunDialog(step)) {
+    if (RunMouse(step) || RunDialog(step))
         return;
-    }
     switch (step.verb) {
     case Verb::Mode:
     case Verb::Command:
@@ -116,14 +113,12 @@ void ScriptRunner::RunStep(const Step& step)
         Type(step.text);
         break;
     case Verb::Save:
-        if (!m_session.SaveGraph(step.text, PERSIST_PROPERTIES)) {
+        if (!m_session.SaveGraph(step.text, PERSIST_PROPERTIES))
             throw Error{ExitCode::NoPicture, u"can't write " + Quote(step.text)};
-        }
         break;
     case Verb::Load:
-        if (!m_session.LoadGraph(step.text)) {
+        if (!m_session.LoadGraph(step.text))
             throw Error{ExitCode::BadData, u"can't read " + Quote(step.text)};
-        }
         break;
     case Verb::Picture:
         SaveAsPng(Capture(m_session.ChartWindow(), Capture::Paint::AsIs), step.text);
@@ -141,9 +136,8 @@ void ScriptRunner::RunStep(const Step& step)
 
 bool ScriptRunner::RunMouse(const Step& step)
 {
-    if (step.places.empty()) {
+    if (step.places.empty())
         return false;
-    }
     const POINT first = Find(step.places.front(), step);
     const POINT last = Find(step.places.back(), step);
     switch (step.verb) {
@@ -176,22 +170,19 @@ void ScriptRunner::RunCommand(const Step& step)
     const unsigned command =
         step.text.empty() ? static_cast<unsigned>(step.number) : Look(Commands, step.text);
     const bool graphOnly = command >= VPX_COMMAND_SELECT;
-    if (graphOnly) {
+    if (graphOnly)
         (void)Graph(step);
-    }
     SendMessageW(m_session.Frame().Window(), WM_COMMAND, command, 0);
     const std::u16string failure = m_session.TakeFailure();
-    if (!failure.empty()) {
+    if (!failure.empty())
         throw Error{ExitCode::BadData, u"script, line " + ToText(step.line) + u": " + failure};
-    }
 }
 
 GraphControl& ScriptRunner::Graph(const Step& step) const
 {
     GraphControl* graph = m_session.Graph();
-    if (!graph) {
+    if (!graph)
         Refuse(step, u"only an XY graph can do that");
-    }
     return *graph;
 }
 
@@ -209,9 +200,8 @@ POINT ScriptRunner::Find(const Place& place, const Step& step) const
     if (place.y.unit == Coordinate::Unit::OnCurve) {
         GraphControl& graph = Graph(step);
         const int curve = static_cast<int>(place.y.value);
-        if (curve >= graph.CurveCount()) {
+        if (curve >= graph.CurveCount())
             Refuse(step, u"there is no such curve");
-        }
         point.y = graph.PixelOnCurve(curve, point.x);
     } else {
         point.y = pixel(place.y, client.bottom);
@@ -256,9 +246,8 @@ void ScriptRunner::Drag(POINT from, POINT to, bool release)
                  {from.x + (to.x - from.x) * at / steps, from.y + (to.y - from.y) * at / steps});
         }
     }
-    if (release) {
+    if (release)
         Post(WM_LBUTTONUP, 0, to);
-    }
     Send(WM_LBUTTONDOWN, MK_LBUTTON, from);
 }
 
@@ -271,9 +260,8 @@ void ScriptRunner::Release(POINT place)
 void ScriptRunner::Turn(int notches)
 {
     const short delta = notches < 0 ? -WHEEL_DELTA : WHEEL_DELTA;
-    for (int at = 0; at < std::abs(notches); ++at) {
+    for (int at = 0; at < std::abs(notches); ++at)
         SendMessageW(m_session.ChartWindow(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(delta)), 0);
-    }
 }
 
 // Keys go through the queue, where the chart looks out for some of them.
@@ -292,9 +280,8 @@ void ScriptRunner::Press(WPARAM key)
 void ScriptRunner::Type(std::u16string_view text)
 {
     const HWND focus = GetFocus();
-    for (const char16_t unit : text) {
+    for (const char16_t unit : text)
         SendMessageW(focus, WM_CHAR, unit, 1);
-    }
 }
 
 void ScriptRunner::Post(UINT message, WPARAM wParam, POINT place)
@@ -313,26 +300,22 @@ void ScriptRunner::Send(UINT message, WPARAM wParam, POINT place)
 bool ScriptRunner::IsOurs(const MSG& message)
 {
     const bool mouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
-    if (!mouse) {
+    if (!mouse)
         return true;
-    }
     while (!m_posted.empty()) {
         const Posted next = m_posted.front();
         if (next.message == message.message && next.place == message.lParam) {
             m_posted.pop_front();
             return true;
         }
-        if (message.hwnd != m_session.ChartWindow()) {
+        if (message.hwnd != m_session.ChartWindow())
             return false;
-        }
         // Either the pointer's, or some of ours went through the loop of a drag.
         bool later = false;
-        for (const Posted& posted : m_posted) {
+        for (const Posted& posted : m_posted)
             later = later || (posted.message == message.message && posted.place == message.lParam);
-        }
-        if (!later) {
+        if (!later)
             return false;
-        }
         m_posted.pop_front();
     }
     return false;

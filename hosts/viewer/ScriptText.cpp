@@ -79,14 +79,12 @@ public:
         const std::u16string_view word = NextWord();
         const auto* form = std::find_if(Forms.begin(), Forms.end(),
                                         [&](const VerbForm& known) { return known.word == word; });
-        if (form == Forms.end()) {
+        if (form == Forms.end())
             Refuse(u"unknown step " + Quote(word));
-        }
         Step step{form->verb, m_line, {}, {}, 0};
         Read(form->wants, step);
-        if (!TrimBlanks(m_rest).empty()) {
+        if (!TrimBlanks(m_rest).empty())
             Refuse(u"too much: " + Quote(TrimBlanks(m_rest)));
-        }
         return step;
     }
 
@@ -141,9 +139,8 @@ private:
                            : step.verb == Verb::Key  ? known(Keys)
                            : step.verb == Verb::Page ? known(Pages)
                                                      : known(Commands);
-        if (!found) {
+        if (!found)
             Refuse(u"unknown word " + Quote(word));
-        }
         step.text = word;
     }
 
@@ -152,23 +149,20 @@ private:
         const std::u16string_view word = NextWord();
         Need(!word.empty());
         for (const auto& [name, number] : Buttons) {
-            if (name == word) {
+            if (name == word)
                 return number;
-            }
         }
         const double number = NextNumber(word, 65535);
-        if (number < 1) {
+        if (number < 1)
             Refuse(u"no control: " + Quote(word));
-        }
         return static_cast<int>(number);
     }
 
     Place NextPlace()
     {
         const Coordinate x = NextCoordinate();
-        if (x.unit == Coordinate::Unit::OnCurve) {
+        if (x.unit == Coordinate::Unit::OnCurve)
             Refuse(u"only Y can be on a curve");
-        }
         return {x, NextCoordinate()};
     }
 
@@ -179,16 +173,14 @@ private:
         Need(!word.empty());
         if (word.starts_with(onCurve)) {
             const double number = NextNumber(word.substr(onCurve.size()), 10000);
-            if (number < 1) {
+            if (number < 1)
                 Refuse(u"curves are counted from 1");
-            }
             return {Coordinate::Unit::OnCurve, number - 1};
         }
         if (word.ends_with(u'%')) {
             const std::optional<double> part = ParseNumber(word.substr(0, word.size() - 1), false);
-            if (!part || !(std::fabs(*part) <= 1000)) {
+            if (!part || !(std::fabs(*part) <= 1000))
                 Refuse(u"no place: " + Quote(word));
-            }
             return {Coordinate::Unit::Percent, *part};
         }
         return {Coordinate::Unit::Pixels, NextNumber(word, 30000)};
@@ -198,9 +190,8 @@ private:
     double NextNumber(std::u16string_view word, double most) const
     {
         const std::optional<double> number = ParseNumber(word, false);
-        if (!number || std::fabs(*number) > most || *number != std::floor(*number)) {
+        if (!number || std::fabs(*number) > most || *number != std::floor(*number))
             Refuse(u"a whole number is wanted, not " + Quote(word));
-        }
         return *number;
     }
 
@@ -215,9 +206,8 @@ private:
 
     void Need(bool there) const
     {
-        if (!there) {
+        if (!there)
             Refuse(u"something is missing");
-        }
     }
 
     [[noreturn]] void Refuse(std::u16string_view reason) const
@@ -239,9 +229,8 @@ std::vector<Step> ParseScript(std::u16string_view text)
         const std::size_t end = text.find(u'\n');
         const std::u16string_view content = TrimBlanks(text.substr(0, end));
         text.remove_prefix(end == text.npos ? text.size() : end + 1);
-        if (!content.empty() && content.front() != u'#') {
+        if (!content.empty() && content.front() != u'#')
             steps.push_back(LineParser(content, line).Parse());
-        }
     }
     return steps;
 }

@@ -60,16 +60,14 @@ void Session::ResumePainting()
 std::u16string Session::ShowChart()
 {
     const bool visible = IsWindowVisible(m_window.Window()) != FALSE;
-    if (visible) {
+    if (visible)
         StopPainting();
-    }
     std::u16string description;
     try {
         description = m_document.options.chart == ChartKind::Graph ? MakeGraph() : MakeCategories();
     } catch (...) {
-        if (visible) {
+        if (visible)
             ResumePainting();
-        }
         throw;
     }
     if (visible) {
@@ -114,9 +112,8 @@ std::u16string Session::MakeCategories()
     m_business = business;
     m_pie = pie;
     m_window.SetView(std::move(view));
-    if (!options.animation.empty()) {
+    if (!options.animation.empty())
         Animate(options.animation);
-    }
     return Describe(plan, m_document.name);
 }
 
@@ -144,16 +141,14 @@ bool Session::SaveGraph(const std::u16string& path, unsigned sections) const
 
 bool Session::LoadGraph(const std::u16string& path)
 {
-    if (!m_control) {
+    if (!m_control)
         return false;
-    }
     auto& view = static_cast<GraphView&>(*m_window.View());
     const bool read = m_control->Load(path);
     if (!read || m_control->CurveCount() > 0) {
         // What a broken file leaves is no graph to work with; one with curves of its own is.
-        if (!read) {
+        if (!read)
             ShowChart();
-        }
         ShowState();
         return read;
     }
@@ -180,9 +175,8 @@ MenuState Session::StateOfMenu() const
         state.snap = m_control->SnapsCursor();
         state.curve = m_control->CurrentCurve();
         auto& graph = static_cast<const GraphView&>(*m_window.View()).Graph();
-        for (int curve = 0; curve < m_control->CurveCount(); ++curve) {
+        for (int curve = 0; curve < m_control->CurveCount(); ++curve)
             state.curves.push_back(NameOfCurve(graph, curve));
-        }
     }
     return state;
 }

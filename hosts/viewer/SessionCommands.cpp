@@ -80,26 +80,22 @@ bool Session::RunFile(unsigned command)
     const HWND owner = m_window.Window();
     if (command == OpenCsv) {
         const std::u16string path = AskForCsv(owner);
-        if (!path.empty()) {
+        if (!path.empty())
             Open(path);
-        }
     } else if (IsIn(command, FirstRecent, LastRecent)) {
         const std::vector<std::u16string> files = RecentFiles::List();
-        if (command - FirstRecent < files.size()) {
+        if (command - FirstRecent < files.size())
             Open(files[command - FirstRecent]);
-        }
     } else if (command == Follow) {
         ToggleFollowing();
     } else if (command == OpenGraph) {
         const std::u16string path = AskForGraph(owner);
-        if (!path.empty() && !LoadGraph(path)) {
+        if (!path.empty() && !LoadGraph(path))
             Fail(u"The graph file can't be read: only settings can be, not curves and objects.");
-        }
     } else if (command == MenuCommand::SaveGraph) {
         const GraphTarget target = AskForGraphTarget(owner);
-        if (!target.path.empty() && !SaveGraph(target.path, target.sections)) {
+        if (!target.path.empty() && !SaveGraph(target.path, target.sections))
             Fail(u"The graph file can't be written.");
-        }
     } else {
         return false;
     }
@@ -118,12 +114,10 @@ void Session::Open(const std::u16string& path)
     options.y2.clear();
     options.pick.clear();
     Show(ReadDocument(options));
-    if (!m_scripted) {
+    if (!m_scripted)
         RecentFiles::Add(path);
-    }
-    if (m_followed) {
+    if (m_followed)
         m_followed.emplace(path);
-    }
 }
 
 // If it can't be shown, the document before stays.
@@ -153,9 +147,8 @@ void Session::ToggleFollowing()
 void Session::OnTick()
 {
     const bool busy = GetCapture() != nullptr || (m_control && m_control->ZoomDepth() > 0 && !m_isReset);
-    if (!m_followed || busy || !m_followed->HasChanged()) {
+    if (!m_followed || busy || !m_followed->HasChanged())
         return;
-    }
     const int operation = m_control ? m_control->Operation() : opNone;
     try {
         Show(ReadDocument(m_document.options));
@@ -198,9 +191,8 @@ bool Session::RunPicture(unsigned command)
 
 bool Session::RunGraph(unsigned command)
 {
-    if (!m_control) {
+    if (!m_control)
         return false;
-    }
     if (command == DeleteMeasures) {
         m_control->DeleteMeasures();
     } else if (command == ViewMoved || (command == ViewDragged && m_control->Operation() == opPan)) {
@@ -237,9 +229,8 @@ bool Session::RunGraph(unsigned command)
 
 void Session::Analyse(Analysis analysis, int parameter)
 {
-    if (!m_control->Analyse(analysis, parameter)) {
+    if (!m_control->Analyse(analysis, parameter))
         Fail(u"This can't be worked out from the curve.");
-    }
 }
 
 bool Session::RunChart(unsigned command)
@@ -288,9 +279,8 @@ void Session::Animate(std::u16string_view word)
 
 void Session::StopAtTick()
 {
-    if (m_business && m_document.options.tick >= 0) {
+    if (m_business && m_document.options.tick >= 0)
         m_business->StopAtTick(m_document.options.tick);
-    }
 }
 
 // By so many degrees; 0 shows the other looks anew.
@@ -298,9 +288,8 @@ void Session::Tilt(int degrees)
 {
     Options& options = m_document.options;
     options.tilt = std::clamp(options.tilt + degrees, 0, 85);
-    if (m_pie) {
+    if (m_pie)
         m_pie->SetLooks(options);
-    }
 }
 
 void Session::OnOpenMenu(HMENU menu)
@@ -346,9 +335,8 @@ bool Session::AnswerGraph(UINT message, WPARAM wParam)
 
 void Session::ShowPopup()
 {
-    if (m_scripted) {
+    if (m_scripted)
         return;
-    }
     POINT place{};
     GetCursorPos(&place);
     const HMENU menu = MakeGraphPopup();
@@ -356,17 +344,15 @@ void Session::ShowPopup()
     const BOOL command = TrackPopupMenu(menu, TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY, place.x,
                                         place.y, 0, m_window.Window(), nullptr);
     DestroyMenu(menu);
-    if (command) {
+    if (command)
         OnCommand(static_cast<unsigned>(command));
-    }
 }
 
 // A pie notifies its host of nothing: after a click one asks.
 void Session::OnChartClicked()
 {
-    if (m_pie) {
+    if (m_pie)
         m_window.SetStatus(MainWindow::StatusPart::Text, m_pie->SelectedName());
-    }
 }
 
 } // namespace Viewer

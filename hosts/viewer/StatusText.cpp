@@ -41,9 +41,8 @@ template <std::size_t size, class... Values> std::u16string Format(const char* f
 std::u16string_view OperationName(int operation) noexcept
 {
     for (const Operation& known : Operations) {
-        if (known.number == operation) {
+        if (known.number == operation)
             return known.name;
-        }
     }
     return u"?";
 }
@@ -51,9 +50,8 @@ std::u16string_view OperationName(int operation) noexcept
 std::u16string_view OperationHint(int operation) noexcept
 {
     for (const Operation& known : Operations) {
-        if (known.number == operation) {
+        if (known.number == operation)
             return known.hint;
-        }
     }
     return {};
 }
@@ -67,17 +65,15 @@ std::u16string DateText(double oleDate)
 {
     constexpr double first = -657434; // the year 100
     constexpr double last = 2958466;  // the year 10000
-    if (!(oleDate >= first && oleDate < last)) {
+    if (!(oleDate >= first && oleDate < last))
         return NumberText(oleDate);
-    }
     const CalendarDate date = OleToDate(oleDate);
     std::u16string text = Format<48>("%04d-%02d-%02d", date.year, date.month, date.day);
     // The fraction counts away from zero: it is the time of day also before 1899-12-30.
     const int seconds =
         std::min(static_cast<int>(std::lround(std::fabs(oleDate - std::trunc(oleDate)) * 86400)), 86399);
-    if (seconds > 0) {
+    if (seconds > 0)
         text += Format<48>(" %02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
-    }
     return text;
 }
 

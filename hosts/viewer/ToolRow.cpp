@@ -61,9 +61,8 @@ ToolRow::ToolRow(HWND parent)
 void ToolRow::Show(bool graph, int operation)
 {
     for (const Button& button : Buttons) {
-        if (!button.command) {
+        if (!button.command)
             continue;
-        }
         SendMessageW(m_window, TB_ENABLEBUTTON, button.command, graph);
         if (button.operation != NoOperation) {
             SendMessageW(m_window, TB_CHECKBUTTON, button.command,

@@ -40,9 +40,8 @@ std::vector<std::u16string> ReadArguments()
     int count = 0;
     wchar_t** texts = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::u16string> arguments;
-    for (int at = 1; texts && at < count; ++at) {
+    for (int at = 1; texts && at < count; ++at)
         arguments.push_back(FromWide(texts[at]));
-    }
     LocalFree(texts);
     return arguments;
 }
@@ -107,9 +106,8 @@ int RunScript(const Options& options, const ChartServer& server)
     SetWindowPos(window.Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     RECT frame{};
     GetWindowRect(window.Window(), &frame);
-    if (frame.right > GetSystemMetrics(SM_CXSCREEN) || frame.bottom > GetSystemMetrics(SM_CYSCREEN)) {
+    if (frame.right > GetSystemMetrics(SM_CXSCREEN) || frame.bottom > GetSystemMetrics(SM_CYSCREEN))
         throw Error{ExitCode::BadCommandLine, u"--script: the window is larger than the screen"};
-    }
     Session session(server, window, Read(options), true);
     Print(Stream::Output, session.ShowChart());
     ShowWindow(window.Window(), SW_SHOW);
@@ -164,15 +162,13 @@ int Run()
     }
     if (options.file.empty()) {
         options.file = AskForCsv(nullptr);
-        if (options.file.empty()) {
+        if (options.file.empty())
             return 0;
-        }
     }
     const ChartServer server(options.registered ? ServerSource::Registered
                                                 : ServerSource::BesideProgram);
-    if (!options.script.empty()) {
+    if (!options.script.empty())
         return RunScript(options, server);
-    }
     return options.png.empty() ? ShowToPerson(options, server) : DrawPicture(options, server);
 }
 
@@ -185,9 +181,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
         return Run();
     } catch (const Error& error) {
         std::u16string text = u"vantoplex-viewer: " + error.text + u"\n";
-        if (error.exitCode == ExitCode::BadCommandLine) {
+        if (error.exitCode == ExitCode::BadCommandLine)
             text += u"Try --help.\n";
-        }
         Tell(Stream::Error, text);
         return static_cast<int>(error.exitCode);
     } catch (const std::bad_alloc&) {

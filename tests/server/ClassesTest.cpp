@@ -23,9 +23,8 @@ public:
     STDMETHOD_(ULONG, Release)() override { return --references; }
     STDMETHOD(QueryInterface)(REFIID iid, void** object) override
     {
-        if (!IsEqualGUID(iid, IID_IUnknown)) {
+        if (!IsEqualGUID(iid, IID_IUnknown))
             return inner->QueryInterface(iid, object);
-        }
         *object = this;
         AddRef();
         return S_OK;

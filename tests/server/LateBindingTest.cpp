@@ -74,9 +74,8 @@ HRESULT CallEntry(IUnknown* object, int entry, const char* parameters)
         at += one.size();
     }
     std::vector<VARIANTARG*> pointers;
-    for (VARIANT& value : values) {
+    for (VARIANT& value : values)
         pointers.push_back(&value);
-    }
     VARIANT result{};
     EXPECT_EQ(DispCallFunc(object, static_cast<ULONG_PTR>(entry) * sizeof(void*), CC_STDCALL, VT_I4,
                            static_cast<UINT>(types.size()), types.data(), pointers.data(), &result),
@@ -97,9 +96,8 @@ protected:
         std::map<int, HRESULT> refusals;
         for (const ExpectedMethod& method : methods) {
             const HRESULT result = CallEntry(object, firstEntry++, method.parameters);
-            if (result != S_OK) {
+            if (result != S_OK)
                 refusals[method.id] = result;
-            }
         }
         return refusals;
     }
@@ -130,22 +128,19 @@ using Refused = std::map<int, HRESULT>;
 TEST_F(LateBinding, EveryNameHasItsNumberInEveryClass)
 {
     std::map<std::string, const ExpectedInterface*> byName;
-    for (const ExpectedInterface& row : ExpectedInterfaces) {
+    for (const ExpectedInterface& row : ExpectedInterfaces)
         byName[row.name] = &row;
-    }
     for (const ServerClass& row : serverClasses) {
         Holder<IDispatch> object;
         ASSERT_EQ(server.Create(row.clsid, nullptr, IID_IDispatch, object.OutVoid()), S_OK);
         std::map<std::string, int> expected; // the most derived declaration counts
         for (std::string name = "I" + Narrow(row.name); name != "IDispatch";
              name = byName.at(name)->base) {
-            for (const ExpectedMethod& method : byName.at(name)->methods) {
+            for (const ExpectedMethod& method : byName.at(name)->methods)
                 expected.emplace(method.name, method.id);
-            }
         }
-        for (const auto& [name, id] : expected) {
+        for (const auto& [name, id] : expected)
             EXPECT_EQ(IdOf(object, name.c_str()), id) << Narrow(row.name) << "::" << name;
-        }
     }
 }
 

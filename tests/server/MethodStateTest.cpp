@@ -24,9 +24,8 @@ HANDLE CurrentContext()
 {
     HANDLE context = nullptr;
     ::GetCurrentActCtx(&context);
-    if (context != nullptr) {
+    if (context != nullptr)
         ::ReleaseActCtx(context); // only compared
-    }
     return context;
 }
 
@@ -85,9 +84,8 @@ protected:
                 EXPECT_TRUE(outcome.putBack) << slot;
                 returned.insert(slot - FirstOwnSlot + 1);
             }
-            if (isChild && !outcome.faulted) {
+            if (isChild && !outcome.faulted)
                 reinterpret_cast<ISObject*>(object.Get())->SetObjectHandle(nullptr);
-            }
         }
         return returned;
     }
@@ -99,9 +97,8 @@ protected:
         for (int slot = FirstOwnSlot; slot < FirstOwnSlot + count; ++slot) {
             const auto object = server.Make<Coclass, Interface>();
             std::vector<BYTE> room(4096);
-            if (!Call(object, slot, room.data() + 2048).faulted) {
+            if (!Call(object, slot, room.data() + 2048).faulted)
                 returned.insert(slot - FirstOwnSlot + 1);
-            }
         }
         return returned;
     }

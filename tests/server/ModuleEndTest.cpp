@@ -21,9 +21,8 @@ bool IsProcessEnding()
 // A host's procedure that has lost its statics when the process ends.
 LRESULT CALLBACK HostProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (IsProcessEnding()) {
+    if (IsProcessEnding())
         ::TerminateProcess(::GetCurrentProcess(), CalledTooLate);
-    }
     return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
@@ -80,9 +79,8 @@ std::size_t BytesInUse()
     std::size_t bytes = 0;
     for (DWORD i = 0; i < count; ++i) {
         PROCESS_HEAP_ENTRY entry{};
-        while (::HeapWalk(heaps[i], &entry)) {
+        while (::HeapWalk(heaps[i], &entry))
             bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
-        }
     }
     return bytes;
 }
@@ -132,14 +130,12 @@ TEST(ModuleEnd, LoadingAndUnloadingKeepsNoMemory)
         server.Unload();
         server.Load();
     };
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         cycle();
-    }
     constexpr int cycles = 20;
     const std::size_t before = BytesInUse();
-    for (int i = 0; i < cycles; ++i) {
+    for (int i = 0; i < cycles; ++i)
         cycle();
-    }
     const std::size_t after = BytesInUse();
     EXPECT_LT(after, before + cycles * std::size_t{1024});
 }

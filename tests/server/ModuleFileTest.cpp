@@ -46,9 +46,8 @@ TEST_F(ModuleFile, ExportsExactlyFourNames)
         base + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress);
     const auto* names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
     std::set<std::string> found;
-    for (DWORD i = 0; i < exports->NumberOfNames; ++i) {
+    for (DWORD i = 0; i < exports->NumberOfNames; ++i)
         found.insert(reinterpret_cast<const char*>(base + names[i]));
-    }
 
     EXPECT_EQ(found, (std::set<std::string>{"DllGetClassObject", "DllCanUnloadNow", "DllRegisterServer",
                                             "DllUnregisterServer"}));
@@ -118,9 +117,8 @@ TEST_F(ModuleFile, ScriptsDifferOnlyInNameAndClass)
     const auto neutral = [&](int id, const std::string& name, const std::string& clsid) {
         std::string text = Resource(L"REGISTRY", id);
         for (const std::string& part : {clsid, "." + name, "'" + name}) {
-            for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at)) {
+            for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at))
                 text.replace(at, part.size(), "*");
-            }
         }
         return text;
     };

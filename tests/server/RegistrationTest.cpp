@@ -29,9 +29,8 @@ bool Exists(const std::wstring& key)
     HKEY handle = nullptr;
     const bool found =
         RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ, &handle) == ERROR_SUCCESS;
-    if (found) {
+    if (found)
         RegCloseKey(handle);
-    }
     return found;
 }
 

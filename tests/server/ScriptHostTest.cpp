@@ -81,9 +81,8 @@ TEST_F(ScriptHost, JScriptMakesEveryClass)
     )");
 
     std::string expected;
-    for (const ServerClass& row : serverClasses) {
+    for (const ServerClass& row : serverClasses)
         expected += Narrow(row.name) + " object\n";
-    }
     EXPECT_EQ(output, expected);
 }
 

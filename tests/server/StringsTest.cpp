@@ -81,9 +81,8 @@ TEST_F(Strings, LiveStringIsNotLeaked)
     ASSERT_EQ(axis->GetLabel(&text), S_OK);
     const size_t before = Committed();
 
-    for (int round = 0; round < 500; ++round) {
+    for (int round = 0; round < 500; ++round)
         ASSERT_EQ(axis->GetLabel(&text), S_OK);
-    }
 
     EXPECT_LT(Committed(),
               before + 20 * length * sizeof(wchar_t)); // a leak would be 500 times that length

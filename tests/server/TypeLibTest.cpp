@@ -27,9 +27,8 @@ std::string TypeName(ITypeInfo* info, const TYPEDESC& type)
         {VT_R4, "float"},       {VT_R8, "double"},   {VT_BSTR, "BSTR"}, {VT_VARIANT, "VARIANT"},
         {VT_UI8, "UINT_PTR"},   {VT_I8, "LONG_PTR"}, {VT_VOID, "void"}, {VT_DISPATCH, "IDispatch*"},
         {VT_HRESULT, "HRESULT"}};
-    if (type.vt == VT_PTR) {
+    if (type.vt == VT_PTR)
         return TypeName(info, *type.lptdesc) + "*";
-    }
     if (type.vt == VT_USERDEFINED) {
         Holder<ITypeInfo> user;
         BSTR name = nullptr;
@@ -243,9 +242,8 @@ TEST_F(TypeLib, HelpStringsOfMethods)
         for (UINT index = 0; index < expected.methods.size(); ++index) {
             const Method method = Describe(table, index);
             const std::string name = std::string(expected.name) + "::" + method.name;
-            if (fixed.contains(name)) {
+            if (fixed.contains(name))
                 found[name] = method.help;
-            }
         }
     }
     EXPECT_EQ(found, fixed);

@@ -31,9 +31,8 @@ inline LONG CALLBACK EndThreadAtFault(EXCEPTION_POINTERS* info)
         GetCurrentThreadId() != WatchedThread()) {
         return EXCEPTION_CONTINUE_SEARCH;
     }
-    if (AtFault()) {
+    if (AtFault())
         AtFault()();
-    }
     CONTEXT& context = *info->ContextRecord;
     context.Rsp = ((context.Rsp - 0x200) & ~DWORD64{15}) - 8; // as right after a call
     context.Rcx = Faulted;

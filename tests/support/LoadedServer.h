@@ -37,9 +37,8 @@ inline const ServerClass serverClasses[] = {
 inline std::string Narrow(const wchar_t* text)
 {
     std::string result;
-    for (; *text != 0; ++text) {
+    for (; *text != 0; ++text)
         result += *text < 128 ? static_cast<char>(*text) : '?';
-    }
     return result;
 }
 

@@ -6,7 +6,7 @@ usage: check_style.py REPOSITORY [FILE...]
 - A constant at the scope of a namespace or a class is in upper camel case.
 - A source file that has a header of its own includes it first.
 - A pointer in a condition is tested by its truth, not against nullptr.
-- A single statement of one line has no braces (in src/).
+- A single statement of one line has no braces, but for a check in a test, which is an if-else itself.
 - A parameter has the same name where its function is declared and where it is defined.
 - A function of the platform that is called with :: somewhere in src/ is called so everywhere in src/.
 - A file of tests is named *Test.cpp.
@@ -101,7 +101,7 @@ def check_braces(name, code, complain):
     lines = code.split("\n")
     for number, (head, body, end) in enumerate(zip(lines, lines[1:], lines[2:]), 1):
         opened = BRACED.match(head)
-        if opened and re.match(r"\s+\S.*;\s*$", body) and end == opened[1] + "}":
+        if opened and re.match(r"\s+(?!EXPECT_|ASSERT_)\S.*;\s*$", body) and end == opened[1] + "}":
             complain(name, number, "a single statement of one line has no braces")
 
 
@@ -198,9 +198,9 @@ def main():
         if holds_tests and not name.endswith("Test.cpp"):
             complain(name, 1, "holds tests: its name ends in Test.cpp")
         check_constants(name, code, complain)
+        check_braces(name, code, complain)
         if name.startswith("src/"):
             check_null_tests(name, code, complain)
-            check_braces(name, code, complain)
             check_platform_calls(name, code, calls, complain)
     check_parameter_names(codes, wanted & set(texts), complain)
     for complaint in complaints:

@@ -38,9 +38,8 @@ protected:
     {
         int count = 0;
         for (int y = 0; y < pixels.Height(); ++y) {
-            for (int x = 0; x < pixels.Width(); ++x) {
+            for (int x = 0; x < pixels.Width(); ++x)
                 count += pixels.At(x, y) == color;
-            }
         }
         return count;
     }

@@ -38,9 +38,8 @@ TEST(ViewerProgram, HelpNamesTheOptionsAndEndsWithZero)
     const Result result = RunViewer(L"--help");
 
     EXPECT_EQ(0u, result.exitCode);
-    for (const char* option : {"--x", "--y", "--y2", "--png", "--size", "--registered", "Exit codes"}) {
+    for (const char* option : {"--x", "--y", "--y2", "--png", "--size", "--registered", "Exit codes"})
         EXPECT_TRUE(Contains(result.output, option)) << option;
-    }
 }
 
 TEST(ViewerProgram, AnUnknownOptionEndsWithTwo)

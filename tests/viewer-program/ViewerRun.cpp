@@ -89,9 +89,8 @@ Process::~Process()
 DWORD Process::ExitCode()
 {
     DWORD code = 0xFFFFFFFF;
-    if (WaitForSingleObject(m_process.hProcess, LongestRun) == WAIT_OBJECT_0) {
+    if (WaitForSingleObject(m_process.hProcess, LongestRun) == WAIT_OBJECT_0)
         GetExitCodeProcess(m_process.hProcess, &code);
-    }
     return code;
 }
 
@@ -141,9 +140,8 @@ Pixels::Columns Pixels::ColumnsWith(COLORREF color) const
     Columns columns;
     for (int x = 0; x < m_width; ++x) {
         bool found = false;
-        for (int y = 0; y < m_height && !found; ++y) {
+        for (int y = 0; y < m_height && !found; ++y)
             found = At(x, y) == color;
-        }
         if (found) {
             columns.first = columns.count == 0 ? x : columns.first;
             columns.last = x;

@@ -41,9 +41,8 @@ protected:
     {
         int count = 0;
         for (int y = 0; y < one.Height(); ++y) {
-            for (int x = 0; x < one.Width(); ++x) {
+            for (int x = 0; x < one.Width(); ++x)
                 count += one.At(x, y) != other.At(x, y);
-            }
         }
         return count;
     }
@@ -57,9 +56,8 @@ private:
     static std::string MakeData()
     {
         std::string text = "x,y\n";
-        for (int x = 0; x <= 100; ++x) {
+        for (int x = 0; x <= 100; ++x)
             text += std::to_string(x) + "," + std::to_string(x * x % 37) + "\n";
-        }
         return text;
     }
 
@@ -186,13 +184,11 @@ TEST_F(ViewerScript, ABrokenGraphFileEndsWithOne)
 
 bool ClipboardHolds(UINT format, HGDIOBJ* metafile = nullptr)
 {
-    if (!OpenClipboard(nullptr)) {
+    if (!OpenClipboard(nullptr))
         return false;
-    }
     const HANDLE data = GetClipboardData(format);
-    if (data && metafile) {
+    if (data && metafile)
         *metafile = CopyEnhMetaFileW(static_cast<HENHMETAFILE>(data), nullptr);
-    }
     CloseClipboard();
     return data != nullptr;
 }

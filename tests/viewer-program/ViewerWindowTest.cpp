@@ -75,9 +75,8 @@ HWND WaitForFrame(DWORD process)
     HWND frame = nullptr;
     for (int turn = 0; turn < 600 && !frame; ++turn) {
         frame = FindFrame(process);
-        if (!frame) {
+        if (!frame)
             Sleep(100);
-        }
     }
     return frame;
 }
@@ -296,9 +295,8 @@ HWND WaitForMenu()
     HWND menu = nullptr;
     for (int turn = 0; turn < 600; ++turn) {
         menu = FindWindowW(L"#32768", nullptr);
-        if (menu && IsWindowVisible(menu)) {
+        if (menu && IsWindowVisible(menu))
             break;
-        }
         Sleep(100);
     }
     return menu;
@@ -319,12 +317,10 @@ TEST(ViewerWindow, ARightClickOnTheGraphOpensItsMenu)
     const HWND menu = WaitForMenu();
     EXPECT_NE(nullptr, menu);
     // Down to "Zoom", the second item.
-    for (const WPARAM key : {WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, WPARAM{VK_RETURN}}) {
+    for (const WPARAM key : {WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, WPARAM{VK_RETURN}})
         PostMessageW(frame, WM_KEYDOWN, key, 1);
-    }
-    for (int turn = 0; turn < 600 && StatusOf(frame).find(L"Zoom:") != 0; ++turn) {
+    for (int turn = 0; turn < 600 && StatusOf(frame).find(L"Zoom:") != 0; ++turn)
         Sleep(100);
-    }
     EXPECT_EQ(0u, StatusOf(frame).find(L"Zoom:"));
     PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, viewer.ExitCode());

@@ -125,9 +125,8 @@ TEST(CategoryPlan, RefusesWhatCannotBeShown)
     EXPECT_EQ(Viewer::ExitCode::BadData,
               Refusal([&] { return MakeCategoryPlan(Read(u"k,v\nx,a\ny,b\n"), {}); }));
     std::u16string many = u"k,v\n";
-    for (char16_t unit = 0; unit < 501; ++unit) {
+    for (char16_t unit = 0; unit < 501; ++unit)
         many += std::u16string(1, static_cast<char16_t>(0x4E00 + unit)) + u",1\n";
-    }
     EXPECT_EQ(Viewer::ExitCode::BadData, Refusal([&] { return MakeCategoryPlan(Read(many), {}); }));
 }
 

@@ -92,9 +92,8 @@ TEST(CsvTable, ReadsQuotedDecimalCommasWhereCommasSeparate)
     EXPECT_TRUE(table.columns[0].decimalComma);
     EXPECT_TRUE(table.columns[1].decimalComma);
     EXPECT_FALSE(table.columns[2].decimalComma);
-    for (const Viewer::Column& column : table.columns) {
+    for (const Viewer::Column& column : table.columns)
         EXPECT_EQ(ColumnKind::Number, column.kind);
-    }
 }
 
 TEST(CsvTable, ReadsDatesWithPoints)
@@ -115,9 +114,8 @@ TEST(CsvTable, RefusesMoreCellsThanMemoryShouldHold)
 {
     const std::u16string wide(5'000, u',');
     std::u16string text = u"a" + wide + u"\n";
-    for (int row = 0; row < 5'000; ++row) {
+    for (int row = 0; row < 5'000; ++row)
         text += u"1\n";
-    }
     try {
         (void)Read(text);
         FAIL();

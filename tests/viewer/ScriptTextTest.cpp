@@ -63,9 +63,8 @@ TEST(ScriptText, ControlsAreNumbersOrTheButtonsThatAllDialogsHave)
 
     ASSERT_EQ(6u, steps.size());
     const int numbers[] = {1, 2, 5002, 6010, 6035, 6010};
-    for (std::size_t at = 0; at < steps.size(); ++at) {
+    for (std::size_t at = 0; at < steps.size(); ++at)
         EXPECT_EQ(numbers[at], steps[at].number) << at;
-    }
     EXPECT_EQ(Verb::Press, steps[0].verb);
     EXPECT_EQ(Verb::Read, steps[3].verb);
     EXPECT_EQ(Verb::Set, steps[4].verb);

@@ -206,12 +206,10 @@ TEST(RegistrarScript, NestingIsBounded)
 {
     const auto nested = [](int levels) {
         std::u16string text = u"HKCR { ";
-        for (int level = 1; level < levels; ++level) {
+        for (int level = 1; level < levels; ++level)
             text += u"k { ";
-        }
-        for (int level = 1; level < levels; ++level) {
+        for (int level = 1; level < levels; ++level)
             text += u"} ";
-        }
         return text + u"}";
     };
 
@@ -248,8 +246,7 @@ TEST(RegistrarScript, UnknownOrOpenReplacementIsRefused)
 
     EXPECT_FALSE(Expand(u"%Other%", map).has_value());
     EXPECT_FALSE(Expand(u"50% of", map).has_value());
-    map.Clear();
-    EXPECT_FALSE(Expand(u"%Module%", map).has_value());
+    EXPECT_FALSE(Expand(u"%Module%", {}).has_value());
 }
 
 TEST(RegistrarScript, ReplacementCannotGrowWithoutBound)

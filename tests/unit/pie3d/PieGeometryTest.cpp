@@ -152,9 +152,8 @@ TEST(PieProjection, WithoutTiltTheAnglesStay)
 {
     const std::vector<float> sweeps{10.0f, 75.5f, 180.0f, 94.5f};
     const auto projections = Projected(0.0f, 33.0f, sweeps);
-    for (std::size_t i = 0; i < sweeps.size(); ++i) {
+    for (std::size_t i = 0; i < sweeps.size(); ++i)
         EXPECT_NEAR(projections[i].fDrawSweep, sweeps[i], Near);
-    }
 }
 
 TEST(PieProjection, ALoneElementStaysWholeFromAnyStartAtAnyTilt)
@@ -186,9 +185,8 @@ TEST(PieProjection, SweepsAddUpToAFullTurn)
 {
     const auto projections = Projected(70.0f, 300.0f, {120.0f, 90.0f, 150.0f});
     float sum = 0;
-    for (const TProjection& projection : projections) {
+    for (const TProjection& projection : projections)
         sum += projection.fDrawSweep;
-    }
     EXPECT_NEAR(sum, 360.0f, Near);
 }
 
@@ -290,9 +288,8 @@ TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
 TEST(PieOutline, ASliceTooThinForItsArcKeepsItsRadiiDownToAThousandthOfADegree)
 {
     float start = 10.0f;
-    for (float sweep : {0.15f, 0.01f, 0.001f, -0.001f}) {
+    for (float sweep : {0.15f, 0.01f, 0.001f, -0.001f})
         EXPECT_EQ(OutlineAngles(Ellipse, start, sweep), EOutline::radii) << sweep;
-    }
     float none = 0.0009f;
     EXPECT_EQ(OutlineAngles(Ellipse, start, none), EOutline::nothing);
     float around = 200.0f;

@@ -14,18 +14,16 @@ using Positions = std::vector<std::size_t>;
 Positions Picked(std::vector<double> values, bool descending)
 {
     Positions left(values.size());
-    for (std::size_t i = 0; i < left.size(); ++i) {
+    for (std::size_t i = 0; i < left.size(); ++i)
         left[i] = i;
-    }
     Positions picked;
     while (!left.empty()) {
         std::size_t best = 0;
         for (std::size_t i = 0; i < left.size(); ++i) {
             const double value = values[left[i]];
             const double bestValue = values[left[best]];
-            if (descending ? value >= bestValue : value <= bestValue) {
+            if (descending ? value >= bestValue : value <= bestValue)
                 best = i;
-            }
         }
         picked.push_back(left[best]);
         left.erase(left.begin() + static_cast<std::ptrdiff_t>(best));
@@ -65,8 +63,7 @@ TEST(PieOrder, AgreesWithPickingTheBestAgainAndAgain)
             state = state * 1664525u + 1013904223u;
             value = static_cast<double>(state >> 28) - 5;
         }
-        for (const bool descending : {false, true}) {
+        for (const bool descending : {false, true})
             EXPECT_EQ(PieOrder::ByValue(values, descending), Picked(values, descending));
-        }
     }
 }
