@@ -49,9 +49,8 @@ std::vector<std::u16string> ReadArguments()
 // The graph says nothing of a view that a wheel, a key or a drag in its pan mode has moved.
 void ReportMove(HWND frame, const MSG& message)
 {
-    if (!IsChild(frame, message.hwnd)) {
+    if (!IsChild(frame, message.hwnd))
         return;
-    }
     if (message.message == WM_MOUSEWHEEL || message.message == WM_KEYDOWN) {
         SendMessageW(frame, WM_COMMAND, MenuCommand::ViewMoved, 0);
     } else if (message.message == WM_MOUSEMOVE && (message.wParam & MK_LBUTTON) != 0) {

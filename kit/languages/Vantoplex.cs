@@ -70,7 +70,7 @@ namespace Vantoplex
         opMeasure = 8,
     }
 
-    /// <summary>Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, which tells two graphs apart; "window" the low half of the graph's handle.</summary>
+    /// <summary>Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, by which two graphs differ; "window" the low half of the graph's handle.</summary>
     public enum XGRAPH_MSG
     {
         /// <summary>A click on a Y axis. wParam: its index from 0; lParam: graph.</summary>
@@ -363,21 +363,21 @@ namespace Vantoplex
         public int left, top, right, bottom;
     }
 
-    /// <summary>The root of what a graph is made of: which native object a wrapper stands for.</summary>
+    /// <summary>The root of what a graph is made of: which native object a wrapper is for.</summary>
     [ComImport, Guid("D8C5A43F-6850-44AB-9852-46A03F795FEE"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISObject
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
     }
 
-    /// <summary>What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and isn't told when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis.</summary>
+    /// <summary>What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and doesn't notice when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis.</summary>
     [ComImport, Guid("40C4BE95-C0C1-4FD5-8F9D-E15060E25B62"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphObject
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -401,11 +401,11 @@ namespace Vantoplex
         [PreserveSig] int GetGraph([MarshalAs(UnmanagedType.IDispatch)] out object pGraph);
     }
 
-    /// <summary>An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and gives S_OK, and its getters then write nothing: initialise what you pass.</summary>
+    /// <summary>An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and returns S_OK, and its getters then write nothing: initialise what you pass.</summary>
     [ComImport, Guid("053D3815-35DD-4489-B913-E7A4A36E6DE4"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphAxis
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -499,7 +499,7 @@ namespace Vantoplex
     [ComImport, Guid("8AE09D08-7719-4660-A5E3-A261EB0AA41C"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphLogAxis
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -591,11 +591,11 @@ namespace Vantoplex
         [PreserveSig] int SetRange(double fMin, double fMax);
     }
 
-    /// <summary>A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and gives S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree.</summary>
+    /// <summary>A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and returns S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree.</summary>
     [ComImport, Guid("EFBDCB31-0A47-406E-B96F-906E78D0DB56"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphDataSerie
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -649,7 +649,7 @@ namespace Vantoplex
         [PreserveSig] int SetFillColor(uint color);
         /// <summary>What the fill ends at: another curve or the plot's bottom. Cut to 16 bits.</summary>
         [PreserveSig] int SetFillCurve(int nValue);
-        /// <summary>Turns the fill on or off, and says what it ends at.</summary>
+        /// <summary>Turns the fill on or off, and sets where it ends.</summary>
         [PreserveSig] int SetFillBeneath(int bValue, int nValue);
         /// <summary>Whether the fill lets the lines below it through, by the raster operation XOR. Otherwise it covers them.</summary>
         [PreserveSig] int SetFillTransparent(int bValue);
@@ -693,11 +693,11 @@ namespace Vantoplex
         [PreserveSig] int SetLineStyle(uint nValue);
     }
 
-    /// <summary>A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and gives S_OK. SetColor and GetColor are in place of the base's and have no slot of their own.</summary>
+    /// <summary>A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and returns S_OK. SetColor and GetColor are in place of the base's and have no slot of their own.</summary>
     [ComImport, Guid("F668D721-B480-4E38-A1B3-C2781900DA27"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphLabel
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -751,7 +751,7 @@ namespace Vantoplex
     [ComImport, Guid("D95EF098-A408-4854-9D85-ECA84CC0F840"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface ISGraphBitmap
     {
-        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.</summary>
+        /// <summary>Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.</summary>
         [PreserveSig] int SetObjectHandle(IntPtr hObj);
         /// <summary>Writes the address of the caller's own variable into that variable. The native object can't be read back with it.</summary>
         [PreserveSig] int GetObjectHandle(out IntPtr hObj);
@@ -827,7 +827,7 @@ namespace Vantoplex
         [PreserveSig] int SelectCurve(int nCurve);
         /// <summary>Room between the window's edge and the graph.</summary>
         [PreserveSig] int SetGraphMargins(int nLeft, int nTop, int nRight, int nBottom);
-        /// <summary>Writes the window as it is on the screen to a BMP file. The header's offset to the pixels is that of palette pictures; on a 32-bit screen set byte 10 of the file to 54. Nothing tells whether the file was written.</summary>
+        /// <summary>Writes the window as it is on the screen to a BMP file. The header's offset to the pixels is that of palette pictures; on a 32-bit screen set byte 10 of the file to 54. Nothing reports whether the file was written.</summary>
         [PreserveSig] int SaveBitmap([MarshalAs(UnmanagedType.BStr)] string bstrText);
         /// <summary>Curve points can be dragged up and down: opEditCurve.</summary>
         [PreserveSig] int Edit();
@@ -1031,7 +1031,7 @@ namespace Vantoplex
         [PreserveSig] int Create(ref RECT rect, IntPtr hWnd, uint nID);
     }
 
-    /// <summary>The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call gives S_OK too: ask GetPieChartItem.</summary>
+    /// <summary>The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call returns S_OK too: ask GetPieChartItem.</summary>
     [ComImport, Guid("89A56F93-B412-440B-BE54-0E9E93412BEB"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
     public interface IPieChart3d
     {

@@ -34,7 +34,7 @@ const
   opEditCurve = 7; { The left button drags curve points up and down. }
   opMeasure = 8; { The left button measures between curve points. }
 
-  { XGRAPH_MSG: Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, which tells two graphs apart; "window" the low half of the graph's handle. }
+  { XGRAPH_MSG: Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, by which two graphs differ; "window" the low half of the graph's handle. }
   XG_YAXISCLICK = 1025; { A click on a Y axis. wParam: its index from 0; lParam: graph. }
   XG_XAXISCLICK = 1026; { A click on an X axis. wParam: its index from 0; lParam: graph. }
   XG_CURVECLICK = 1027; { A click on a curve, and each move over one in opEditCurve. wParam: its index from 0; lParam: graph. }

@@ -67,7 +67,7 @@ class RECT(ctypes.Structure):
 
 
 class ISObject(Interface):
-    """The root of what a graph is made of: which native object a wrapper stands for."""
+    """The root of what a graph is made of: which native object a wrapper is for."""
 
     IID = "D8C5A43F-6850-44AB-9852-46A03F795FEE"
     METHODS = {
@@ -77,7 +77,7 @@ class ISObject(Interface):
 
 
 class ISGraphObject(Interface):
-    """What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and isn't told when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis."""
+    """What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and doesn't notice when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis."""
 
     IID = "40C4BE95-C0C1-4FD5-8F9D-E15060E25B62"
     METHODS = {
@@ -96,7 +96,7 @@ class ISGraphObject(Interface):
 
 
 class ISGraphAxis(Interface):
-    """An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and gives S_OK, and its getters then write nothing: initialise what you pass."""
+    """An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and returns S_OK, and its getters then write nothing: initialise what you pass."""
 
     IID = "053D3815-35DD-4489-B913-E7A4A36E6DE4"
     METHODS = {
@@ -201,7 +201,7 @@ class ISGraphLogAxis(Interface):
 
 
 class ISGraphDataSerie(Interface):
-    """A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and gives S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree."""
+    """A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and returns S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree."""
 
     IID = "EFBDCB31-0A47-406E-B96F-906E78D0DB56"
     METHODS = {
@@ -257,7 +257,7 @@ class ISGraphDataSerie(Interface):
 
 
 class ISGraphLabel(Interface):
-    """A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and gives S_OK. SetColor and GetColor are in place of the base's and have no slot of their own."""
+    """A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and returns S_OK. SetColor and GetColor are in place of the base's and have no slot of their own."""
 
     IID = "F668D721-B480-4E38-A1B3-C2781900DA27"
     METHODS = {
@@ -451,7 +451,7 @@ class IChart2d(Interface):
 
 
 class IPieChart3d(Interface):
-    """The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call gives S_OK too: ask GetPieChartItem."""
+    """The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call returns S_OK too: ask GetPieChartItem."""
 
     IID = "89A56F93-B412-440B-BE54-0E9E93412BEB"
     METHODS = {

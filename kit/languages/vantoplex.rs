@@ -51,7 +51,7 @@ pub const opEditCurve: i32 = 7;
 /// The left button measures between curve points.
 pub const opMeasure: i32 = 8;
 
-// XGRAPH_MSG: Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, which tells two graphs apart; "window" the low half of the graph's handle.
+// XGRAPH_MSG: Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, by which two graphs differ; "window" the low half of the graph's handle.
 /// A click on a Y axis. wParam: its index from 0; lParam: graph.
 pub const XG_YAXISCLICK: i32 = 1025;
 /// A click on an X axis. wParam: its index from 0; lParam: graph.
@@ -292,7 +292,7 @@ pub struct RECT {
     pub bottom: i32,
 }
 
-/// The root of what a graph is made of: which native object a wrapper stands for.
+/// The root of what a graph is made of: which native object a wrapper is for.
 #[repr(C)]
 pub struct ISObject {
     table: *const *const c_void,
@@ -304,7 +304,7 @@ impl ISObject {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -314,7 +314,7 @@ impl ISObject {
     }
 }
 
-/// What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and isn't told when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis.
+/// What axes, curves, labels and bitmaps share. A wrapper is a view: it keeps nothing alive and doesn't notice when its object goes. Ask the graph for a new one after any call that adds or deletes a curve or an axis.
 #[repr(C)]
 pub struct ISGraphObject {
     table: *const *const c_void,
@@ -326,7 +326,7 @@ impl ISGraphObject {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -372,7 +372,7 @@ impl ISGraphObject {
     }
 }
 
-/// An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and gives S_OK, and its getters then write nothing: initialise what you pass.
+/// An X or Y axis of a graph, from ISGraph.GetXAxis or GetYAxis. Fields are stored as they come, without a check. A wrapper without an axis does nothing and returns S_OK, and its getters then write nothing: initialise what you pass.
 #[repr(C)]
 pub struct ISGraphAxis {
     table: *const *const c_void,
@@ -384,7 +384,7 @@ impl ISGraphAxis {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -574,7 +574,7 @@ impl ISGraphLogAxis {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -756,7 +756,7 @@ impl ISGraphLogAxis {
     }
 }
 
-/// A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and gives S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree.
+/// A curve of a graph, from ISGraph.SetData or GetCurve. Values are stored as they come, without a check. A wrapper without a curve does nothing and returns S_OK, and its getters then write nothing: initialise what you pass. Arrays that come back belong to the caller, who frees them with CoTaskMemFree.
 #[repr(C)]
 pub struct ISGraphDataSerie {
     table: *const *const c_void,
@@ -768,7 +768,7 @@ impl ISGraphDataSerie {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -876,7 +876,7 @@ impl ISGraphDataSerie {
     pub unsafe fn SetFillCurve(&self, nValue: i32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, i32) -> i32>(*self.table.add(33))(self, nValue)
     }
-    /// Turns the fill on or off, and says what it ends at.
+    /// Turns the fill on or off, and sets where it ends.
     pub unsafe fn SetFillBeneath(&self, bValue: i32, nValue: i32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, i32, i32) -> i32>(*self.table.add(34))(self, bValue, nValue)
     }
@@ -962,7 +962,7 @@ impl ISGraphDataSerie {
     }
 }
 
-/// A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and gives S_OK. SetColor and GetColor are in place of the base's and have no slot of their own.
+/// A text label of a graph, from ISGraph.InsertLabel. A wrapper without a label does nothing and returns S_OK. SetColor and GetColor are in place of the base's and have no slot of their own.
 #[repr(C)]
 pub struct ISGraphLabel {
     table: *const *const c_void,
@@ -974,7 +974,7 @@ impl ISGraphLabel {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -1084,7 +1084,7 @@ impl ISGraphBitmap {
     pub unsafe fn Release(&self) -> u32 {
         transmute::<_, extern "system" fn(*const Self) -> u32>(*self.table.add(2))(self)
     }
-    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it hands out; a host has no use for it.
+    /// Points the wrapper at a native object, or at none. The graph does this for the wrappers that it returns; a host has no use for it.
     pub unsafe fn SetObjectHandle(&self, hObj: *mut u32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u32) -> i32>(*self.table.add(7))(self, hObj)
     }
@@ -1240,7 +1240,7 @@ impl ISGraph {
     pub unsafe fn SetGraphMargins(&self, nLeft: i32, nTop: i32, nRight: i32, nBottom: i32) -> i32 {
         transmute::<_, extern "system" fn(*const Self, i32, i32, i32, i32) -> i32>(*self.table.add(23))(self, nLeft, nTop, nRight, nBottom)
     }
-    /// Writes the window as it is on the screen to a BMP file. The header's offset to the pixels is that of palette pictures; on a 32-bit screen set byte 10 of the file to 54. Nothing tells whether the file was written.
+    /// Writes the window as it is on the screen to a BMP file. The header's offset to the pixels is that of palette pictures; on a 32-bit screen set byte 10 of the file to 54. Nothing reports whether the file was written.
     pub unsafe fn SaveBitmap(&self, bstrText: *mut u16) -> i32 {
         transmute::<_, extern "system" fn(*const Self, *mut u16) -> i32>(*self.table.add(24))(self, bstrText)
     }
@@ -1648,7 +1648,7 @@ impl IChart2d {
     }
 }
 
-/// The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call gives S_OK too: ask GetPieChartItem.
+/// The tilted pie window. Create comes first. An element is named by the text that InsertItem got, or by an item: an opaque pointer from GetPieChartItem or GetSelectedElement, typed VARIANT* and no VARIANT, good until the element is removed. Colours are COLORREF, 0x00BBGGRR. A refused call returns S_OK too: ask GetPieChartItem.
 #[repr(C)]
 pub struct IPieChart3d {
     table: *const *const c_void,

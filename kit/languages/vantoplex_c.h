@@ -51,7 +51,7 @@ typedef enum EOperation {
     opMeasure = 8 /* The left button measures between curve points. */
 } EOperation;
 
-/* Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, which tells two graphs apart; "window" the low half of the graph's handle. */
+/* Messages that a graph posts to its parent window. "Graph" is the low half of the native object's address, by which two graphs differ; "window" the low half of the graph's handle. */
 typedef enum XGRAPH_MSG {
     XG_YAXISCLICK = 1025, /* A click on a Y axis. wParam: its index from 0; lParam: graph. */
     XG_XAXISCLICK = 1026, /* A click on an X axis. wParam: its index from 0; lParam: graph. */
