@@ -85,7 +85,7 @@ TEST_F(Registrar, MakesKeysAndValues)
 TEST_F(Registrar, StoresEachKindOfValue)
 {
     ASSERT_EQ(Register(Script(L"K { val S = s 'text' val D = d '258' val B = b '00ff' "
-                                              L"val M = m 'one\\0two' val E = b '' }")),
+                              L"val M = m 'one\\0two' val E = b '' }")),
               S_OK);
 
     EXPECT_EQ(ValueOf(L"K", L"S").type, static_cast<DWORD>(REG_SZ));

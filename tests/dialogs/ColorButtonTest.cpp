@@ -17,7 +17,7 @@ protected:
 
     [[nodiscard]] Picture Look()
     {
-        DrainQueue();
+        HostWindow::Pump();
         m_button.RedrawWindow();
         return Picture(m_button);
     }

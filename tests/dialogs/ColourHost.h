@@ -62,14 +62,14 @@ public:
         m_button.Create(L"", WS_VISIBLE | WS_TABSTOP, CRect(20, 20, 120, 45), &m_board, 77);
         ::SetActiveWindow(m_host.Handle());
         ::SetFocus(m_button);
-        DrainQueue();
+        HostWindow::Pump();
     }
     CColourHost(const CColourHost&) = delete;
     CColourHost& operator=(const CColourHost&) = delete;
     ~CColourHost()
     {
         ::ReleaseCapture();
-        DrainQueue();
+        HostWindow::Pump();
     }
 
     // The popup after a click; null if none opened.
@@ -83,7 +83,7 @@ public:
     {
         m_button.SetColor(colour);
         CColourPopup* const popup = Click();
-        DrainQueue();
+        HostWindow::Pump();
         m_board.m_notes.clear();
         return popup;
     }
@@ -104,7 +104,7 @@ public:
     static void Press(UINT key)
     {
         ::PostMessageW(::GetFocus(), WM_KEYDOWN, key, 1);
-        DrainQueue();
+        HostWindow::Pump();
     }
     static CPoint MiddleOf(const CColourPopup& popup, int cell)
     {
@@ -134,7 +134,7 @@ public:
         ::ClientToScreen(popup, &point);
         ::SetCursorPos(point.x, point.y);
         popup.PostMessage(WM_LBUTTONUP, 0, client);
-        DrainQueue();
+        HostWindow::Pump();
     }
 
     CHostWindow m_host;

@@ -48,7 +48,7 @@ protected:
     }
     void ExpectNothingLeft()
     {
-        DrainQueue();
+        HostWindow::Pump();
         if (CColourPopup* const popup = m_host.Popup())
             popup->DestroyWindow(); // a popup without its button may go on by itself
         EXPECT_EQ(::GetCapture(), nullptr);
@@ -134,7 +134,7 @@ TEST(ColourPopupEndurance, TwoHundredOpeningsLeaveNothing)
     CColourHost host;
     Openings::ExpectNothingLeft([&host] {
         ASSERT_NE(host.Click(), nullptr);
-        DrainQueue();
+        HostWindow::Pump();
         CColourHost::Press(VK_DOWN);
         CColourHost::Press(VK_RETURN);
         ASSERT_EQ(host.Popup(), nullptr);

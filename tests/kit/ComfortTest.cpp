@@ -2,6 +2,8 @@
 
 #include <vantoplex.hpp>
 
+#include "support/HostWindow.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -21,13 +23,7 @@ std::wstring FolderOfTests()
 class ComfortTest : public testing::Test
 {
 protected:
-    ComfortTest()
-        : m_parent(CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 500,
-                                   400, nullptr, nullptr, nullptr, nullptr)),
-          m_library(FolderOfTests() + L"Vantoplex.dll")
-    {
-    }
-    ~ComfortTest() override { DestroyWindow(m_parent); }
+    ComfortTest() : m_library(FolderOfTests() + L"Vantoplex.dll") {}
 
     vantoplex::Graph MakeGraph() const { return vantoplex::Graph(m_parent, nullptr, 1, &m_library); }
     // Values at two pixels of an axis show its visible range.
@@ -43,7 +39,8 @@ protected:
         UpdateWindow(graph.Window());
     }
 
-    HWND m_parent;
+    const HostWindow m_host{500, 400};
+    const HWND m_parent = m_host.m_hWnd;
     vantoplex::Library m_library;
     const std::vector<TDataPoint> m_points = {{0, 1}, {1, 2}, {2, 3}, {3, 4}};
 };

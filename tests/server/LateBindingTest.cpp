@@ -3,6 +3,7 @@
 // the library's entries run ahead of the table, and past its end are refusals.
 
 #include "server/ExpectedInterfaces.h"
+#include "support/HostWindow.h"
 #include "support/LoadedServer.h"
 
 #include <oleauto.h>
@@ -110,14 +111,12 @@ struct GraphInAWindow {
     explicit GraphInAWindow(const Server& server) : graph(server.Make<SGraph, ISGraph>())
     {
         RECT rect{0, 0, 400, 300};
-        EXPECT_EQ(graph->Create(nullptr, &rect, ToWire(parent), 1), S_OK);
+        EXPECT_EQ(graph->Create(nullptr, &rect, ToWire(host.m_hWnd), 1), S_OK);
     }
     GraphInAWindow(const GraphInAWindow&) = delete;
     GraphInAWindow& operator=(const GraphInAWindow&) = delete;
-    ~GraphInAWindow() { DestroyWindow(parent); }
 
-    HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
-                                  nullptr, nullptr, nullptr);
+    const HostWindow host{400, 300, {}, WS_POPUP};
     Holder<ISGraph> graph;
 };
 

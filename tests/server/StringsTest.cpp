@@ -1,5 +1,6 @@
 // Texts across the boundary, on an axis of a graph in a window that is not shown.
 
+#include "support/HostWindow.h"
 #include "support/LoadedServer.h"
 
 #include <oleauto.h>
@@ -14,12 +15,11 @@ protected:
     Strings() : graph(server.Make<SGraph, ISGraph>())
     {
         RECT rect{0, 0, 400, 300};
-        EXPECT_EQ(graph->Create(nullptr, &rect, ToWire(parent), 1), S_OK);
+        EXPECT_EQ(graph->Create(nullptr, &rect, ToWire(host.m_hWnd), 1), S_OK);
         TDataPoint points[] = {{0, 1}, {1, 2}};
         EXPECT_EQ(graph->SetData(nullptr, points, 2, 0, 0, 0, 1), S_OK);
         EXPECT_EQ(graph->GetXAxis(axis.Out(), 0), S_OK);
     }
-    ~Strings() override { DestroyWindow(parent); }
 
     void SetLabel(const std::wstring& text)
     {
@@ -41,8 +41,7 @@ protected:
     }
 
     Server server;
-    HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
-                                  nullptr, nullptr, nullptr);
+    const HostWindow host{400, 300, {}, WS_POPUP};
     Holder<ISGraph> graph;
     Holder<ISGraphAxis> axis;
 };

@@ -28,8 +28,8 @@ public:
         wndclass.hInstance = ::GetModuleHandleW(nullptr);
         wndclass.lpszClassName = L"VantoplexTestHost";
         ::RegisterClassW(&wndclass); // fails harmlessly the second time
-        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", nStyle, 0, 0,
-                                   nWidth, nHeight, nullptr, nullptr, wndclass.hInstance, this);
+        m_hWnd = ::CreateWindowExW(0, wndclass.lpszClassName, L"Host", nStyle, 0, 0, nWidth, nHeight,
+                                   nullptr, nullptr, wndclass.hInstance, this);
     }
     HostWindow(const HostWindow&) = delete;
     HostWindow& operator=(const HostWindow&) = delete;

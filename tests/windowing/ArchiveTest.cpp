@@ -165,7 +165,8 @@ TEST(Archive, FailedTextLeavesTheTargetAsItWas)
 TEST(Archive, EveryTruncationIsTheEndOfTheFile)
 {
     const std::string whole = Stored([](CArchive& ar) {
-        ar << BYTE{1} << 2.5 << CString(L'x', 300) << ULONGLONG{3} << CString(L"end") << 1.5f;
+        ar << BYTE{1} << 2.5 << CString(std::wstring(300, L'x')) << ULONGLONG{3} << CString(L"end")
+           << 1.5f;
     });
     const auto read = [](CArchive& ar) {
         BYTE byte = 0;

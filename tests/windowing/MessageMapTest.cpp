@@ -66,10 +66,7 @@ protected:
         Note(L"create%d ", lpCreateStruct->cx);
         return m_nCreate ? m_nCreate : CWnd::OnCreate(lpCreateStruct);
     }
-    afx_msg void OnSize(UINT nType, int cx, int cy)
-    {
-        Note(L"size%d %dx%d ", nType, cx, cy);
-    }
+    afx_msg void OnSize(UINT nType, int cx, int cy) { Note(L"size%d %dx%d ", nType, cx, cy); }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC)
     {
         m_strLog += pDC ? L"erase " : L"erase-null ";

@@ -109,7 +109,7 @@ TEST(CString, FormatTakesTypedArguments)
 
 TEST(CString, FormatHasNoLimitOfLength)
 {
-    const CString longText(std::wstring(100000, L'x').c_str());
+    const CString longText(std::wstring(100000, L'x'));
     CString text;
     text.Format(L"%s|%s", longText, longText);
     EXPECT_EQ(text.GetLength(), 200001);
