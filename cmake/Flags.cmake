@@ -9,6 +9,8 @@ target_compile_options(vantoplex-flags INTERFACE
   -ffp-contract=off -fno-fast-math)
 
 if(WIN32)
+  # For what is shipped: its debug information names no folder of the machine that built it.
+  set(VANTOPLEX_SHIPPED "-fdebug-prefix-map=${PROJECT_SOURCE_DIR}=." "-fdebug-prefix-map=${CMAKE_BINARY_DIR}=build")
   # Not among the options below: targets that are never shipped put -O0 in their place.
   set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG -D_FORTIFY_SOURCE=2")
   target_compile_definitions(vantoplex-flags INTERFACE
