@@ -187,10 +187,12 @@ TEST(PopupHitTest, MiddleOfEachCellAndBoxIsItself)
         const auto middle = [](const TRect& rect) {
             return TPoint{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
         };
-        if (boxes.hasAuto)
+        if (boxes.hasAuto) {
             EXPECT_EQ(HitTest(grid, middle(grid.autoBox)), AutoBox);
-        if (boxes.hasMore)
+        }
+        if (boxes.hasMore) {
             EXPECT_EQ(HitTest(grid, middle(grid.moreBox)), MoreBox);
+        }
     }
 }
 
