@@ -13,31 +13,58 @@ namespace
 {
 constexpr std::size_t PageSize = 4096;
 constexpr std::size_t Alignment = 16;
-constexpr std::size_t MostFreed = 2000;
-constexpr std::size_t MostGuarded = 8000; // blocks in use; the system maps so many pieces and no more
-constexpr std::size_t MostSinceWatch = 10000;
 constexpr std::uint64_t Magic = 0x5AFEB10C5AFEB10C;
 constexpr std::uint64_t PlainMagic = 0x91A18B10C91A18B1;
-constexpr unsigned char SlackByte = 0xA5;
+constexpr std::byte SlackByte{0xA5};
+constexpr std::byte FreedByte{0xDD}; // eight of them are no address
+constexpr std::uint32_t ProtectEvery = 16;
+constexpr std::size_t Sizes = 9; // of slots: 1, 2, 4, ... pages
+constexpr std::uint32_t MostSlots = 8192;
 
 struct alignas(Alignment) THeader {
     std::uint64_t nMagic;
-    std::byte* pBase;
-    std::size_t nCommitted;
+    std::uint32_t nSizeClass;
+    std::uint32_t nSlot;
     std::size_t nSize;
 };
 
+// Slots of one size in a row, each followed by a page that is never committed. Those that are free
+// wait in a ring, the one that was freed first in front.
+struct TSlots {
+    std::byte* pBase;
+    std::uint32_t nFresh; // the first slot that was never used
+    std::uint32_t nFront;
+    std::uint32_t nWaiting;
+    std::array<std::uint32_t, MostSlots> ring;
+    std::array<std::uint32_t, MostSlots> freedSize; // bytes with the pattern; the top bit: protected
+};
+constexpr std::uint32_t Protected = 1U << 31;
+
 // No constructors: blocks are asked for before any would run. One thread uses the heap.
 constinit GuardedHeap::TUse use;
-constinit std::array<std::byte*, MostFreed> freed{};
-constinit std::size_t nextFreed = 0;
-constinit std::size_t guarded = 0;
+constinit std::array<TSlots, Sizes> slots{};
 constinit bool guards = true;
-constinit std::size_t sinceWatch = 0;
+constinit std::uint32_t freedBlocks = 0;
 
-std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
+constexpr std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
 {
     return (nSize + nUnit - 1) / nUnit * nUnit;
+}
+
+constexpr std::size_t DataOf(std::size_t nClass)
+{
+    return PageSize << nClass;
+}
+
+// Half as many of each larger size; the address space is some 300 MB in all.
+constexpr std::uint32_t CountOf(std::size_t nClass)
+{
+    return MostSlots >> nClass;
+}
+
+std::byte* EndOf(std::size_t nClass, std::uint32_t nSlot)
+{
+    return slots[nClass].pBase + (DataOf(nClass) + PageSize) * nSlot + DataOf(nClass);
 }
 
 void Count(std::size_t nSize)
@@ -53,7 +80,55 @@ void* AllocatePlain(std::size_t nSize)
     if (base == nullptr)
         throw std::bad_alloc();
     Count(nSize);
-    return new (base) THeader{PlainMagic, nullptr, 0, nSize} + 1;
+    return new (base) THeader{PlainMagic, 0, 0, nSize} + 1;
+}
+
+bool Reserve(TSlots& list, std::size_t nClass)
+{
+    if (list.pBase == nullptr) {
+        const std::size_t bytes = (DataOf(nClass) + PageSize) * CountOf(nClass);
+        list.pBase = static_cast<std::byte*>(::VirtualAlloc(nullptr, bytes, MEM_RESERVE, PAGE_NOACCESS));
+    }
+    return list.pBase != nullptr;
+}
+
+void SetAccess(std::size_t nClass, std::uint32_t nSlot, DWORD nAccess)
+{
+    DWORD before = 0;
+    ::VirtualProtect(EndOf(nClass, nSlot) - DataOf(nClass), DataOf(nClass), nAccess, &before);
+}
+
+// The slot that has been free the longest, if nothing has written to it since.
+std::uint32_t TakeWaiting(TSlots& list, std::size_t nClass)
+{
+    const std::uint32_t slot = list.ring[list.nFront];
+    list.nFront = (list.nFront + 1) % CountOf(nClass);
+    --list.nWaiting;
+    const std::uint32_t marked = list.freedSize[slot];
+    if (marked & Protected) {
+        SetAccess(nClass, slot, PAGE_READWRITE);
+        return slot;
+    }
+    const std::byte* const end = EndOf(nClass, slot);
+    if (std::any_of(end - marked, end, [](std::byte byte) { return byte != FreedByte; }))
+        __builtin_trap();
+    return slot;
+}
+
+// A quarter of the slots wait before the first of them is used again. Returns the number of slots if
+// all are in use.
+std::uint32_t TakeSlot(TSlots& list, std::size_t nClass)
+{
+    const std::uint32_t count = CountOf(nClass);
+    const bool fresh = list.nFresh != count;
+    if (list.nWaiting != 0 && (!fresh || list.nWaiting > count / 4))
+        return TakeWaiting(list, nClass);
+    if (!fresh)
+        return count;
+    std::byte* const data = EndOf(nClass, list.nFresh) - DataOf(nClass);
+    if (::VirtualAlloc(data, DataOf(nClass), MEM_COMMIT, PAGE_READWRITE) == nullptr)
+        throw std::bad_alloc();
+    return list.nFresh++;
 }
 
 void* Allocate(std::size_t nSize)
@@ -61,20 +136,19 @@ void* Allocate(std::size_t nSize)
     constexpr std::size_t most = std::size_t{1} << 32; // far beyond any request that is in order
     if (nSize > most)
         throw std::bad_alloc();
-    if (!guards || guarded >= MostGuarded || sinceWatch >= MostSinceWatch)
-        return AllocatePlain(nSize);
     const std::size_t block = RoundUp(std::max<std::size_t>(nSize, 1), Alignment);
-    const std::size_t committed = RoundUp(sizeof(THeader) + block, PageSize);
-    auto* base = static_cast<std::byte*>(
-        ::VirtualAlloc(nullptr, committed + PageSize, MEM_RESERVE, PAGE_NOACCESS));
-    if (base == nullptr || ::VirtualAlloc(base, committed, MEM_COMMIT, PAGE_READWRITE) == nullptr)
-        throw std::bad_alloc();
+    std::size_t size = 0;
+    while (size != Sizes && DataOf(size) < block + sizeof(THeader))
+        ++size;
+    if (!guards || size == Sizes || !Reserve(slots[size], size))
+        return AllocatePlain(nSize);
+    const std::uint32_t slot = TakeSlot(slots[size], size);
+    if (slot == CountOf(size))
+        return AllocatePlain(nSize);
 
-    std::byte* const result = base + committed - block;
-    new (result - sizeof(THeader)) THeader{Magic, base, committed, nSize};
-    std::memset(result + nSize, SlackByte, block - nSize);
-    ++guarded;
-    ++sinceWatch;
+    std::byte* const result = EndOf(size, slot) - block;
+    new (result - sizeof(THeader)) THeader{Magic, static_cast<std::uint32_t>(size), slot, nSize};
+    std::memset(result + nSize, static_cast<int>(SlackByte), block - nSize);
     Count(nSize);
     return result;
 }
@@ -90,28 +164,28 @@ void Free(void* pBlock) noexcept
         std::free(block - sizeof(THeader));
         return;
     }
-    if (header.nMagic != Magic)
+    if (header.nMagic != Magic) // freed twice, or written before its begin
         __builtin_trap();
-    for (const std::byte* slack = block + header.nSize; slack != header.pBase + header.nCommitted;
-         ++slack)
-        if (*slack != std::byte{SlackByte})
-            __builtin_trap();
+    TSlots& list = slots[header.nSizeClass];
+    std::byte* const end = EndOf(header.nSizeClass, header.nSlot);
+    if (std::any_of(block + header.nSize, end, [](std::byte byte) { return byte != SlackByte; }))
+        __builtin_trap();
     use.nLive -= header.nSize;
-    --guarded;
 
-    DWORD before = 0;
-    ::VirtualProtect(header.pBase, header.nCommitted, PAGE_NOACCESS, &before);
-    std::byte*& slot = freed[nextFreed++ % MostFreed];
-    if (slot != nullptr)
-        ::VirtualFree(slot, 0, MEM_RELEASE);
-    slot = header.pBase;
+    std::byte* const begin = block - sizeof(THeader);
+    std::memset(begin, static_cast<int>(FreedByte), static_cast<std::size_t>(end - begin));
+    list.freedSize[header.nSlot] = static_cast<std::uint32_t>(end - begin);
+    if (++freedBlocks % ProtectEvery == 0) {
+        SetAccess(header.nSizeClass, header.nSlot, PAGE_NOACCESS);
+        list.freedSize[header.nSlot] |= Protected;
+    }
+    list.ring[(list.nFront + list.nWaiting++) % CountOf(header.nSizeClass)] = header.nSlot;
 }
 } // namespace
 
 void GuardedHeap::BeginWatch() noexcept
 {
     use.nPeak = use.nLive;
-    sinceWatch = 0;
     use.nLargest = 0;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
-// The program's operator new: each block ends at a page that can't be touched, and a freed
-// block can't be touched either until 2,000 others were freed after it. Guards are slow: after
-// BeginWatch the first 10,000 blocks have them.
+// The program's operator new: each block ends at a page that can't be touched. A freed block is
+// filled with a pattern, and isn't used again until many others of its size were freed after it;
+// a byte of it that has changed by then traps. One in sixteen can't be touched at all while it is
+// free: a change of protection costs more than all else.
 
 #include <cstddef>
 

@@ -167,11 +167,50 @@ void PutIndexesInRange(CXGraph& graph)
     }
 }
 
+// Glyphs of many thousand pixels take the platform seconds to draw.
+LOGFONTW OfUsualSize(LOGFONTW font)
+{
+    constexpr LONG nLargest = 400;
+    font.lfHeight = std::clamp(font.lfHeight, -nLargest, nLargest);
+    font.lfWidth = std::clamp(font.lfWidth, -nLargest, nLargest);
+    return font;
+}
+
+void PutFontInRange(CFont& font)
+{
+    LOGFONTW look{};
+    if (!font.GetLogFont(&look))
+        return;
+    look = OfUsualSize(look);
+    font.DeleteObject();
+    font.CreateFontIndirect(&look);
+}
+
+void PutFontsInRange(CXGraph& graph)
+{
+    for (auto* axes : {&graph.m_XAxes, &graph.m_YAxes}) {
+        for (CXGraphAxis& axis : *axes) {
+            PutFontInRange(axis.m_LabelFont);
+            PutFontInRange(axis.m_TitleFont);
+            for (TAxisMarker& marker : axis.m_AxisMarkers)
+                marker.lfFont = OfUsualSize(marker.lfFont);
+        }
+    }
+    for (POSITION place = graph.m_Objects.GetHeadPosition(); place != nullptr;) {
+        CObject* const object = graph.m_Objects.GetNext(place);
+        if (auto* label = DYNAMIC_DOWNCAST(CXGraphLabel, object))
+            PutFontInRange(label->m_Font);
+        else if (auto* note = DYNAMIC_DOWNCAST(CXGraphDataNotation, object))
+            PutFontInRange(note->m_Font);
+    }
+}
+
 bool Paint(CXGraph& graph)
 {
     if (graph.m_XAxes.empty() || graph.m_YAxes.empty() || graph.m_Curves.empty())
         return false;
     PutIndexesInRange(graph);
+    PutFontsInRange(graph);
     static const HBITMAP picture = ::CreateBitmap(640, 480, 1, 32, nullptr);
     const HDC memory = ::CreateCompatibleDC(nullptr);
     ::SelectObject(memory, picture);

@@ -1,5 +1,16 @@
 #include "framework/windowing/OleDateTime.h"
 
+COleDateTime::COleDateTime(__time64_t timeSrc)
+{
+    tm local{};
+    if (::_localtime64_s(&local, &timeSrc) != 0) {
+        m_status = invalid;
+        return;
+    }
+    *this = COleDateTime(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
+                         local.tm_min, local.tm_sec);
+}
+
 COleDateTime::COleDateTime(const SYSTEMTIME& systimeSrc) noexcept
 {
     Set(systimeSrc);

@@ -1,6 +1,8 @@
 #pragma once
 // COleDateTime: a date and time of day in the OLE form, days since 1899-12-30 as a double.
 
+#include <ctime>
+
 #include <windows.h>
 
 #include <oleauto.h>
@@ -12,6 +14,8 @@ public:
 
     COleDateTime() noexcept = default;
     COleDateTime(DATE dtSrc) noexcept : m_dt(dtSrc) {}
+    // Local time.
+    explicit COleDateTime(__time64_t timeSrc);
     explicit COleDateTime(const SYSTEMTIME& systimeSrc) noexcept;
     // Month and day count from 1. Invalid if there is no such date or time of day.
     COleDateTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec) noexcept;
