@@ -124,7 +124,7 @@ private:
         std::map<std::u16string, std::size_t> curveOfWord;
         if (!m_group)
             AddCurve(request.column->name, request);
-        std::size_t current = m_plan.curves.size() - 1;
+        std::size_t current = m_group ? 0 : m_plan.curves.size() - 1;
         for (std::size_t row = 0; row < m_table.Rows(); ++row) {
             if (m_group) {
                 const std::u16string& word = m_group->cells[row];

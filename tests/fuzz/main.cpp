@@ -8,7 +8,6 @@
 // processor without the guards ends the program with code 1. Its number is printed: `--first N --files
 // 1` shows it again.
 
-#include "GuardedHeap.h"
 #include "Mutator.h"
 #include "Seeds.h"
 
@@ -17,6 +16,7 @@
 #include "framework/windowing/File.h"
 #include "graph/XGraph.h"
 #include "objects/XGraphDataNotation.h"
+#include "support/GuardedHeap.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,7 @@
-#include "GuardedHeap.h"
+#include "support/GuardedHeap.h"
+
+#include "support/CountedMemory.h"
+#include "support/FailingMemory.h"
 
 #include <windows.h>
 
@@ -17,6 +20,7 @@ constexpr std::uint64_t Magic = 0x5AFEB10C5AFEB10C;
 constexpr std::uint64_t PlainMagic = 0x91A18B10C91A18B1;
 constexpr std::byte SlackByte{0xA5};
 constexpr std::byte FreedByte{0xDD}; // eight of them are no address
+constexpr std::byte FreshByte{0xC9}; // nothing is to work for a zero that was luck
 constexpr std::uint32_t ProtectEvery = 16;
 constexpr std::size_t Sizes = 9; // of slots: 1, 2, 4, ... pages
 constexpr std::uint32_t MostSlots = 8192;
@@ -40,11 +44,21 @@ struct TSlots {
 };
 constexpr std::uint32_t Protected = 1U << 31;
 
-// No constructors: blocks are asked for before any would run. One thread uses the heap.
+// No constructors: blocks are asked for before any would run.
+constinit SRWLOCK lock = SRWLOCK_INIT;
 constinit GuardedHeap::TUse use;
 constinit std::array<TSlots, Sizes> slots{};
 constinit bool guards = true;
 constinit std::uint32_t freedBlocks = 0;
+
+class Locked
+{
+public:
+    Locked() noexcept { ::AcquireSRWLockExclusive(&lock); }
+    Locked(const Locked&) = delete;
+    Locked& operator=(const Locked&) = delete;
+    ~Locked() { ::ReleaseSRWLockExclusive(&lock); }
+};
 
 constexpr std::size_t RoundUp(std::size_t nSize, std::size_t nUnit)
 {
@@ -77,8 +91,9 @@ void Count(std::size_t nSize)
 void* AllocatePlain(std::size_t nSize)
 {
     void* const base = std::malloc(sizeof(THeader) + nSize);
-    if (base == nullptr)
+    if (!base)
         throw std::bad_alloc();
+    std::memset(base, static_cast<int>(FreshByte), sizeof(THeader) + nSize);
     Count(nSize);
     return new (base) THeader{PlainMagic, 0, 0, nSize} + 1;
 }
@@ -148,6 +163,7 @@ void* Allocate(std::size_t nSize)
 
     std::byte* const result = EndOf(size, slot) - block;
     new (result - sizeof(THeader)) THeader{Magic, static_cast<std::uint32_t>(size), slot, nSize};
+    std::memset(result, static_cast<int>(FreshByte), nSize);
     std::memset(result + nSize, static_cast<int>(SlackByte), block - nSize);
     Count(nSize);
     return result;
@@ -155,8 +171,9 @@ void* Allocate(std::size_t nSize)
 
 void Free(void* pBlock) noexcept
 {
-    if (pBlock == nullptr)
+    if (!pBlock)
         return;
+    const Locked locked;
     auto* const block = static_cast<std::byte*>(pBlock);
     const THeader header = *reinterpret_cast<const THeader*>(block - sizeof(THeader));
     if (header.nMagic == PlainMagic) {
@@ -199,13 +216,13 @@ void GuardedHeap::SetGuards(bool bOn) noexcept
     guards = bOn;
 }
 
+// The forms for arrays call these, unless the module has its own.
 void* operator new(std::size_t nSize)
 {
-    return Allocate(nSize);
-}
-
-void* operator new[](std::size_t nSize)
-{
+    CountedMemory::Note(nSize);
+    if (!FailingMemory::Take())
+        throw std::bad_alloc();
+    const Locked locked;
     return Allocate(nSize);
 }
 
@@ -214,17 +231,7 @@ void operator delete(void* pBlock) noexcept
     Free(pBlock);
 }
 
-void operator delete[](void* pBlock) noexcept
-{
-    Free(pBlock);
-}
-
 void operator delete(void* pBlock, std::size_t) noexcept
-{
-    Free(pBlock);
-}
-
-void operator delete[](void* pBlock, std::size_t) noexcept
 {
     Free(pBlock);
 }

@@ -1,8 +1,9 @@
 #pragma once
-// The program's operator new: each block ends at a page that can't be touched. A freed block is
-// filled with a pattern, and isn't used again until many others of its size were freed after it;
-// a byte of it that has changed by then traps. One in sixteen can't be touched at all while it is
-// free: a change of protection costs more than all else.
+// The module's operator new, in place of FailingMemory.cpp, whose orders and counts it follows: each
+// block ends at a page that can't be touched. A freed block is filled with a pattern, and isn't used
+// again until many others of its size were freed after it; a byte of it that has changed by then traps.
+// One in sixteen can't be touched at all while it is free: a change of protection costs more than all
+// else.
 
 #include <cstddef>
 
