@@ -27,7 +27,6 @@ protected:
     {
         return result.output.find(text) != std::string::npos;
     }
-    static std::string Narrow(const std::wstring& path) { return {path.begin(), path.end()}; }
 
     const std::string m_open = "double-click 50% on:1\n";
 
@@ -83,8 +82,8 @@ TEST_F(ViewerDialogs, ADialogIsPicturedWithWhatIsOpenOverIt)
     const TemporaryFile sheet(L"sheet.png");
     const TemporaryFile colors(L"colours.png");
     const Result result =
-        Run(m_open + "dialog " + Narrow(sheet.Path()) + "\npress 6007\nkey down\ndialog " +
-            Narrow(colors.Path()) + "\nkey escape\npress cancel\n");
+        Run(m_open + "dialog " + sheet.PathInScript() + "\npress 6007\nkey down\ndialog " +
+            colors.PathInScript() + "\nkey escape\npress cancel\n");
 
     ASSERT_EQ(0u, result.exitCode) << result.output;
     const Pixels alone(sheet.Path());

@@ -47,6 +47,14 @@ TemporaryFile::~TemporaryFile()
     DeleteFileW(m_path.c_str());
 }
 
+std::string TemporaryFile::PathInScript() const
+{
+    std::array<char, 3 * MAX_PATH> text{};
+    WideCharToMultiByte(CP_UTF8, 0, m_path.c_str(), -1, text.data(), static_cast<int>(text.size()),
+                        nullptr, nullptr);
+    return text.data();
+}
+
 std::string TemporaryFile::Read() const
 {
     const HANDLE file = CreateFileW(m_path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,

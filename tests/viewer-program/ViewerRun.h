@@ -20,6 +20,8 @@ public:
     ~TemporaryFile();
 
     [[nodiscard]] const std::wstring& Path() const noexcept { return m_path; }
+    // In UTF-8, as scripts are written.
+    [[nodiscard]] std::string PathInScript() const;
     [[nodiscard]] std::string Read() const;
 
 private:

@@ -30,12 +30,10 @@ protected:
     // Runs the steps, which must not fail, and takes a picture.
     Pixels Picture(const std::string& steps)
     {
-        const Result result = Run(steps + "\npicture " + Narrow(m_picture.Path()) + "\n");
+        const Result result = Run(steps + "\npicture " + m_picture.PathInScript() + "\n");
         EXPECT_EQ(0u, result.exitCode) << result.output;
         return Pixels(m_picture.Path());
     }
-
-    static std::string Narrow(const std::wstring& path) { return {path.begin(), path.end()}; }
 
     static int Differing(const Pixels& one, const Pixels& other)
     {
@@ -165,7 +163,7 @@ TEST_F(ViewerScript, TrendsAndAveragesBecomeCurvesOfTheirOwn)
 TEST_F(ViewerScript, AGraphFileBringsItsSettingsBack)
 {
     const TemporaryFile file(L"graph.vgr");
-    const std::string path = Narrow(file.Path());
+    const std::string path = file.PathInScript();
 
     const Result result = Run("save " + path + "\nload " + path + "\nprint\n");
 
@@ -179,7 +177,7 @@ TEST_F(ViewerScript, ABrokenGraphFileEndsWithOne)
 {
     const TemporaryFile file(L"graph.vgr", "\x02");
 
-    EXPECT_EQ(1u, Run("load " + Narrow(file.Path()) + "\n").exitCode);
+    EXPECT_EQ(1u, Run("load " + file.PathInScript() + "\n").exitCode);
 }
 
 bool ClipboardHolds(UINT format, HGDIOBJ* metafile = nullptr)
@@ -211,7 +209,7 @@ TEST_F(ViewerScript, TheWholeWindowIsPicturedWithItsBars)
 {
     const TemporaryFile picture(L"window.png");
 
-    ASSERT_EQ(0u, Run("window " + Narrow(picture.Path()) + "\n").exitCode);
+    ASSERT_EQ(0u, Run("window " + picture.PathInScript() + "\n").exitCode);
 
     const Pixels pixels(picture.Path());
     EXPECT_EQ(700, pixels.Width());
