@@ -1,6 +1,7 @@
 # To be sourced. Wine for the tests and the demo: a prefix of our own, made when it is missing.
 #
 #   VANTOPLEX_BUILD    folder of everything that is built; default <repository>/build
+#   VANTOPLEX_LOCALE, VANTOPLEX_TIME_ZONE   what programs find; default C.UTF-8 and UTC
 #   wine_prefix N      path of prefix number N: $VANTOPLEX_BUILD/wine, .../wine-2, ...
 #   wine_make_prefix P makes the prefix P unless it is there (about 10 s; a copy of the first: 1 s)
 #   wine_use_prefix P  points Wine at it
@@ -23,7 +24,7 @@ wine_server_program=/usr/lib/wine/wineserver64
 export WINEARCH=win64
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 export WINEDEBUG="${WINEDEBUG:--all,err+seh}"
-export LC_ALL=C.UTF-8 TZ=UTC
+export LC_ALL="${VANTOPLEX_LOCALE:-C.UTF-8}" TZ="${VANTOPLEX_TIME_ZONE:-UTC}"
 
 wine_prefix() {
   if [ "$1" -eq 1 ]; then echo "$VANTOPLEX_BUILD/wine"; else echo "$VANTOPLEX_BUILD/wine-$1"; fi
