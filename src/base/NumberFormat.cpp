@@ -122,10 +122,11 @@ std::u16string Padded(const TItem& item, std::string_view sign, std::string_view
     return result;
 }
 
+// Of digits, signs and names of numbers.
 void MakeUpper(std::string& text)
 {
     for (char& unit : text) {
-        if (unit >= 'a' && unit <= 'z')
+        if (unit >= 'a')
             unit = static_cast<char>(unit - 'a' + 'A');
     }
 }
@@ -354,8 +355,8 @@ std::u16string FormatText(std::u16string_view format, std::span<const TArgument>
 
 std::u16string FormatNumber(std::u16string_view format, double value)
 {
-    const TArgument argument(value);
-    return FormatText(format, {&argument, 1});
+    const TArgument arguments[] = {TArgument(value)};
+    return FormatText(format, arguments);
 }
 
 std::u16string Shortened(std::u16string_view format, std::size_t longest)

@@ -153,10 +153,7 @@ ERefusal CBarData::SetValue(std::int32_t segment, std::int32_t series, std::int3
     const SBarSeries* found = m_SeriesIndex.First(series);
     if (!found)
         return ERefusal::seriesIndexOutOfBounds;
-    SBarValue* node = found->FindValue(segment);
-    if (!node)
-        return ERefusal::segmentIndexOutOfBounds;
-    node->nValue = value;
+    found->FindValue(segment)->nValue = value; // every series has one for each id up to the count
     return ERefusal::none;
 }
 

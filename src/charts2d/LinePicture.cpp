@@ -73,7 +73,7 @@ private:
     void WholeSeries(std::size_t series)
     {
         std::int32_t k = 0;
-        for (const SBarValue* value = m_Table.m_Series[series]->pValues; value && value->pNext;
+        for (const SBarValue* value = m_Table.m_Series[series]->pValues; value->pNext;
              value = value->pNext, ++k)
             Line(series, PointOf(k, *value), PointOf(k + 1, *value->pNext));
     }
@@ -85,7 +85,7 @@ private:
         TPoint* const drawnEnd = DrawnEnd(series);
         std::int32_t k = 0;
         for (const SBarValue* value = m_Table.m_Series[series]->pValues;
-             value && value->pNext && value->nSegment != endId; value = value->pNext, ++k) {
+             value->pNext && value->nSegment != endId; value = value->pNext, ++k) {
             const TPoint end = PointOf(k + 1, *value->pNext);
             Line(series, PointOf(k, *value), end);
             if (drawnEnd)

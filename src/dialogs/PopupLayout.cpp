@@ -53,9 +53,9 @@ int MoveFromCell(const TGrid& grid, int cell, EArrow arrow) noexcept
     case EArrow::Right:
         return cell + 1 < grid.cells ? cell + 1 : AfterCells(grid);
     case EArrow::Left:
-        return cell > 0 ? cell - 1 : BeforeCells(grid);
+        break;
     }
-    return cell;
+    return cell > 0 ? cell - 1 : BeforeCells(grid);
 }
 
 } // namespace

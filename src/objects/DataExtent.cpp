@@ -1,5 +1,6 @@
 #include "objects/DataExtent.h"
 
+#include <algorithm>
 #include <emmintrin.h>
 
 namespace DataExtent
@@ -15,11 +16,10 @@ double FirstZero(double bound, double start, std::span<const TDataPoint> points,
 {
     if (bound != 0.0 || start == 0.0)
         return bound;
-    for (const TDataPoint& point : points) {
-        if (point.*coordinate == 0.0)
-            return point.*coordinate;
-    }
-    return bound;
+    // A bound other than the start came from a point.
+    return (*std::find_if(points.begin(), points.end(),
+                          [coordinate](const TDataPoint& point) { return point.*coordinate == 0.0; })).*
+           coordinate;
 }
 
 struct Lanes {

@@ -31,13 +31,14 @@ int SplitDecimal(double& value) noexcept
     return count;
 }
 
+// Of 1 to 10.
 double RoundUpMantissa(double mantissa) noexcept
 {
-    for (const double bound : {1.0, 2.0, 5.0, 10.0}) {
+    for (const double bound : {1.0, 2.0, 5.0}) {
         if (mantissa <= bound)
             return bound;
     }
-    return mantissa;
+    return 10.0;
 }
 
 } // namespace
@@ -63,12 +64,11 @@ namespace
 {
 
 // The bound moved by the remainder; as it was where the sums of the step stall before they
-// reach it, or where the result is no number.
+// reach it, or where the remainder is no number.
 double Moved(double bound, double remainder, double by, double step) noexcept
 {
-    const double moved = bound - by;
     const bool reached = std::fabs(remainder) <= 2 * step;
-    return remainder != 0 && reached && std::isfinite(moved) ? moved : bound;
+    return remainder != 0 && reached ? bound - by : bound;
 }
 
 } // namespace

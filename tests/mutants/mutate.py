@@ -4,6 +4,7 @@
 Changes the arithmetic of src one place at a time (an operator, a constant, a condition), compiles the
 changed file natively, and runs its room's unit tests: they should fail. BUILD is a configured native
 build. Without --sample all changes are made, which takes hours; a sample is the same for the same seed.
+--only picks those whose path and line ("src/draw/LongLines.cpp:12:") hold a text.
 
 Prints what nobody noticed, as FILE:LINE: the line `before` -> `after`. A change that has no effect that
 could be noticed belongs into equal.txt beside this program, with its reason. The exit code is 1 if fewer
@@ -69,7 +70,7 @@ def constant(text):
     return str(int(text) + 1)
 
 
-def mutants_of(file):
+def mutants_of(file, only):
     source = file.read_text()
     skipped = [match.span() for match in SKIPPED.finditer(source)]
     found = []
@@ -88,7 +89,7 @@ def mutants_of(file):
             found.append(Mutant(file, start, end, constant(token)))
         else:
             found.append(Mutant(file, start, end, OPERATORS[token]))
-    return found
+    return [mutant for mutant in found if only in f"{file}:{mutant.shown(source)[0]}:"]
 
 
 class Room:
@@ -168,7 +169,7 @@ def main():
 
     equal = known_equal()
     work = [(room, mutant) for room, files in sorted(arithmetic(options.build).items()) for file in sorted(files)
-            if options.only in str(file) for mutant in mutants_of(file)]
+            for mutant in mutants_of(file, options.only)]
     if options.sample:
         work = random.Random(options.seed).sample(work, min(options.sample, len(work)))
     rooms = {}

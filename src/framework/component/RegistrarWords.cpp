@@ -50,7 +50,7 @@ void Words::Advance()
 {
     const auto start = std::find_if_not(m_rest.begin(), m_rest.end(), IsBlank);
     m_rest.remove_prefix(static_cast<std::size_t>(start - m_rest.begin()));
-    if (m_rest.empty() || m_broken)
+    if (m_rest.empty())
         return;
     if (m_rest.front() == u'\'') {
         AdvanceQuoted();

@@ -49,6 +49,7 @@ TEST(NumberFormat, AShortenedFormatGivesTheSameBeginning)
     const std::u16string formats[] = {u"",
                                       u"%5.1f",
                                       u"%%%d%s%n%.3e%g%",
+                                      u"%+g of it",
                                       u"100%% of %+ #012.4Lg of 100%",
                                       u"%" + zeros + u"8.2f" + text,
                                       text + u"%g",
@@ -206,6 +207,8 @@ TEST(ComposedFormat, IntegersFollowTheStandard)
     EXPECT_EQ(Text(u"%.0d|", std::int64_t{0}), "|");
     EXPECT_EQ(Text(u"%d", std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
     EXPECT_EQ(Text(u"%#X %#o", std::int64_t{255}, std::int64_t{8}), "0XFF 010");
+    EXPECT_EQ(Text(u"%#x %#o %#d", std::int64_t{0}, std::int64_t{0}, std::int64_t{5}), "0 0 5");
+    EXPECT_EQ(Text(u"%#.3o", std::int64_t{8}), "010");
     EXPECT_EQ(Text(u"%c", std::int64_t{'A'}), "A");
 }
 

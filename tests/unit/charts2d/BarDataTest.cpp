@@ -180,6 +180,24 @@ TEST(BarData, TailOfAListMayBeDeletedAndAppendedToAgain)
     EXPECT_EQ(Values(data, 1), (TPairs{{1, 0}, {2, 0}}));
 }
 
+TEST(BarData, NoSegmentHasAnIdBelowOne)
+{
+    CBarData data;
+    Fill(data, 2, 1);
+    EXPECT_EQ(data.m_pSeries->FindValue(-1), nullptr);
+    EXPECT_EQ(data.m_pSeries->FindValue(0), nullptr);
+    EXPECT_EQ(data.m_pSeries->FindValue(1), data.m_pSeries->pValues);
+}
+
+TEST(ValueTable, WithoutSegmentsTheMaximumIsZero)
+{
+    CBarData data;
+    Fill(data, 1, 1);
+    ASSERT_EQ(data.SetValue(1, 1, 7), ERefusal::none);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    EXPECT_EQ(CValueTable(data).Maximum(), 0);
+}
+
 TEST(ValueTable, ReadsTheFirstValueOfEachId)
 {
     CBarData data;

@@ -107,6 +107,14 @@ TEST_F(BarPictureTest, SeriesGrowInTurnUnderAllLabels)
               "L0@62 L1@106 L2@150 B0@44+73 B0@87+140 B0@130+206 B1@61+40 B1@104+73 B1@147+106 ");
 }
 
+TEST_F(BarPictureTest, NothingGrowsWhenNoSeriesIsLeftToGrow)
+{
+    At(CBarAnimation::seriesGrow, 50);
+    animation.m_nGrowSeries = 2; // as after one was deleted
+    EXPECT_EQ(Text(),
+              "L0@62 L1@106 L2@150 B0@44+73 B0@87+140 B0@130+206 B1@61+80 B1@104+146 B1@147+213 ");
+}
+
 TEST_F(BarPictureTest, GroupsFadeInTurnBeforeTheEarlierOnes)
 {
     At(CBarAnimation::groupsFade, 50);

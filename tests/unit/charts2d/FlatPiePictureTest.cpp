@@ -32,6 +32,18 @@ TEST(FlatPiePicture, FullCircleIsWholeWhenStillAndMissingFromASweep)
     EXPECT_EQ(animation.m_dDrawnPercent, 100);
 }
 
+TEST(FlatPiePicture, StillSlicesOfMoreThanAHundredPercentGoOnAroundTheCircle)
+{
+    CFlatPieData data;
+    CFlatPieAnimation animation;
+    Fill(data, {50, 150}); // which are 50 and 100
+    ASSERT_EQ(data.UpdateSegment(2, 75, 0, u""), ERefusal::none);
+    const TFlatPiePicture picture = Compose(data, animation);
+    ASSERT_EQ(picture.Slices.size(), 2U);
+    EXPECT_EQ(picture.Slices[0].ptEnd, Left);
+    EXPECT_EQ(picture.Slices[1].ptEnd, Top);
+}
+
 TEST(FlatPiePicture, StillSliceTooThinForAPixelIsDrawnWhateverItsEnds)
 {
     CFlatPieData data;
@@ -111,6 +123,18 @@ TEST(FlatPieAnimation, SweepRunsPastAHundredAndStartsAgainWithoutAHold)
     animation.Animate(50, 3, Right);
     EXPECT_EQ(animation.m_dAnimationPercent, 1);
     EXPECT_DOUBLE_EQ(animation.m_dSweepAngle, FlatPieGeometry::FullCircle / 200);
+}
+
+TEST(FlatPieAnimation, SweepStartsAgainWhenAllIsDrawn)
+{
+    CFlatPieAnimation animation;
+    animation.SetAnimation(1, CFlatPieAnimation::sweep, Right);
+    for (int tick = 0; tick < 50; ++tick)
+        animation.Animate(50, 3, Right);
+    animation.m_dDrawnPercent = 50.5;
+    animation.Animate(50, 3, Right);
+    EXPECT_EQ(animation.m_dDrawnPercent, 0);
+    EXPECT_EQ(animation.m_dAnimationPercent, 1);
 }
 
 TEST(FlatPieAnimation, FadeGoesOnToTheNextSegmentAfterFiftyTicks)

@@ -55,6 +55,15 @@ TEST(FlatPieData, UpdateHasNoUpperLimitButALowerOne)
     EXPECT_EQ(data.m_pSegments->pNext->strName, u"more");
 }
 
+TEST(FlatPieData, DeletionOutsideTheCountIsRefused)
+{
+    CFlatPieData data;
+    Fill(data, {50, 20});
+    for (const int index : {-1, 0, 3})
+        EXPECT_EQ(data.DeleteSegment(index), ERefusal::indexOutOfBounds);
+    EXPECT_EQ(Percents(data), (TPercents{50, 20}));
+}
+
 TEST(FlatPieData, DeletionRenumbersAndSumsAnew)
 {
     CFlatPieData data;

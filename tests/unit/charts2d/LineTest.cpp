@@ -211,6 +211,66 @@ TEST_F(LineTest, SeriesInTurnStandUnderAllLabels)
     EXPECT_EQ(Text(), "L0 L1 L2 0:62,33-109,-47 0:109,-47-156,-127 1:62,73-109,33 1:109,33-156,-7 ");
 }
 
+TEST_F(LineTest, ASeriesEndsBeforeASegmentThatItHasNoValueFor)
+{
+    Fill(3, 0);
+    ASSERT_EQ(data.DeleteSegment(1), ERefusal::none);
+    Fill(0, 1); // has values for the ids 1 and 2; the segments are 2 and 3
+    Start(CLineAnimation::allDraw);
+    animation.m_nGrowSegment = 2;
+    const TLinePicture picture = Compose();
+    std::string kinds;
+    for (const TLineStep& step : picture.Steps)
+        kinds += step.kind == TLineStep::EKind::label ? 'L' : '-';
+    EXPECT_EQ(kinds, "L-L");
+}
+
+TEST_F(LineTest, LinesThatAreAllFinishedStandOverAllLabels)
+{
+    Fill(3, 1);
+    Start(CLineAnimation::allDraw);
+    animation.m_nGrowSegment = 2;
+    ASSERT_EQ(data.DeleteSegment(3), ERefusal::none); // the one in progress
+    std::string kinds;
+    for (const TLineStep& step : Compose().Steps)
+        kinds += step.kind == TLineStep::EKind::label ? 'L' : '-';
+    EXPECT_EQ(kinds, "LL--");
+
+    Start(CLineAnimation::seriesDraw);
+    animation.m_nGrowSegment = 2;
+    kinds.clear();
+    for (const TLineStep& step : Compose().Steps)
+        kinds += step.kind == TLineStep::EKind::label ? 'L' : '-';
+    EXPECT_EQ(kinds, "LL--");
+}
+
+TEST_F(LineTest, SegmentsWithoutASeriesLeaveTheAxesAlone)
+{
+    Fill(3, 0);
+    EXPECT_FALSE(Compose().bValueLabels);
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(LineTest, WithoutAnimationNothingMoves)
+{
+    Fill(3, 1);
+    animation.SetAnimation(0, CLineAnimation::allDraw, 3, 1, StartPoint());
+    Tick(50);
+    EXPECT_EQ(animation.m_nAnimationPercent, 0);
+}
+
+TEST_F(LineTest, BothEndsAreCutToTheDevice)
+{
+    TPoint from{-100000, 10};
+    TPoint to{100000, 10};
+    ASSERT_TRUE(LineGeometry::CutToDevice(from, to));
+    EXPECT_EQ(from, (TPoint{-(1 << 16), 10}));
+    EXPECT_EQ(to, (TPoint{1 << 16, 10}));
+    ASSERT_TRUE(LineGeometry::CutToDevice(from, to));
+    EXPECT_EQ(from, (TPoint{-(1 << 16), 10}));
+    EXPECT_EQ(to, (TPoint{1 << 16, 10}));
+}
+
 TEST_F(LineTest, SeriesAddedAfterTheStartHasNoLineInProgress)
 {
     Fill(3, 1);

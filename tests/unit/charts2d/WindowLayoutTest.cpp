@@ -17,6 +17,7 @@ TEST(WindowLayout, SidesAreRaisedToTwoHundred)
     using WindowLayout::AtLeastSmallest;
     EXPECT_EQ(AtLeastSmallest(TRect{5, 6, 105, 106}), (TRect{5, 6, 205, 206}));
     EXPECT_EQ(AtLeastSmallest(TRect{5, 6, 305, 106}), (TRect{5, 6, 305, 206}));
+    EXPECT_EQ(AtLeastSmallest(TRect{5, 6, 105, 306}), (TRect{5, 6, 205, 306}));
     EXPECT_EQ(AtLeastSmallest(TRect{100, 100, 0, 0}), (TRect{100, 100, 300, 300}));
     EXPECT_EQ(AtLeastSmallest(TSize{10, 500}), (TSize{200, 500}));
     EXPECT_EQ(AtLeastSmallest(TSize{-10, Lowest}), (TSize{200, 200}));
@@ -58,5 +59,9 @@ TEST(WindowLayout, FramesThatNoWindowShowsAreNotMade)
     EXPECT_FALSE(HasFrame({32768, 200}));
     EXPECT_FALSE(HasFrame({20000, 20000}));
     EXPECT_FALSE(HasFrame({Highest, Highest}));
+    EXPECT_FALSE(HasFrame({200, 32768}));
     EXPECT_FALSE(HasFrame({0, 200}));
+    EXPECT_FALSE(HasFrame({200, 0}));
+    EXPECT_TRUE(HasFrame({8192, 8192}));
+    EXPECT_FALSE(HasFrame({8192, 8193}));
 }

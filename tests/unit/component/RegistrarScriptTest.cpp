@@ -124,20 +124,22 @@ TEST(RegistrarScript, FourKindsOfValues)
         val Text = s 'it''s'
         val Number = d '4294967295'
         val Hex = d '&H10'
+        val Other = d '0X1f'
         val Bytes = b '00ff7A'
         val None = b ''
         val Many = m 'one\0two'
         val Empty = m ''
     } })");
 
-    ASSERT_EQ(key.values.size(), 7U);
+    ASSERT_EQ(key.values.size(), 8U);
     EXPECT_TRUE(key.values[0].value.text == u"it's");
     EXPECT_EQ(key.values[1].value.number, 4294967295U);
     EXPECT_EQ(key.values[2].value.number, 16U);
-    EXPECT_EQ(key.values[3].value.bytes, (std::vector<std::uint8_t>{0, 0xFF, 0x7A}));
-    EXPECT_TRUE(key.values[4].value.bytes.empty());
-    EXPECT_TRUE(key.values[5].value.text == std::u16string(u"one\0two\0", 8));
-    EXPECT_TRUE(key.values[6].value.text.empty());
+    EXPECT_EQ(key.values[3].value.number, 31U);
+    EXPECT_EQ(key.values[4].value.bytes, (std::vector<std::uint8_t>{0, 0xFF, 0x7A}));
+    EXPECT_TRUE(key.values[5].value.bytes.empty());
+    EXPECT_TRUE(key.values[6].value.text == std::u16string(u"one\0two\0", 8));
+    EXPECT_TRUE(key.values[7].value.text.empty());
 }
 
 TEST(RegistrarScript, EmptyPartsOfAListAreLeftOut)
@@ -173,6 +175,8 @@ TEST(RegistrarScript, TextsThatAreNoScriptAreRefused)
                                  u"HKCR { K = s 'open }",
                                  u"HKCR { val = s 'x' }",
                                  u"HKCR { val K }",
+                                 u"HKCR { val 'open",
+                                 u"HKCR { K = s 'x'",
                                  u"HKCR { NoRemove }",
                                  u"HKCR { ForceRemove { } }",
                                  u"HKCR { Delete K = s 'x' }",
@@ -190,6 +194,8 @@ TEST(RegistrarScript, NamesThatWouldMeanTheParentAreRefused)
         EXPECT_TRUE(Refuses(std::u16string(u"HKCR { ForceRemove ") + name + u" }"));
         EXPECT_TRUE(Refuses(std::u16string(u"HKCR { Delete ") + name + u" }"));
     }
+    EXPECT_TRUE(Refuses(std::u16string_view(u"HKCR { 'a\0b' }", 14)))
+        << "ends for the registry at its zero";
     EXPECT_TRUE(OnlyKey(u"HKCR { 'a b\\c' }").name == u"a b\\c");
 }
 
@@ -256,6 +262,7 @@ TEST(RegistrarScript, ReplacementCannotGrowWithoutBound)
 
     EXPECT_TRUE(Expand(u"%A%%A%%A%", map).has_value());
     EXPECT_FALSE(Expand(u"%A%%A%%A%%A%", map).has_value());
+    EXPECT_FALSE(Expand(u"%A%%A%%A%%A%%A%", map).has_value()) << "in the midst of it";
 }
 
 TEST(RegistrarScript, QuotesInAReplacementAreDoubledFirst)

@@ -220,6 +220,22 @@ TEST(PopupHitTest, RightAndBelowOfTheCellsIsNothing)
     EXPECT_EQ(HitTest(grid, {30, -1000}), NoCell);
 }
 
+TEST(PopupHitTest, BesideTheUpperBoxIsNothing)
+{
+    const TGrid grid = Place(true, false).grid;
+    EXPECT_EQ(HitTest(grid, {30, 3}), NoCell) << "above it";
+    EXPECT_EQ(HitTest(grid, {30, 4}), AutoBox);
+    EXPECT_NE(HitTest(grid, {3, 10}), AutoBox) << "left of it";
+}
+
+TEST(PopupHitTest, BehindTheLastCellOfAnUnfilledRowIsNothing)
+{
+    const TGrid grid = PopupLayout::Layout(10, Cell, Edge, nullptr, nullptr, Middle).grid;
+    const int secondRow = Edge + Cell + 5;
+    EXPECT_EQ(HitTest(grid, {Edge + Cell + 5, secondRow}), 9);
+    EXPECT_EQ(HitTest(grid, {Edge + 2 * Cell + 5, secondRow}), NoCell);
+}
+
 TEST(PopupHitTest, QuotientsRoundTowardZeroBesideTheFirstCells)
 {
     const TGrid grid = Place(false, false).grid;

@@ -44,6 +44,14 @@ TEST(EllipsePart, AFlatEllipseHasItsOwnHalfAxes)
     EXPECT_EQ(EllipsePart({-10, 150, 10, 160}, flat, 4), EEllipsePart::nothing);
 }
 
+TEST(EllipsePart, ALineWiderThanTheEllipseCoversItsMiddle)
+{
+    const TRect middle = {-5, -5, 5, 5};
+    EXPECT_EQ(EllipsePart(middle, {-10, -1000, 10, 1000}, 100), EEllipsePart::line);
+    EXPECT_EQ(EllipsePart(middle, {-1000, -10, 1000, 10}, 100), EEllipsePart::line);
+    EXPECT_EQ(EllipsePart(middle, {-1000, -1000, 1000, 1000}, 100), EEllipsePart::inside);
+}
+
 TEST(EllipsePart, CornersInTheWrongOrderMeanTheSameEllipse)
 {
     EXPECT_EQ(EllipsePart({0, 0, 9, 9}, {1000, 1000, -1000, -1000}, 2), EEllipsePart::inside);

@@ -62,6 +62,24 @@ TEST(LongLines, AShortSegmentStaysAsItIs)
     EXPECT_EQ(to, (TPoint{Limit, -Limit}));
 }
 
+TEST(LongLines, ASegmentBeyondOneSideIsRefusedAndStays)
+{
+    constexpr double far = Limit;
+    for (const auto& [from, to] : {std::pair{TVertex{far + 1, 0}, TVertex{far + 9, 5}},
+                                   std::pair{TVertex{-far - 1, 0}, TVertex{-far - 9, 5}},
+                                   std::pair{TVertex{0, far + 1}, TVertex{5, far + 9}},
+                                   std::pair{TVertex{0, -far - 1}, TVertex{5, -far - 9}},
+                                   std::pair{TVertex{0, 1e301}, TVertex{0, 0}},
+                                   std::pair{TVertex{0, 0}, TVertex{std::nan(""), 0}}}) {
+        for (const bool turned : {false, true}) {
+            TVertex start = turned ? to : from;
+            TVertex end = turned ? from : to;
+            EXPECT_FALSE(CutSegment(start, end)) << from.x << ' ' << from.y;
+            EXPECT_EQ(start.y, turned ? to.y : from.y);
+        }
+    }
+}
+
 TEST(LongLines, OneLongEndIsCutAndTheOtherStays)
 {
     TPoint from{100, 200};

@@ -65,7 +65,7 @@ TEST(PolygonRows, NothingIsVisibleOfAnEmptyRectangle)
 TEST(PolygonRows, AVertexWithoutAPlaceIsLeftOut)
 {
     const double none = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(Picture({{1, 1}, {none, 0}, {4, 1}, {1e308, -1e308}, {4, 3}, {1, 3}}, 6, 4),
+    EXPECT_EQ(Picture({{1, 1}, {none, 0}, {4, 1}, {1e308, -1e308}, {4, none}, {4, 3}, {1, 3}}, 6, 4),
               (Rows{"......", ".###..", ".###..", "......"}));
 }
 

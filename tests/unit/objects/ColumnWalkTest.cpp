@@ -189,7 +189,7 @@ TEST(ColumnWalk, HostileScalesEqualThePlainWalk)
     for (const auto& [low, high] :
          {std::pair{10.0, 10.0}, std::pair{90.0, 10.0}, std::pair{-Infinity, Infinity},
           std::pair{std::nan(""), 1.0}, std::pair{-1e308, 1e308}, std::pair{0.0, 5e-324},
-          std::pair{0.0, 1e300}}) {
+          std::pair{0.0, 1e300}, std::pair{1.0, Infinity}, std::pair{1.0, std::nextafter(1.0, 2.0)}}) {
         for (const int length : {400, 1, 0, -7}) {
             CWalker(points, {.fMin = low, .fMax = high, .nLength = length, .nOrigin = 100})
                 .ExpectSame(Plot);
@@ -197,6 +197,12 @@ TEST(ColumnWalk, HostileScalesEqualThePlainWalk)
                 .ExpectSame(Plot);
         }
     }
+}
+
+TEST(ColumnWalk, AVerticalScaleEqualsThePlainWalk)
+{
+    const TScale up{.fMin = 0, .fMax = 100, .nLength = 400, .nOrigin = 500, .bVertical = true};
+    CWalker(EvenPoints(300, -20, 0.5), up).ExpectSame(Plot);
 }
 
 TEST(ColumnWalk, AnyColumnsOfInterestEqualThePlainWalk)

@@ -80,8 +80,17 @@ TEST(DateFormat, TextThatDoesntFitTheBufferIsEmpty)
     EXPECT_EQ(FormatDate(many, Date), u"");
 }
 
+TEST(DateFormat, CenturiesHaveNoLeapDayButEveryFourth)
+{
+    // The first of 2101 is a Saturday: of the last week of 2100, whose days count as 365.
+    EXPECT_EQ(FormatDate(u"%G %V", {2101, 1, 1, 0, 0, 0, 6, 1}), u"2100 52");
+}
+
 TEST(DateFormat, HostileFieldsAreHarmless)
 {
+    EXPECT_EQ(FormatDate(u"%A %B", {2026, 0, 1, 0, 0, 0, -1, 1}), u"? ?");
+    EXPECT_EQ(FormatDate(u"%A %B", {2026, 13, 1, 0, 0, 0, 7, 1}), u"? ?");
+    EXPECT_EQ(FormatDate(u"%#", Date), u"%#");
     const TDateFields fields{-5, 99, -1, 77, 61, -3, 12, -4};
     EXPECT_FALSE(FormatDate(u"%a %A %b %B %c %C %d %e %j %U %V %G %g %W %y %Y %p %I", fields).empty());
 }

@@ -59,6 +59,27 @@ TEST(CalcDateTimeStep, TakesTheFirstEntryAtOrAboveTheQuotient)
     EXPECT_EQ(StepInSeconds(10, 86400.0 * 365), 4838400);
 }
 
+TEST(CalcDateTimeStep, OfferedAreTheWholeUnitsOfTheCalendar)
+{
+    constexpr int minute = 60;
+    constexpr int hour = 60 * minute;
+    constexpr int day = 24 * hour;
+    constexpr int week = 7 * day;
+    constexpr int year = 364 * day; // of 52 weeks
+    const int offered[] = {1,         2,         5,          10,         15,          20,
+                           30,        minute,    2 * minute, 5 * minute, 10 * minute, 15 * minute,
+                           hour / 2,  hour,      2 * hour,   4 * hour,   8 * hour,    10 * hour,
+                           12 * hour, day,       2 * day,    4 * day,    week,        2 * week,
+                           4 * week,  8 * week,  12 * week,  26 * week,  year,        2 * year,
+                           5 * year,  10 * year, 20 * year,  50 * year};
+    int previous = 0;
+    for (const int step : offered) {
+        EXPECT_EQ(StepInSeconds(1, previous + 1), step);
+        EXPECT_EQ(StepInSeconds(1, step), step);
+        previous = step;
+    }
+}
+
 TEST(CalcDateTimeStep, BeyondTheTableTheQuotientIsKept)
 {
     EXPECT_EQ(StepInSeconds(1, 1572480000), 1572480000);

@@ -52,6 +52,8 @@ TEST(FindIndexForX, FewerThanTwoPointsGiveZero)
 {
     EXPECT_EQ(Find({}, 1), 0);
     EXPECT_EQ(Find({5}, 9), 0);
+    EXPECT_EQ(FindIndexForXAscending({}, 1), 0);
+    EXPECT_EQ(FindIndexForXAscending(PointsAt({5}), 9), 0);
 }
 
 TEST(FindIndexForX, HostileValuesStayInTheArray)

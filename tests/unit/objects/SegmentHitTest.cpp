@@ -46,6 +46,7 @@ TEST(HitsSegment, TheBoxReachesTwoPixelsAndExcludesItsFarEdges)
     EXPECT_TRUE(HitsSegment(segment, {21, 10}, 4));
     EXPECT_FALSE(HitsSegment(segment, {22, 10}, 4));
     EXPECT_TRUE(HitsSegment(segment, {15, 8}, 4));
+    EXPECT_FALSE(HitsSegment(segment, {15, 7}, 8));
     EXPECT_FALSE(HitsSegment(segment, {15, 12}, 4));
 }
 

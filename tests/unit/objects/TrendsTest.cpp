@@ -129,6 +129,40 @@ TEST(PolynomialTrend, AddedPointsRepeatTheLastStep)
     EXPECT_NEAR(trend[4].fYVal, 14.0, 1e-12);
 }
 
+TEST(PolynomialTrend, OnePointHasNoStepToRepeat)
+{
+    const Points points{{5, 3}};
+    CPolynomialSolver solver;
+    ASSERT_TRUE(Fit(solver, points, 1));
+    Points trend = Filled(4);
+    Trends::Polynomial(solver, points, trend);
+    for (const TDataPoint& point : trend) {
+        EXPECT_EQ(point.fXVal, 5.0);
+        EXPECT_EQ(point.fYVal, 3.0);
+    }
+}
+
+TEST(PolynomialTrend, OnlyTermsWithACoefficientAreSummed)
+{
+    CPolynomialSolver solver;
+    solver.m_fCoeffs.fill(1.0);
+    solver.m_nDegree = CPolynomialSolver::MaxTerms + 9;
+    EXPECT_EQ(solver.Evaluate(1.0), CPolynomialSolver::MaxTerms);
+}
+
+TEST(Trends, WithoutPointsNothingIsWritten)
+{
+    CPolynomialSolver solver;
+    Points trend = Filled(3);
+    Trends::Linear({}, trend);
+    Trends::Cubic({}, trend);
+    Trends::Polynomial(solver, {}, trend);
+    for (const TDataPoint& point : trend) {
+        EXPECT_EQ(point.fXVal, -1.0);
+        EXPECT_EQ(point.fYVal, -1.0);
+    }
+}
+
 TEST(PolynomialTrend, EqualXValuesAreSingular)
 {
     CPolynomialSolver solver;

@@ -181,6 +181,25 @@ TEST(PieProjection, SliversNeverGrowIntoTheWholePie)
     }
 }
 
+TEST(PieProjection, FromTheEdgeSlicesOfOneSideHaveNoWidth)
+{
+    const auto projections = Projected(90.0f, 20.0f, {30.0f, 100.0f, 30.0f});
+    const auto turned = [&](std::size_t i) { // there is nothing to draw, so once around is nothing too
+        return std::abs(std::remainder(projections[i].fDrawSweep, 360.0f));
+    };
+    EXPECT_NEAR(turned(0), 0.0f, Near) << "on the right";
+    EXPECT_NEAR(turned(1), 180.0f, Near) << "from the right to the left";
+    EXPECT_NEAR(turned(2), 0.0f, Near) << "on the left";
+}
+
+TEST(PieProjection, MoreSweepsThanPlacesFillThePlaces)
+{
+    std::vector<TProjection> one(1);
+    ProjectAngles(Hand, FaceRects(Hand, 0.0f, 0.5f), 0.0f, std::vector<float>{90.0f, 180.0f, 90.0f},
+                  one);
+    EXPECT_NEAR(one[0].fDrawSweep, 90.0f, Near);
+}
+
 TEST(PieProjection, SweepsAddUpToAFullTurn)
 {
     const auto projections = Projected(70.0f, 300.0f, {120.0f, 90.0f, 150.0f});
@@ -274,6 +293,15 @@ TEST(PieOutline, QuartersOfAFlatEllipseAreThoseOfItsCircle)
     EXPECT_EQ(Outlined(flat, 26.56505f, 90.0f), 90.0f);
 }
 
+TEST(PieOutline, OnAVeryFlatEllipseTheStepBeforeAQuarterIsAsLargeAsFloatsNeedIt)
+{
+    // Half axes 2000 and 0.6: a step of 1e-5 * 2000 / 0.6 = 0.0333 on the circle, and 0.03 beyond the
+    // quarter.
+    const TRectF flat{-2000, 100, 4000, 1.2f};
+    EXPECT_NEAR(Outlined(flat, 0.0f, 179.427f), 0.516f, 0.002f); // atan2(0.6, 2000 * 0.0333)
+    EXPECT_EQ(Outlined(flat, 0.0f, 179.6f), 179.6f);             // 0.043 beyond
+}
+
 TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
 {
     // rise 570 * 4e-7 = 2.3e-4; 235 * (1 - cos(half)) reaches it at a sweep of 0.16 degrees
@@ -283,6 +311,13 @@ TEST(PieOutline, ArcsThatAreAsGoodAsStraightHaveNone)
     EXPECT_EQ(Outlined({30, 300, 470, 20}, 85.0f, 10.0f), 0.0f); // 10 * (1 - cos) of a half degree
     EXPECT_EQ(Outlined({30, 300, 470, 0.9f}, 0.0f, 200.0f), 0.0f);
     EXPECT_EQ(Outlined({30, 300, 470, 0}, 0.0f, 200.0f), 0.0f);
+}
+
+TEST(PieOutline, TheTipOfAnEllipseAsFlatAsALineHasNoArc)
+{
+    float start = -0.0019f;
+    float sweep = 0.0038f;
+    EXPECT_EQ(OutlineAngles({0, 0, 20000, 1.2f}, start, sweep), EOutline::radii);
 }
 
 TEST(PieOutline, ASliceTooThinForItsArcKeepsItsRadiiDownToAThousandthOfADegree)

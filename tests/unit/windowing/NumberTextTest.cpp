@@ -12,9 +12,9 @@ using NumberText::ParseUnsigned;
 
 namespace
 {
-const std::u16string_view NoNumbers[] = {u"",     u" ",   u"abc", u"1,5",   u"1 000", u"12a",
-                                         u"0x10", u"--1", u"+-1", u"1e",    u"1e+",   u".",
-                                         u"-.",   u"nan", u"inf", u"1.2.3", u"1d5",   u"１"};
+const std::u16string_view NoNumbers[] = {u"",    u" ",     u"abc", u"1,5", u"1 000", u"12a", u"0x10",
+                                         u"--1", u"+-1",   u"1e",  u"1e+", u".",     u"-.",  u"nan",
+                                         u"inf", u"1.2.3", u"1d5", u"１",  u"1e5x"};
 } // namespace
 
 TEST(NumberText, WhatIsNoNumberIsRefused)
