@@ -43,8 +43,7 @@ bool IsPossible(const THeader& header) noexcept
 {
     if (header.type != 0 || header.width <= 0 || header.height <= 0)
         return false;
-    if (!IsDepth(header.planes, header.bitsPixel) || header.widthBytes <= 0 ||
-        header.widthBytes % 2 != 0)
+    if (!IsDepth(header.planes, header.bitsPixel) || header.widthBytes % 2 != 0)
         return false;
     const std::int64_t packed = PackedRow(header);
     if (header.widthBytes < packed || header.widthBytes > packed + MostPadding)

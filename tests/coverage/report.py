@@ -79,9 +79,13 @@ class Coverage:
 
 
 def best(trees):
-    if len(trees) == 2 and trees[0].keys() == trees[1].keys():
-        trees = [{size: [a + b for a, b in zip(counts, trees[1][size])] for size, counts in trees[0].items()}]
-    pairs = [(sum(groups), sum(count > 0 for counts in groups.values() for count in counts)) for groups in trees]
+    """Trees that compiled a line alike are one; else the one that takes more counts."""
+    alike = collections.defaultdict(list)
+    for groups in trees:
+        alike[frozenset(groups)].append(groups)
+    sums = [{size: [sum(counts) for counts in zip(*(groups[size] for groups in same))] for size in sizes}
+            for sizes, same in alike.items()]
+    pairs = [(sum(groups), sum(count > 0 for counts in groups.values() for count in counts)) for groups in sums]
     return min(pairs, key=lambda pair: pair[0] - pair[1])
 
 

@@ -3,6 +3,7 @@
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
 #include "support/GdiCount.h"
+#include "support/ImportPatch.h"
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,11 @@ public:
 private:
     WCHAR m_Path[MAX_PATH];
 };
+
+HBITMAP WINAPI RefuseBitmap(const BITMAP*)
+{
+    return nullptr;
+}
 
 Bytes Stored(CBitmapEx& bitmap)
 {
@@ -200,6 +206,17 @@ TEST(BitmapEx, ASizeThatCannotBeIsAnEndOfFileAndTheOldBitmapStays)
         EXPECT_EQ(Load(bitmap, bytes), CArchiveException::endOfFile);
         EXPECT_EQ(bitmap.GetSafeHandle(), handle);
     }
+}
+
+TEST(BitmapEx, ABitmapThatThePlatformRefusesRaisesAndTheOldOneStays)
+{
+    CBitmapEx bitmap;
+    MakeMono(bitmap);
+    const HGDIOBJ handle = bitmap.GetSafeHandle();
+    const Bytes stored = Stored(bitmap);
+    const ImportPatch refusal("CreateBitmapIndirect", &RefuseBitmap);
+    EXPECT_THROW(Load(bitmap, stored), CResourceException*);
+    EXPECT_EQ(bitmap.GetSafeHandle(), handle);
 }
 
 TEST(BitmapEx, BitsThatTheFileCannotFillAreAnEndOfFile)

@@ -147,6 +147,17 @@ TEST(AxisFile, CountsTakeEightBytesAndRecordsTheirSize)
     EXPECT_EQ(Stored(axis), expected.m_bytes + FontsOf(axis).m_bytes);
 }
 
+TEST(AxisFile, AMarkerThatIsHiddenWithoutItsValueIsStoredSo)
+{
+    CXGraphAxis axis;
+    axis.SetAxisMarker(0, 7, 8, 2);
+    axis.m_AxisMarkers[0].bVisible = false;
+    axis.m_AxisMarkers[0].bShowValue = false;
+    const std::string stored = Stored(axis);
+    const std::string record = stored.substr(stored.size() - 2 * sizeof(LOGFONTW) - 128, 128);
+    EXPECT_EQ(record.substr(8, 8), CBytes().Add(axis.m_AxisMarkers[0].crColor).Zeros(4).m_bytes);
+}
+
 TEST(AxisFile, TheReaderTakesFourBytesOfACount)
 {
     CXGraphAxis source;

@@ -66,6 +66,16 @@ TEST_F(CursorSearch, EvenAndUnevenPointsGiveTheWalksResult)
     ExpectTheSameEverywhere(0, 4000);
 }
 
+TEST_F(CursorSearch, AGuessFarInFrontOfManyClosePointsGivesTheWalksResult)
+{
+    std::vector<TDataPoint> dense = {{0, 1.0}};
+    for (int i = 0; i < 1000; ++i)
+        dense.push_back({100 + i * 0.01, 1.0});
+    Add(dense);
+    EXPECT_EQ(Find(105.005)[1], 502);
+    ExpectTheSameEverywhere(100, 110);
+}
+
 TEST_F(CursorSearch, EqualNeighboursAndWildStartsGiveTheWalksResult)
 {
     std::vector<TDataPoint> steps;

@@ -1,8 +1,12 @@
 // Pictures on the graph.
 
+#include "FileBytes.h"
 #include "NativeGraph.h"
 #include "draw/BitmapEx.h"
+#include "framework/windowing/Archive.h"
+#include "framework/windowing/File.h"
 #include "objects/XGraphBitmap.h"
+#include "windowing/TempFile.h"
 
 namespace
 {
@@ -129,6 +133,54 @@ TEST_F(PictureObject, OnAScalingCanvasPictureAndTrackerScale)
     EXPECT_EQ(canvas.At(20, 60), 0x000000u); // the border
     EXPECT_EQ(canvas.At(18, 18), 0x000000u); // a handle at the scaled corner
     EXPECT_EQ(picture->m_Tracker.m_rect, CRect(10, 10, 62, 62));
+}
+
+TEST_F(PictureObject, ItIsSavedWithItsBitmapOrWithNone)
+{
+    using namespace FileBytes;
+    TBitmap expected;
+    expected.base.nLeft = 100;
+    expected.base.nTop = 50;
+    expected.base.nRight = 202;
+    expected.base.nBottom = 152;
+    const std::string head = Flags(4) + CBytes().Add<std::uint64_t>(0).Add<std::uint64_t>(1).m_bytes;
+    const CTempFile file;
+    const auto saved = [&] {
+        EXPECT_TRUE(graph.Save(file.Path(), 4));
+        return file.Read();
+    };
+    CBitmapEx* const bitmap = std::exchange(picture->m_pBitmap, nullptr);
+    EXPECT_EQ(saved(), head + NewClass("CXGraphBitmap") + Bytes(expected));
+
+    picture->m_pBitmap = bitmap;
+    expected.nWidth = expected.nHeight = 2;
+    expected.nWidthBytes = 8;
+    expected.nPlanes = 1;
+    expected.nBitsPixel = 32;
+    expected.bits = CBytes().Add(0xFF0000).Add(0x0000FF).Add(0xFF0000).Add(0x0000FF).m_bytes;
+    EXPECT_EQ(saved(), head + NewClass("CXGraphBitmap") + Bytes(expected));
+}
+
+TEST_F(PictureObject, LoadingFillsTheBitmapThatItHas)
+{
+    using namespace FileBytes;
+    TBitmap stored;
+    stored.bBorder = false;
+    stored.nWidth = stored.nHeight = 1;
+    stored.nWidthBytes = 4;
+    stored.nPlanes = 1;
+    stored.nBitsPixel = 32;
+    stored.bits = CBytes().Add(0x00FF00).m_bytes;
+    const CTempFile temp(Bytes(stored));
+    CFile file(temp.Path(), CFile::modeRead);
+    CArchive ar(&file, CArchive::load);
+    CBitmapEx* const bitmap = picture->m_pBitmap;
+    picture->Serialize(ar);
+    EXPECT_EQ(picture->m_pBitmap, bitmap);
+    EXPECT_FALSE(picture->m_bBorder);
+    BITMAP header = {};
+    bitmap->GetBitmap(&header);
+    EXPECT_EQ(header.bmWidth, 1);
 }
 
 TEST_F(PictureObject, WhatItDoesNotOwnStays)

@@ -217,6 +217,20 @@ TEST(ArchiveObjects, EveryTruncationIsTheEndOfTheFileAndLeavesNothingBehind)
     EXPECT_EQ(CauseOfReading(Bytes("\xFF\x7F\x01\0\0")), CArchiveException::endOfFile);
 }
 
+TEST(ArchiveObjects, ClassWhoseNameNoFileCouldHoldIsRefused)
+{
+    const std::string longest(63, 'C');
+    const std::string longer(64, 'C');
+    CRuntimeClass record = {longest.c_str(), 1, 1, nullptr, nullptr};
+    EXPECT_EQ(Stored([&](CArchive& ar) { ar.WriteClass(&record); }),
+              Bytes("\xFF\xFF\x01\0\x3F\0") + longest);
+    record.m_lpszClassName = longer.c_str();
+    const CTempFile temp;
+    CFile file(temp.Path(), CFile::modeCreate | CFile::modeWrite);
+    CArchive ar(&file, CArchive::store);
+    EXPECT_THROW(ar.WriteClass(&record), CArchiveException*);
+}
+
 TEST(ArchiveObjects, ClassThatIsNotSerialIsRefused)
 {
     const CTempFile temp;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <vector>
 
 #include "windowing/ArchiveTestClasses.h"
@@ -153,6 +154,36 @@ TEST(Archive, LengthThatTheFileCannotFillIsItsEnd)
               CArchiveException::endOfFile);
 }
 
+TEST(Archive, TextLongerThanATextCanBeIsTheEndHoweverLongTheFile)
+{
+    // Says that it holds many gigabytes.
+    class CEndlessFile : public CFile
+    {
+    public:
+        UINT Read(void* lpBuf, UINT nCount) override
+        {
+            std::memset(lpBuf, 0, nCount);
+            const std::string length = Bytes("\xFF\xFE\xFF\xFF\xFF\xFF\x00\x00\x00\x40");
+            std::memcpy(lpBuf, length.data(), length.size());
+            return nCount;
+        }
+        [[nodiscard]] ULONGLONG GetPosition() const override { return 0; }
+        [[nodiscard]] ULONGLONG GetLength() const override { return 1ull << 36; }
+        ULONGLONG Seek(LONGLONG, UINT) override { return 0; }
+        void Close() override {}
+    };
+    CEndlessFile file;
+    CArchive ar(&file, CArchive::load);
+    CString text;
+    try {
+        ar >> text;
+        ADD_FAILURE() << "a text of 2^30 units was read";
+    } catch (CArchiveException* e) {
+        EXPECT_EQ(e->m_cause, CArchiveException::endOfFile);
+        e->Delete();
+    }
+}
+
 TEST(Archive, FailedTextLeavesTheTargetAsItWas)
 {
     CString text(L"before");
@@ -190,6 +221,11 @@ TEST(Archive, RawReadGivesWhatThereIs)
         EXPECT_EQ(ar.GetRemaining(), 2u);
         EXPECT_EQ(ar.Read(bytes, 10), 2u);
         EXPECT_EQ(ar.Read(bytes, 10), 0u);
+    });
+    Load("abcde", [](CArchive& ar) {
+        std::string block(100000, '-'); // past the buffer
+        EXPECT_EQ(ar.Read(block.data(), static_cast<UINT>(block.size())), 5u);
+        EXPECT_EQ(block.substr(0, 6), "abcde-");
     });
     EXPECT_EQ(Load("abcde",
                    [](CArchive& ar) {
@@ -256,6 +292,29 @@ TEST(Archive, WrongDirectionIsRefused)
     } catch (CArchiveException* e) {
         EXPECT_EQ(e->m_cause, CArchiveException::writeOnly);
         EXPECT_TRUE(e->m_strFileName == temp.Path());
+        e->Delete();
+    }
+}
+
+TEST(Archive, AClosedOneHasNothingToReadAndTakesNothing)
+{
+    Load("abcde", [](CArchive& ar) {
+        ar.Close();
+        char byte = 0;
+        EXPECT_EQ(ar.Read(&byte, 1), 0u);
+        EXPECT_EQ(ar.GetRemaining(), 0u);
+        ar.Flush();
+    });
+    const CTempFile temp;
+    CFile file(temp.Path(), CFile::modeCreate | CFile::modeWrite);
+    CArchive ar(&file, CArchive::store);
+    ar.Close();
+    try {
+        ar << 1;
+        ADD_FAILURE() << "a closed archive was written";
+    } catch (CArchiveException* e) {
+        EXPECT_EQ(e->m_cause, CArchiveException::genericException);
+        EXPECT_TRUE(e->m_strFileName.IsEmpty());
         e->Delete();
     }
 }

@@ -10,19 +10,15 @@
 #include "framework/windowing/Exceptions.h"
 #include "framework/windowing/File.h"
 
-CArchive::CArchive(CFile* pFile, UINT nMode, int nBufSize, void* lpBuf)
-    : m_pFile(pFile), m_nMode(nMode), m_nUncaught(std::uncaught_exceptions())
+CArchive::CArchive(CFile* pFile, UINT nMode, int nBufSize)
+    : m_pFile(pFile), m_nMode(nMode), m_nUncaught(std::uncaught_exceptions()),
+      m_nBufSize(static_cast<size_t>(nBufSize)), m_pBuffer(std::make_unique<BYTE[]>(m_nBufSize))
 {
-    constexpr int leastSize = 128;
-    m_nBufSize = static_cast<size_t>(std::max(nBufSize, leastSize));
-    if (!lpBuf || nBufSize < leastSize)
-        m_ownBuffer = std::make_unique<BYTE[]>(m_nBufSize);
-    m_pBuffer = m_ownBuffer ? m_ownBuffer.get() : static_cast<BYTE*>(lpBuf);
 }
 
 CArchive::~CArchive() noexcept(false)
 {
-    if (!m_pFile || (m_nMode & bNoFlushOnDelete))
+    if (!m_pFile)
         return;
     if (std::uncaught_exceptions() <= m_nUncaught) {
         Close();
@@ -55,7 +51,7 @@ void CArchive::RequireStoring() const
 bool CArchive::FillBuffer()
 {
     m_nCur = m_nEnd = 0;
-    m_nEnd = m_pFile->Read(m_pBuffer, static_cast<UINT>(m_nBufSize));
+    m_nEnd = m_pFile->Read(m_pBuffer.get(), static_cast<UINT>(m_nBufSize));
     return m_nEnd != 0;
 }
 
@@ -76,7 +72,7 @@ UINT CArchive::Read(void* lpBuf, UINT nMax)
         if (Buffered() == 0 && !FillBuffer())
             break;
         const size_t part = std::min<size_t>(wanted, Buffered());
-        std::memcpy(target + done, m_pBuffer + m_nCur, part);
+        std::memcpy(target + done, &m_pBuffer[m_nCur], part);
         m_nCur += part;
         done += static_cast<UINT>(part);
     }
@@ -101,7 +97,7 @@ void CArchive::Write(const void* lpBuf, UINT nMax)
         return;
     }
     if (nMax != 0)
-        std::memcpy(m_pBuffer + m_nCur, lpBuf, nMax);
+        std::memcpy(&m_pBuffer[m_nCur], lpBuf, nMax);
     m_nCur += nMax;
 }
 
@@ -119,7 +115,7 @@ void CArchive::Flush()
     // Empty before it is written: bytes that failed once are not tried again by the destructor.
     const size_t filled = std::exchange(m_nCur, 0);
     if (filled != 0)
-        m_pFile->Write(m_pBuffer, static_cast<UINT>(filled));
+        m_pFile->Write(m_pBuffer.get(), static_cast<UINT>(filled));
 }
 
 void CArchive::Close()

@@ -18,10 +18,9 @@ class CFile;
 class CArchive
 {
 public:
-    enum Mode : UINT { store = 0, load = 1, bNoFlushOnDelete = 2 };
+    enum Mode : UINT { store = 0, load = 1 };
 
-    // With `lpBuf` null the buffer is the archive's own.
-    CArchive(CFile* pFile, UINT nMode, int nBufSize = 4096, void* lpBuf = nullptr);
+    CArchive(CFile* pFile, UINT nMode, int nBufSize = 4096);
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
     // Flushes, so it may throw; while another exception passes it keeps quiet.
@@ -111,9 +110,8 @@ private:
     CFile* m_pFile;
     UINT m_nMode;
     int m_nUncaught; // exceptions under way when the archive was made
-    std::unique_ptr<BYTE[]> m_ownBuffer;
-    BYTE* m_pBuffer;
     size_t m_nBufSize;
+    std::unique_ptr<BYTE[]> m_pBuffer;
     size_t m_nCur = 0;
     size_t m_nEnd = 0; // loading: end of what the buffer holds
 

@@ -86,6 +86,17 @@ TEST(DateFormat, CenturiesHaveNoLeapDayButEveryFourth)
     EXPECT_EQ(FormatDate(u"%G %V", {2101, 1, 1, 0, 0, 0, 6, 1}), u"2100 52");
 }
 
+TEST(DateFormat, TheZoneIsTheMachines)
+{
+    std::tm broken = {};
+    broken.tm_year = 126;
+    broken.tm_mon = 6;
+    broken.tm_mday = 5;
+    broken.tm_yday = 185;
+    EXPECT_EQ(FormatDate(u"%z", FieldsOf(broken)), ByRunTime(L"%z", broken));
+    EXPECT_EQ(FormatDate(u"(%#Z)", FieldsOf(broken)), u"(" + ByRunTime(L"%Z", broken) + u")");
+}
+
 TEST(DateFormat, HostileFieldsAreHarmless)
 {
     EXPECT_EQ(FormatDate(u"%A %B", {2026, 0, 1, 0, 0, 0, -1, 1}), u"? ?");
