@@ -116,7 +116,8 @@ class Room:
         command = re.sub(r"-MD -MT \S+ -MF \S+", "", command)
         command = command[command.index("ccache ") + 7:] if "ccache " in command else command
         command = command.replace(f"-o {object_file}", f"-o {result}").replace(f"-c {mutant.file}", f"-c {changed}")
-        if not run(f"{command} -w -O0 -g0 -fno-sanitize=all -iquote {mutant.file.parent}", self.build, 120):
+        optimised = "-O1" if "__OPTIMIZE__" in source else "-O0"  # there is nothing in it without
+        if not run(f"{command} -w {optimised} -g0 -fno-sanitize=all -iquote {mutant.file.parent}", self.build, 120):
             return None
         link = self.link.replace(f" {object_file} ", f" {result} ").replace(f"-o {self.program}", f"-o {program}")
         if not run(link, self.build, 120):

@@ -81,6 +81,9 @@ TEST(LogWalk, ABoundThatIsAStepStaysBelowAndMovesOnAbove)
 TEST(LogWalk, BoundsInTheLastTenthOfADecadeStay)
 {
     EXPECT_EQ(Walked(950, 950, true), std::pair(950.0, 950.0));
+    // Ten steps are exactly the next decade here, and belong to that one alone.
+    EXPECT_EQ(Walked(9500, 9500, true), std::pair(9500.0, 9500.0));
+    EXPECT_EQ(Walked(0.95, 0.95, true), std::pair(0.95, 0.95));
 }
 
 TEST(LogWalk, NothingToWalkForHostileBounds)
