@@ -148,7 +148,7 @@ TEST_F(AxisLimits, AFontIsTheAxissAtOnceAndCancelKeepsIt)
         YAxis()->SetLabel(Text(L"title"));
         const Picture before = Shoot();
         OpenAxis({[&] { Press(button); },
-                  {L"Font",
+                  {ModalScript::FontDialog,
                    [](HWND hFonts) {
                        EXPECT_EQ(::GetWindow(hFonts, GW_OWNER), Sheet());
                        ::SetDlgItemTextW(hFonts, 1138, L"30");    // cmb3, the size
@@ -165,7 +165,8 @@ TEST_F(AxisLimits, AFontIsTheAxissAtOnceAndCancelKeepsIt)
 
 TEST_F(AxisLimits, ACancelledFontDialogChangesNothing)
 {
-    OpenAxis({[&] { Press(Id::scaleFont); },
-              {L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDCANCEL, 0); }},
-              [&] { EXPECT_FALSE(Enabled(Id::apply)); }});
+    OpenAxis(
+        {[&] { Press(Id::scaleFont); },
+         {ModalScript::FontDialog, [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDCANCEL, 0); }},
+         [&] { EXPECT_FALSE(Enabled(Id::apply)); }});
 }

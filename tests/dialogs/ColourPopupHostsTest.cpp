@@ -150,7 +150,8 @@ TEST(ColourPopupEndurance, TwoHundredSystemDialogsLeaveNothing)
     Openings::ExpectNothingLeft([&] {
         ASSERT_NE(host.OpenOn(0x123456), nullptr); // a colour that has no cell
         CColourHost::Press(VK_UP);
-        script.When(L"Color", [](HWND hDialog) { ::PostMessageW(hDialog, WM_COMMAND, IDOK, 0); });
+        script.When(ModalScript::ColorDialog,
+                    [](HWND hDialog) { ::PostMessageW(hDialog, WM_COMMAND, IDOK, 0); });
         CColourHost::Press(VK_RETURN);
         ASSERT_EQ(host.Popup(), nullptr);
         host.m_board.m_notes.clear();

@@ -53,7 +53,8 @@ TEST_F(CurveEndurance, TheFontsOfAnAxis)
     script.When(SheetCaption, [this](HWND hSheet) {
         const HWND hPage = OpenTab(hSheet, 1);
         Openings::ExpectNothingLeft([=, this] {
-            script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
+            script.When(ModalScript::FontDialog,
+                        [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
             DialogHands::Click(hPage, 6001);
         });
         ::PostMessageW(hSheet, WM_CLOSE, 0, 0);

@@ -250,7 +250,8 @@ TEST_F(LabelDialog, AChosenFontAndItsColourTakeEffectAtOnceAndSurviveCancel)
     text->SetTextColor(0x112233);
     const std::string before = ObjectBytes();
     OpenAnd([&](HWND hDialog) {
-        script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
+        script.When(ModalScript::FontDialog,
+                    [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
         Click(hDialog, font);
         EXPECT_EQ(Of(&ISGraphLabel::GetTextColor), 0u) << "the platform's dialog starts from black";
         EXPECT_NE(ObjectBytes(), before);
@@ -264,7 +265,8 @@ TEST_F(LabelDialog, ACancelledFontChangesNothing)
     text->SetTextColor(0x112233);
     const std::string before = ObjectBytes();
     OpenAnd([this](HWND hDialog) {
-        script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDCANCEL, 0); });
+        script.When(ModalScript::FontDialog,
+                    [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDCANCEL, 0); });
         Click(hDialog, font);
         EXPECT_FALSE(IsEnabled(hDialog, apply));
     });
@@ -280,7 +282,8 @@ TEST_F(LabelDialog, AHostThatRemovesTheLabelUnderItIsSurvived)
         Click(hDialog, border);
         Click(hDialog, apply);
         EXPECT_FALSE(IsEnabled(hDialog, apply));
-        script.When(L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
+        script.When(ModalScript::FontDialog,
+                    [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); });
         Click(hDialog, font);
         Click(hDialog, ok);
     });
@@ -290,7 +293,7 @@ TEST_F(LabelDialog, AHostThatRemovesTheLabelUnderItIsSurvived)
 TEST_F(LabelDialog, AHostThatRemovesTheLabelUnderTheFontsIsSurvived)
 {
     OpenAnd([this](HWND hDialog) {
-        script.When(L"Font", [this](HWND hFonts) {
+        script.When(ModalScript::FontDialog, [this](HWND hFonts) {
             graph->ResetAll();
             ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0);
         });
@@ -310,7 +313,7 @@ TEST_F(LabelDialog, AHostThatDestroysTheParentUnderItIsSurvived)
 TEST_F(LabelDialog, AHostThatDestroysTheParentUnderTheFontsIsSurvived)
 {
     Begin([this](HWND hDialog) {
-        script.When(L"Font", [this](HWND) { host.Destroy(); });
+        script.When(ModalScript::FontDialog, [this](HWND) { host.Destroy(); });
         Click(hDialog, font);
     });
 }

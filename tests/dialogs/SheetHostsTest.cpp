@@ -73,7 +73,8 @@ TEST_F(SheetAndHost, AHostMayDestroyItsWindowWhileTheBoxOfAnApplyIsOpen)
 
 TEST_F(SheetAndHost, AHostMayDestroyItsWindowWhileAFontDialogIsOpen)
 {
-    Open(OnYAxis(), {[&] { Press(Id::scaleFont); }, {L"Font", [&](HWND) { host.Destroy(); }}});
+    Open(OnYAxis(),
+         {[&] { Press(Id::scaleFont); }, {ModalScript::FontDialog, [&](HWND) { host.Destroy(); }}});
     ExpectNothingLeft();
 }
 
@@ -131,7 +132,8 @@ TEST_F(SheetAndHost, ThePageOfAnAxisFollowsItsAxisAndLeavesItsSuccessorAlone)
                               EXPECT_FALSE(Enabled(Id::apply));
                               Press(Id::titleFont);
                           },
-                          {L"Font", [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); }},
+                          {ModalScript::FontDialog,
+                           [](HWND hFonts) { ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0); }},
                           [] {}});
         EXPECT_EQ(Label(0), removed == 0 ? L"applied" : L"x0");
         EXPECT_EQ(Label(1), L"x2");
@@ -178,7 +180,7 @@ TEST_F(SheetAndHost, ARowOfWhatTheHostHasTakenAwayChoosesNothing)
 TEST_F(SheetAndHost, AFontOfAnAxisThatHasGoneIsNobodys)
 {
     Open(OnYAxis(), {[&] { Press(Id::titleFont); },
-                     {L"Font",
+                     {ModalScript::FontDialog,
                       [&](HWND hFonts) {
                           graph->ResetAll();
                           ::PostMessageW(hFonts, WM_COMMAND, IDOK, 0);

@@ -47,6 +47,9 @@ public:
     [[nodiscard]] bool HasCancelled() const { return m_hCancelled != nullptr; }
 
     static constexpr const wchar_t* Menu = L"a popup menu";
+    // In place of captions of the platform's, which are in the user's language.
+    static constexpr const wchar_t* FontDialog = L"the platform's fonts";
+    static constexpr const wchar_t* ColorDialog = L"the platform's colours";
 
     // The dialog of this thread that takes input, or with `bOwner` also one that waits for a dialog
     // of its own; null if there is none.
@@ -81,6 +84,18 @@ private:
                             reinterpret_cast<LPARAM>(&search));
         return search.hFound;
     }
+    static std::wstring NameOf(HWND hDialog)
+    {
+        constexpr int fontSizes = 0x472, fontScripts = 0x474,
+                      colorRed = 706; // as dlgs.h and colordlg.h have them
+        if (::GetDlgItem(hDialog, fontSizes) && ::GetDlgItem(hDialog, fontScripts))
+            return FontDialog;
+        if (::GetDlgItem(hDialog, colorRed))
+            return ColorDialog;
+        wchar_t text[128] = {};
+        ::GetWindowTextW(hDialog, text, 128);
+        return text;
+    }
     static BOOL CALLBACK Test(HWND hWnd, LPARAM lParam)
     {
         auto& search = *reinterpret_cast<Search*>(lParam);
@@ -90,9 +105,7 @@ private:
         if (!::IsWindowVisible(hWnd) || (!search.bOwner && !::IsWindowEnabled(hWnd)) ||
             (!bMenu && std::wstring(className) != L"#32770"))
             return TRUE;
-        wchar_t text[128] = {};
-        ::GetWindowTextW(hWnd, text, 128);
-        if (search.pCaption == nullptr || (bMenu ? std::wstring(Menu) : text) == *search.pCaption) {
+        if (search.pCaption == nullptr || (bMenu ? Menu : NameOf(hWnd)) == *search.pCaption) {
             search.hFound = hWnd;
             return FALSE;
         }

@@ -12,6 +12,8 @@ with the test that ran, the fault with functions and lines, and the rest of its 
   --every N       only each N-th test
   --filter TEXT   only tests whose name holds one of the texts, divided by colons
   --leave-out F   not the tests named in F, one a line: NAME | reason
+  --null-in F     where the tests named in F, one a line: PATTERN | reason, go through a null pointer
+                  is no place
   --log FILE      what the programs print
 
 The last line is "N runs of N tests, N failed, N places"; the exit code is 0 only if nothing was found.
@@ -20,6 +22,7 @@ A place is a line of the source whose step had no defined result (UndefinedRepor
 
 import argparse
 import concurrent.futures
+import fnmatch
 import os
 import pathlib
 import random
@@ -35,6 +38,11 @@ BEGUN = re.compile(r"^\[ RUN      \] (\S+)")
 ENDED = re.compile(r"^\[(       OK |  FAILED  |  SKIPPED )\] (\S+?),? .*ms\)")
 FAULT = re.compile(r"fault ([0-9a-f]{8}) in (\S*) at (.*)")
 SLOWEST = 1800  # seconds for a process once through its tests; a machine with other work is slow
+
+
+def named_in(file):
+    lines = file.read_text().splitlines() if file else []
+    return {line.split("|")[0].strip() for line in lines if line.strip() and not line.startswith("#")}
 
 
 def windows_path(path):
@@ -54,6 +62,7 @@ class Suite:
         self.log = open(options.log or os.devnull, "w", encoding="utf-8")
         self.lock = threading.Lock()
         self.failures, self.places, self.runs = {}, {}, 0
+        self.null_in = named_in(options.null_in)
 
     def wine(self, arguments, seconds=SLOWEST):
         command = [str(ROOT / "scripts/run-wine.sh"), "-t", str(seconds), str(self.program), *arguments]
@@ -61,10 +70,7 @@ class Suite:
                               errors="replace", check=False)
 
     def names(self):
-        left_out = set()
-        if self.options.leave_out:
-            left_out = {line.split("|")[0].strip() for line in self.options.leave_out.read_text().splitlines()
-                        if line.strip() and not line.startswith("#")}
+        left_out = named_in(self.options.leave_out)
         names, suite = [], ""
         for line in self.wine(["--gtest_list_tests"]).stdout.splitlines():
             word = line.split("#")[0].rstrip()
@@ -124,8 +130,7 @@ class Suite:
                     self.fail(ended[2], text)
                 running = ""
             elif line.startswith("undefined: "):
-                with self.lock:
-                    self.places.setdefault(line.split(",")[0], f"{line}   in {running}")
+                self.note_place(line, running)
             else:
                 text.append(line)
         if running:
@@ -134,6 +139,12 @@ class Suite:
         elif result.returncode not in (0, 1):
             self.fail("the end of a process", [f"exit code {result.returncode}", *self.named(text)])
         return done, running
+
+    def note_place(self, line, running):
+        if "pointer null" in line and any(fnmatch.fnmatch(running, pattern) for pattern in self.null_in):
+            return
+        with self.lock:
+            self.places.setdefault(line.split(",")[0], f"{line}   in {running}")
 
     def named(self, text):
         """The lines, and the functions of a fault among them."""
@@ -178,6 +189,7 @@ def main():
     parser.add_argument("--alone", action="store_true")
     parser.add_argument("--filter", default="")
     parser.add_argument("--leave-out", type=pathlib.Path)
+    parser.add_argument("--null-in", type=pathlib.Path)
     parser.add_argument("--log")
     options = parser.parse_args()
     options.folder = options.folder.resolve()
