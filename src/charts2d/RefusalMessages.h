@@ -4,6 +4,6 @@
 
 #include "charts2d/Refusal.h"
 
-// Nothing happens for ERefusal::none. The box is modal: whoever calls this touches nothing of
+// Nothing happens for ERefusal::none. The box is modal: the caller touches nothing of
 // the chart afterwards, since the host's messages run meanwhile.
 void ReportRefusal(ERefusal refusal);

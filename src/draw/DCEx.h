@@ -32,7 +32,7 @@ public:
     // there is none) and the target, and m_bMono from the target.
     void InitScale(HDC hTarget);
     // What InitScale finds for a buffer of the screen of more than 256 colours, without asking: the
-    // answers cost as much as a hundred lines. Of any other buffer they are asked as ever. The fonts
+    // answers cost as much as a hundred lines. Any other buffer is asked each time. The fonts
     // are those that the buffer's owner keeps from frame to frame.
     void TakeScreen(const CBitmap& buffer, CKeptFonts* pFonts = nullptr);
     // Whether TakeScreen knew the buffer and nothing scales: text then has its size on the screen.
@@ -42,7 +42,7 @@ public:
     // Sets the font of the texts that follow and returns the one before. A buffer of the screen
     // selects it when the first text wants it: selecting can cost more than the text.
     HGDIOBJ WantFont(HGDIOBJ hFont);
-    // For one who draws or measures text past this class.
+    // For code that draws or measures text without this class.
     void SelectWantedFont();
     // InitScale on the own handle, unless it has run.
     void NeedScale();

@@ -2,7 +2,7 @@
 // Lines and polygons that reach far outside the canvas. The platform's own arithmetic loses
 // the slope of such lines, so they are cut, along their own lines and in doubles, to the
 // square of |x|, |y| <= 2^26 before the platform sees them: what is visible keeps its place.
-// CDCEx::LineTo and CDCEx::Polygon cut by these; whoever draws through a CDCEx needs not.
+// CDCEx::LineTo and CDCEx::Polygon cut by these; code that draws through a CDCEx need not.
 
 #include "base/Geometry.h"
 

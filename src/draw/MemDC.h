@@ -10,7 +10,7 @@ class CMemDC : public CDC
 public:
     // The bitmap is nTrim pixels narrower than the clip box. The area is filled with the
     // target's background colour.
-    // With bFill false the buffer starts undefined: for one who covers all of it.
+    // With bFill false the buffer starts undefined: for a caller that covers all of it.
     explicit CMemDC(CDC* pDC, int nTrim = 0, bool bFill = true);
     ~CMemDC() override;
 

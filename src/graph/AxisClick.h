@@ -1,5 +1,5 @@
 #pragma once
-// In what the clicks on X and Y axes differ: the rest is one code.
+// How clicks on X and Y axes differ; the rest is common code.
 
 #include "base/Vocabulary.h"
 #include "framework/windowing/CheckedVector.h"

@@ -1,10 +1,10 @@
 #pragma once
 // What lies under the mouse of a graph, and what a click there does.
 //
-// One object lives for one question. Its stages run in a fixed order, since an earlier one
-// keeps the later ones from acting: Y axes, X axes, objects, curves, point drag, legend.
-// A question that only checks answers at the first thing that would react; any other one
-// selects, notifies the parent window and opens the property sheet, and answers false.
+// One object lives for one test. Its stages run in a fixed order, since an earlier one keeps
+// the later ones from acting: Y axes, X axes, objects, curves, point drag, legend. A test that
+// only checks returns true at the first thing that would react; any other one selects,
+// notifies the parent window and opens the property sheet, and returns false.
 
 #include "framework/windowing/Geometry.h"
 

@@ -15,7 +15,7 @@ struct TMeasureSpan {
 static_assert(sizeof(TMeasureSpan) == 16);
 
 // One row of the legend as the last frame drew it, in client pixels. The pointer is good until
-// the graph's list of curves changes, while rows stay until the next frame: whoever follows it
+// the graph's list of curves changes, while rows stay until the next frame: code that follows it
 // asks CXGraph::GetCurveIndex first.
 struct TLegendEntry {
     CRect rcRow;

@@ -107,7 +107,7 @@ public:
     void Measure();
 
     // What lies under m_ptCurrent. A call that only checks returns whether something reacts
-    // there; any other selects, notifies the parent window, opens the property sheet, and gives
+    // there; any other selects, notifies the parent window, opens the property sheet, and returns
     // false. Without m_bInteraction nothing reacts.
     bool HitTest(bool bDblClick, bool bCheckOnly);
     // Posts to the parent window, with the low half of this object's address.

@@ -97,7 +97,7 @@ TDataExtent CXGraphDataSerie::CopyData(const TDataPoint* pData, int nCount)
 
 void CXGraphDataSerie::ReplaceData(TDataPoint* pData, int nCount, bool bAutoDelete) noexcept
 {
-    // Whoever hands over the very array that the curve made keeps it alive.
+    // The caller that hands over the very array that the curve made keeps it alive.
     if (m_pData == m_pPrivateCopy && m_pData != pData)
         FreeData();
     if (m_pData != pData)

@@ -135,7 +135,7 @@ void CXGraphLabel::BeginEdit()
     m_Edit.SetWindowText(m_cText);
     m_Edit.ShowWindow(SW_SHOW);
     PlotHost::Repaint(*m_pGraph);
-    // Whoever loses the focus hears of it at once, and may remove this label.
+    // The window that loses the focus is notified at once, and may remove this label.
     const HWND hEdit = m_Edit.m_hWnd;
     ::SetFocus(hEdit);
     ::SendMessageW(hEdit, EM_SETSEL, 0, -1);

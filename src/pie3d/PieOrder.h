@@ -1,6 +1,6 @@
 #pragma once
-// Orders of the elements. Each function answers with positions into its argument, in the
-// order that the elements are to have.
+// Orders of the elements. Each function returns positions in its argument, in the order that
+// the elements will have.
 
 #include <cstddef>
 #include <cstdint>

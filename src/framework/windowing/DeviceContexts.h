@@ -23,7 +23,7 @@ public:
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
     // The context is that of a printer's page: set by Attach from the device's
-    // technology, and by whoever renders a page into something else.
+    // technology, and by code that renders a page into something else.
     BOOL m_bPrinting = FALSE;
 
     operator HDC() const noexcept { return m_hDC; }
@@ -59,7 +59,7 @@ public:
     int SelectObject(CRgn* pRgn);
     CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
     UINT RealizePalette();
-    // A pen, brush, font or region by its handle, for one who has no use for the old one's object.
+    // A pen, brush, font or region by its handle, for callers that have no use for the old one's object.
     HGDIOBJ SelectHandle(HGDIOBJ hObject) const noexcept;
     [[nodiscard]] CFont* GetCurrentFont() const;
 
