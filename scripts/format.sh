@@ -43,7 +43,7 @@ case $mode in
     options=(--target=x86_64-w64-mingw32 -std=c++20 -nostdinc++
       -isystem "$library" -isystem "$library/x86_64-w64-mingw32" -isystem "$library/backward"
       -isystem /usr/x86_64-w64-mingw32/include -isystem /usr/src/googletest/googletest/include
-      -Isrc -Ihosts -Itests -Ikit/include "-I$VANTOPLEX_BUILD/windows-x64/include"
+      -Isrc -Ihosts -Itests -Ikit/include "-I$VANTOPLEX_BUILD/windows-x64/include" "-I$VANTOPLEX_BUILD/windows-x64/version"
       -DUNICODE -D_UNICODE -DNOMINMAX -DSTRICT -DWIN32_LEAN_AND_MEAN
       -DWINVER=0x0601 -D_WIN32_WINNT=0x0601 -D_WIN32_IE=0x0800
       -Wno-unknown-warning-option -Wno-ignored-attributes -Wno-pragma-pack)
