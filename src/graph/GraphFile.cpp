@@ -188,6 +188,6 @@ void CXGraph::ReadObjects(CArchive& ar)
         taken.insert(object);
         object->m_pGraph = this;
         m_Objects.AddTail(object);
-        owner.release();
+        static_cast<void>(owner.release()); // the list has it now
     }
 }

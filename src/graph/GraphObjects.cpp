@@ -45,7 +45,7 @@ void CXGraph::InsertDataNotation(int nCurve, int nIndex)
     notation->m_nIndex = nIndex;
     notation->m_pGraph = this;
     m_Objects.AddTail(notation.get());
-    notation.release();
+    static_cast<void>(notation.release()); // the list has it now
     Invalidate();
 }
 
