@@ -50,7 +50,8 @@ template <std::floating_point Real>
     const Real last = std::min(limit, std::nextafter(end, Real(0)));
     const auto room = static_cast<std::uint64_t>((last - second) / spacing);
     const auto growth = static_cast<std::uint64_t>((third - second) / spacing);
-    return second + static_cast<Real>(room / growth * growth) * spacing;
+    const std::uint64_t steps = room / growth;
+    return second + static_cast<Real>(steps * growth) * spacing;
 }
 
 } // namespace Details
