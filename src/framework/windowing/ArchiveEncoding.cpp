@@ -13,7 +13,7 @@ constexpr std::uint64_t LongEscape = 0xFFFFFFFF;
 
 void CBytes::Append(std::uint32_t value, int width) noexcept
 {
-    for (; width > 0; --width, value >>= 8)
+    for (; width > 0 && m_size < m_bytes.size(); --width, value >>= 8)
         m_bytes[m_size++] = static_cast<std::uint8_t>(value);
 }
 

@@ -103,7 +103,9 @@ CObject* CArchive::ReadObject(const CRuntimeClass* pClass)
         tag.kind == ETagKind::NewClass ? ReadNewClass() : ClassOfNumber(tag.number);
     if (pClass && !found->IsDerivedFrom(pClass))
         Fail(CArchiveException::badClass);
-    std::unique_ptr<CObject> object(found->CreateObject()); // as every serial class can
+    std::unique_ptr<CObject> object(found->CreateObject());
+    if (!object)
+        Fail(CArchiveException::badClass);
     NextNumber();
     m_loaded.push_back({nullptr, object.get()});
     object->Serialize(*this);
