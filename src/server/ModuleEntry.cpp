@@ -10,6 +10,7 @@ namespace __gnu_cxx
 void __freeres(); // the C++ run-time's memory for exceptions in need; it has no header
 
 // The run-time's own names the exception on a console that a host doesn't have, and brings 50 KB for it.
+// NOLINTNEXTLINE(readability-identifier-naming): the name that the run-time looks for
 void __verbose_terminate_handler()
 {
     std::abort();
