@@ -20,6 +20,7 @@ options=()
 prefixes= # of its own where Wine keeps the names of profile and locale in them
 
 locale_of() { # LOCALE TIME ZONE
+  scripts/setup.sh --all
   export LOCPATH=$places/locales VANTOPLEX_LOCALE=$1.UTF-8 VANTOPLEX_TIME_ZONE=$2
   mkdir -p "$LOCPATH"
   [ -d "$LOCPATH/$1.UTF-8" ] || localedef -i "$1" -f UTF-8 "$LOCPATH/$1.UTF-8"

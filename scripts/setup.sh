@@ -2,7 +2,7 @@
 # Installs by apt whatever a Debian 12 machine lacks to build, test and run Vantoplex.
 # Needs root or sudo only when something is missing; says nothing and ends at once otherwise.
 #   scripts/setup.sh          what building, testing and the demo need
-#   scripts/setup.sh --all    what scripts/format.sh tidy needs, too
+#   scripts/setup.sh --all    what scripts/format.sh tidy and scripts/places.sh need, too
 set -euo pipefail
 
 packages=(
@@ -13,7 +13,7 @@ packages=(
   googletest ccache clang-format-14 nsis
 )
 if [ "${1:-}" = --all ]; then
-  packages+=(clang-tidy-14 clang-14)
+  packages+=(clang-tidy-14 clang-14 locales)
 fi
 
 missing=()
