@@ -111,13 +111,20 @@ void CDCEx::InitScale(HDC hTarget)
 void CDCEx::TakeScreen(const CBitmap& buffer, CKeptFonts* pFonts)
 {
     BITMAP look = {};
-    if (::GetObject(buffer.GetSafeHandle(), sizeof look, &look) == 0 || look.bmBitsPixel <= 8)
+    ::GetObject(buffer.GetSafeHandle(), sizeof look, &look);
+    if (look.bmBitsPixel <= 8)
         return;
-    m_fScaleX = m_fScaleY = 1.0f;
-    m_bMono = false;
-    m_bScaleReady = m_bScreen = true;
+    TakeScreenScale();
+    m_bScreen = true;
     m_pFonts = pFonts;
     m_hWantedFont = m_hSelectedFont = ::GetCurrentObject(m_hDC, OBJ_FONT);
+}
+
+void CDCEx::TakeScreenScale() noexcept
+{
+    m_fScaleX = m_fScaleY = 1.0f;
+    m_bMono = false;
+    m_bScaleReady = true;
 }
 
 HGDIOBJ CDCEx::WantFont(HGDIOBJ hFont)

@@ -35,6 +35,8 @@ public:
     // answers cost as much as a hundred lines. Any other buffer is asked each time. The fonts
     // are those that the buffer's owner keeps from frame to frame.
     void TakeScreen(const CBitmap& buffer, CKeptFonts* pFonts = nullptr);
+    // What InitScale finds for a window of such a screen.
+    void TakeScreenScale() noexcept;
     // Whether TakeScreen knew the buffer and nothing scales: text then has its size on the screen.
     [[nodiscard]] bool IsScreen() const noexcept { return m_bScreen && !m_bScaling; }
     // The fonts that outlive the frame; null on a canvas that keeps none.

@@ -134,7 +134,7 @@ void CXGraph::DragTo(CPoint point)
         Invalidate();
         return;
     }
-    CWindowCanvas canvas(m_hWnd);
+    CWindowCanvas canvas(m_hWnd, IsKnownScreen());
     if (m_opOperation == opZoom)
         m_ZoomBand.DrawZoomRect(canvas.Get());
     else

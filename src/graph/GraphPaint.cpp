@@ -132,6 +132,7 @@ void CXGraph::OnPaint()
         const KeptFrameEnd end(keptBuffer, dcPaint);
         AttachedCanvas canvas(keptBuffer.Canvas());
         canvas.m_dc.TakeScreen(keptBuffer.Bitmap(), &KeptFrame().fonts);
+        KeptFrame().bScreen = canvas.m_dc.IsScreen();
         PaintFrame(&canvas.m_dc);
         return;
     }
@@ -141,6 +142,7 @@ void CXGraph::OnPaint()
     AttachedCanvas canvas(buffer ? buffer->GetSafeHdc() : dcPaint.GetSafeHdc());
     if (buffer)
         canvas.m_dc.TakeScreen(buffer->m_Bitmap, &KeptFrame().fonts);
+    KeptFrame().bScreen = canvas.m_dc.IsScreen();
     PaintFrame(&canvas.m_dc);
 }
 

@@ -22,6 +22,7 @@ struct TLegendRow {
 struct TKeptFrame {
     CKeptBuffer buffer;
     CKeptFonts fonts;
+    bool bScreen = false; // the last frame's buffer was known as the screen's (CDCEx::TakeScreen)
     TFrameRoom room;
     std::vector<FrameLayout::YAxis> yAxes;
     std::vector<FrameLayout::XAxis> xAxes;

@@ -111,6 +111,11 @@ TFrameRoom* CXGraph::FrameRoom() noexcept
     return m_pKeptFrame ? &m_pKeptFrame->room : nullptr;
 }
 
+bool CXGraph::IsKnownScreen() const noexcept
+{
+    return m_pKeptFrame && m_pKeptFrame->bScreen;
+}
+
 CXGraphAxis* CXGraph::GetXAxis(int nAxis)
 {
     return &m_XAxes[nAxis];

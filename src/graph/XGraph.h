@@ -227,6 +227,8 @@ public:
     [[nodiscard]] bool Owns(const TObjectRef& entry) const;
 
     [[nodiscard]] TFrameRoom* FrameRoom() noexcept; // null before the first frame
+    // Whether the last frame's buffer was known as the screen's (CDCEx::TakeScreen).
+    [[nodiscard]] bool IsKnownScreen() const noexcept;
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

@@ -73,7 +73,8 @@ int CXGraphAxis::RoomForTicks() const
 
 void CXGraphAxis::RecalcStep()
 {
-    CWindowCanvas canvas(m_pGraph ? PlotHost::Window(*m_pGraph).m_hWnd : nullptr);
+    // Sizes don't ask for colours.
+    CWindowCanvas canvas(m_pGraph ? PlotHost::Window(*m_pGraph).m_hWnd : nullptr, true);
     const int nRoom = RoomForTicks();
     const int nLength = nRoom == 0 ? 1 : nRoom;
     const int nSize = IsVertical() ? GetLabelHeight(canvas.Get()) : GetMaxLabelWidth(canvas.Get());

@@ -33,6 +33,12 @@ struct Lanes {
         low = _mm_min_pd(point, low);
         high = _mm_max_pd(point, high);
     }
+    void Widen(const TDataPoint& point) noexcept { Widen(_mm_loadu_pd(&point.fXVal)); }
+    void Widen(const Lanes& other) noexcept
+    {
+        low = _mm_min_pd(other.low, low);
+        high = _mm_max_pd(other.high, high);
+    }
 };
 
 } // namespace
@@ -55,26 +61,29 @@ TDataExtent WidenPlain(TDataExtent start, std::span<const TDataPoint> points) no
 
 TDataExtent Widen(TDataExtent start, std::span<const TDataPoint> points) noexcept
 {
-    constexpr std::size_t count = 4;
-    const Lanes first{_mm_setr_pd(start.fMinX, start.fMinY), _mm_setr_pd(start.fMaxX, start.fMaxY)};
-    Lanes lanes[count] = {first, first, first, first};
+    // By name rather than in an array, which the compiler would keep in memory.
+    Lanes a{_mm_setr_pd(start.fMinX, start.fMinY), _mm_setr_pd(start.fMaxX, start.fMaxY)};
+    Lanes b = a;
+    Lanes c = a;
+    Lanes d = a;
 
     std::size_t i = 0;
-    for (; i + count <= points.size(); i += count) {
-        for (std::size_t lane = 0; lane < count; ++lane)
-            lanes[lane].Widen(_mm_loadu_pd(&points[i + lane].fXVal));
+    for (; i + 4 <= points.size(); i += 4) {
+        a.Widen(points[i]);
+        b.Widen(points[i + 1]);
+        c.Widen(points[i + 2]);
+        d.Widen(points[i + 3]);
     }
     for (; i < points.size(); ++i)
-        lanes[0].Widen(_mm_loadu_pd(&points[i].fXVal));
-    for (std::size_t lane = 1; lane < count; ++lane) {
-        lanes[0].low = _mm_min_pd(lanes[lane].low, lanes[0].low);
-        lanes[0].high = _mm_max_pd(lanes[lane].high, lanes[0].high);
-    }
+        a.Widen(points[i]);
+    a.Widen(b);
+    a.Widen(c);
+    a.Widen(d);
 
     double low[2];
     double high[2];
-    _mm_storeu_pd(low, lanes[0].low);
-    _mm_storeu_pd(high, lanes[0].high);
+    _mm_storeu_pd(low, a.low);
+    _mm_storeu_pd(high, a.high);
     return {FirstZero(low[0], start.fMinX, points, &TDataPoint::fXVal),
             FirstZero(high[0], start.fMaxX, points, &TDataPoint::fXVal),
             FirstZero(low[1], start.fMinY, points, &TDataPoint::fYVal),

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <emmintrin.h>
 #include <limits>
 
 namespace IndexSearch
@@ -84,12 +85,16 @@ bool IsAscending(std::span<const TDataPoint> points) noexcept
     if (points.empty() || !(points[0].fXVal == points[0].fXVal))
         return false;
     constexpr std::size_t block = 1024;
+    __m128d last = _mm_loadu_pd(&points[0].fXVal);
     for (std::size_t start = 1; start < points.size(); start += block) {
         const std::size_t end = std::min(start + block, points.size());
-        unsigned ordered = 1;
-        for (std::size_t i = start; i < end; ++i)
-            ordered &= static_cast<unsigned>(points[i - 1].fXVal <= points[i].fXVal);
-        if (ordered == 0)
+        __m128d ordered = _mm_cmpeq_pd(_mm_setzero_pd(), _mm_setzero_pd());
+        for (std::size_t i = start; i < end; ++i) {
+            const __m128d point = _mm_loadu_pd(&points[i].fXVal); // y, too, which is not asked
+            ordered = _mm_and_pd(ordered, _mm_cmple_pd(last, point));
+            last = point;
+        }
+        if ((_mm_movemask_pd(ordered) & 1) == 0)
             return false;
     }
     return true;

@@ -51,7 +51,7 @@ void CCursorTool::Move()
 {
     m_bTmpDC = true;
     {
-        CWindowCanvas canvas(m_Graph.m_hWnd);
+        CWindowCanvas canvas(m_Graph.m_hWnd, m_Graph.IsKnownScreen());
         DrawCursor(canvas.Get());
     }
     m_bTmpDC = false;
