@@ -10,7 +10,7 @@ packages=(
   gcc-mingw-w64-x86-64-posix g++-mingw-w64-x86-64-posix mingw-w64-tools
   wine wine64 xvfb util-linux
   fonts-liberation fonts-wqy-microhei fonts-wine
-  googletest ccache clang-format-14 nsis
+  googletest ccache clang-format-14 lld nsis
 )
 if [ "${1:-}" = --all ]; then
   packages+=(clang-tidy-14 clang-14 locales)

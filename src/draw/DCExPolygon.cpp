@@ -38,6 +38,15 @@ bool CanFillRows(HDC hDC) noexcept
            ::GetGraphicsMode(hDC) == GM_COMPATIBLE && IsFilledAlone(hDC);
 }
 
+// Those that the platform would get.
+std::vector<TVertex> CutVertices(std::span<const TVertex> vertices, const LongLines::TArea& area)
+{
+    std::vector<TVertex> cut;
+    for (const TPoint& pixel : LongLines::CutPolygon(vertices, area))
+        cut.push_back({static_cast<double>(pixel.x), static_cast<double>(pixel.y)});
+    return cut;
+}
+
 bool CreateFromBands(CRgn& region, const std::vector<TRect>& bands, const CRect& bounds)
 {
     static_assert(sizeof(TRect) == sizeof(RECT));
@@ -96,7 +105,7 @@ BOOL CDCEx::Polygon(const POINT* lpPoints, int nCount)
         cut && !isShort ? LongLines::AreaAround(visible, PolygonRoom) : LongLines::TArea{};
     if (cut && PolygonRows::Cost(std::span{vertices}, area.top, area.bottom) > MostCost &&
         CanFillRows(m_hDC))
-        return FillRows(vertices, visible);
+        return FillRows(isShort ? vertices : CutVertices(vertices, area), visible);
     return isShort ? CDC::Polygon(points, nCount) : LongPolygon(vertices, area);
 }
 

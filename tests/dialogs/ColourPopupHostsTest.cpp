@@ -5,8 +5,8 @@
 #include <string>
 
 #include "dialogs/ColourHost.h"
-#include "dialogs/Openings.h"
 #include "support/ModalScript.h"
+#include "support/Openings.h"
 #include "windowing/DialogHost.h"
 
 namespace
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Targets, ColourPopupHosts,
                          testing::Values(ETarget::Popup, ETarget::Button, ETarget::Board,
                                          ETarget::Host));
 
-TEST(ColourPopupEndurance, TwoHundredOpeningsLeaveNothing)
+TEST(ColourPopupEndurance, OpeningsLeaveNothing)
 {
     CColourHost host;
     Openings::ExpectNothingLeft([&host] {
@@ -143,7 +143,7 @@ TEST(ColourPopupEndurance, TwoHundredOpeningsLeaveNothing)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST(ColourPopupEndurance, TwoHundredSystemDialogsLeaveNothing)
+TEST(ColourPopupEndurance, SystemDialogsLeaveNothing)
 {
     CColourHost host;
     ModalScript script;

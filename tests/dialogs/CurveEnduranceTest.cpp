@@ -1,7 +1,7 @@
-// Two hundred openings of the sheet, of the dialogs of its curve page and of the fonts.
+// Many openings of the sheet, of the dialogs of its curve page and of the fonts.
 
 #include "CurvePageHost.h"
-#include "Openings.h"
+#include "support/Openings.h"
 
 using namespace CurvePage;
 using namespace DialogHands;

@@ -2,7 +2,7 @@
 
 #include "CurvePageHost.h"
 #include "KeyWalk.h"
-#include "Openings.h"
+#include "support/Openings.h"
 
 using namespace DialogHands;
 
@@ -318,7 +318,7 @@ TEST_F(LabelDialog, AHostThatDestroysTheParentUnderTheFontsIsSurvived)
     });
 }
 
-TEST_F(LabelDialog, TwoHundredOpeningsLeaveNothing)
+TEST_F(LabelDialog, OpeningsLeaveNothing)
 {
     Openings::ExpectNothingLeft([this] {
         Begin([](HWND hDialog) {

@@ -219,6 +219,32 @@ TEST(LongLinesOnCanvas, ManySteepEdgesAreFilledWithThePixelsOfThePlatform)
     ::DeleteObject(hatch);
 }
 
+// Far ends are moved by less than a pixel; few edges and many are moved alike (our decision).
+TEST(LongLinesOnCanvas, ManyFarEdgesAreFilledAsThePlatformFillsTheirNearParts)
+{
+    constexpr int count = 21;
+    const std::vector<POINT> points = Zigzag(count, INT_MAX - 100);
+    Canvas platform(640, 480);
+    Canvas canvas(640, 480);
+    std::vector<TPoint> places;
+    for (const POINT& point : points)
+        places.push_back(CPoint(point));
+    std::vector<POINT> cut;
+    for (const TPoint& place :
+         LongLines::CutPolygon(places, LongLines::AreaAround({0, 0, 640, 480}, 1 << 15)))
+        cut.push_back(CPoint(place));
+    for (Canvas* one : {&platform, &canvas}) {
+        ::SelectObject(one->dc, ::GetStockObject(BLACK_BRUSH));
+        ::SelectObject(one->dc, ::GetStockObject(NULL_PEN));
+    }
+
+    platform.dc.CDC::Polygon(cut.data(), static_cast<int>(cut.size()));
+    canvas.dc.Polygon(points.data(), count);
+
+    EXPECT_EQ(canvas.Picture(), platform.Picture());
+    EXPECT_NE(canvas.Picture(), Canvas(640, 480).Picture());
+}
+
 TEST(LongLinesOnCanvas, TheClipRegionIsAsBeforeAfterAFillOfManyEdges)
 {
     Canvas canvas(100, 80);

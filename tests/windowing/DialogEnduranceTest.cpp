@@ -6,6 +6,7 @@
 #include "framework/windowing/ThreadState.h"
 #include "support/GdiCount.h"
 #include "support/HeapUse.h"
+#include "support/Openings.h"
 #include "windowing/TestWindows.h"
 
 namespace
@@ -23,22 +24,9 @@ public:
     }
 };
 
-int CountWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM result) -> BOOL {
-            ++*reinterpret_cast<int*>(result);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 } // namespace
 
-TEST(DialogEndurance, TwoHundredOpeningsLeaveNothing)
+TEST(DialogEndurance, OpeningsLeaveNothing)
 {
     CHostWindow host;
     ::SetActiveWindow(host.Handle());
@@ -50,12 +38,12 @@ TEST(DialogEndurance, TwoHundredOpeningsLeaveNothing)
     };
     open(20);
     const int objects = GdiCount::All();
-    const int windows = CountWindows();
+    const int windows = Openings::CountWindows();
     const std::ptrdiff_t bytes = HeapUse::Bytes();
-    open(200);
+    open(Openings::Count());
     EXPECT_EQ(GdiCount::All(), objects);
-    EXPECT_EQ(CountWindows(), windows);
-    EXPECT_LT(HeapUse::Bytes() - bytes, 200 * 16);
+    EXPECT_EQ(Openings::CountWindows(), windows);
+    EXPECT_LT(HeapUse::Bytes() - bytes, Openings::Count() * 16);
     EXPECT_EQ(AfxGetThreadState().hMessageHook, nullptr);
     EXPECT_EQ(AfxGetThreadState().hCreateHook, nullptr);
     EXPECT_TRUE(::IsWindowEnabled(host.Handle()));
