@@ -9,7 +9,6 @@
 #include "net/Screen.h"
 
 #include <cstdio>
-#include <map>
 #include <string>
 
 namespace
@@ -68,13 +67,7 @@ TTimes TimeLoops(const std::vector<TDataPoint>& points, int nRuns)
     return map;
 }
 
-// Medians by the number of points.
-struct TMedians {
-    std::map<int, double> owned;
-    std::map<int, double> lent;
-};
-
-void TimeCount(int nCount, int nRuns, TMedians& medians)
+void TimeCount(int nCount, int nRuns)
 {
     constexpr int most = 100'000; // where the picture and not the data decides
     std::vector<TDataPoint> points = NoisyWaves(nCount);
@@ -84,7 +77,9 @@ void TimeCount(int nCount, int nRuns, TMedians& medians)
         scene.m_graph->SetData(points.data(), nCount, 0, 0, 0, bOwned);
         const auto [product, floor] = TimeBeside(scene, nRuns);
         PrintRow(bOwned ? "line, owned" : "line, caller's", nCount, product);
-        (bOwned ? medians.owned : medians.lent)[nCount] = product.idle.median;
+        if (!bOwned && nCount == 10'000'000)
+            Goals::Expect("frame of 1e7 caller's points to the mapping loop",
+                          product.idle.median / map.median, 1.0);
         if (!bOwned)
             continue;
         PrintRow("floor: same picture, fewest calls", nCount, floor);
@@ -94,26 +89,52 @@ void TimeCount(int nCount, int nRuns, TMedians& medians)
         Goals::Expect(name + "busy", product.busy.median / floor.busy.median, 1.5);
         Goals::Expect(name + "idle", product.idle.median / floor.idle.median, 1.5);
     }
-    if (nCount == 10'000'000)
-        Goals::Expect("frame of 1e7 caller's points to the mapping loop",
-                      medians.lent[nCount] / map.median, 1.0);
 }
 
-void TimeOthers(int nRuns, double one)
+void SetOwned(Scene& scene, int nCount, int nCurves = 1)
+{
+    std::vector<TDataPoint> points = NoisyWaves(nCount);
+    for (int i = 0; i < nCurves; ++i)
+        scene.m_graph->SetData(points.data(), nCount, i, 0, 0, true);
+}
+
+// In turns, so that both meet the machine in the same moments.
+double TimeRatio(Scene& scene, Scene& toOther, int nRuns)
+{
+    const auto times = Stopwatch::InTurns(
+        3 * nRuns, {[&] { scene.Repaint(); }, [&] { toOther.Repaint(); }}, &Stopwatch::WaitForMessages);
+    return times[0].median / times[1].median;
+}
+
+void TimeRatios(int nMost, int nRuns)
+{
+    constexpr int count = 10'000, large = 10'000'000;
+    Scene one;
+    SetOwned(one, count);
+    {
+        Scene many;
+        SetOwned(many, count, 100);
+        Goals::Expect("100 curves of 1e4 to one", TimeRatio(many, one, nRuns), 3.0);
+    }
+    if (nMost < large)
+        return;
+    Scene whole;
+    SetOwned(whole, large);
+    Goals::Expect("frame of 1e7 owned points to one of 1e4", TimeRatio(whole, one, nRuns), 1.1);
+}
+
+void TimeOthers(int nRuns)
 {
     constexpr int curves = 100, count = 10'000;
-    std::vector<TDataPoint> points = NoisyWaves(count);
     Scene scene;
-    for (int i = 0; i < curves; ++i)
-        scene.m_graph->SetData(points.data(), count, i, 0, 0, true);
+    SetOwned(scene, count, curves);
     const auto [many, floor] = TimeBeside(scene, nRuns);
     PrintRow("100 lines of 10000, owned", curves * count, many);
     PrintRow("floor: same picture, fewest calls", curves * count, floor);
-    Goals::Expect("100 curves of 1e4 to one", many.idle.median / one, 3.0);
     Goals::Expect("100 curves of 1e4 to the fewest calls", many.idle.median / floor.idle.median, 1.5);
     Scene dots;
-    points = NoisyWaves(100'000);
-    dots.m_graph->SetData(points.data(), 100'000, 0, 0, 0, true)->m_nType = gtScatter;
+    SetOwned(dots, 100'000);
+    dots.m_graph->m_Curves[0].m_nType = gtScatter;
     PrintRow("scatter, owned", 100'000, TimeFrame(dots, nRuns));
     dots.m_graph->m_Curves[0].m_nType = gtLine;
     dots.m_graph->GetXAxis(0)->SetCurrentRange(45'000, 55'000, 0.0);
@@ -125,11 +146,8 @@ void BenchFrames(int nMost, int nRuns)
 {
     std::printf("%-36s %9s %8s %8s %8s %8s\n", "frame of 800 x 600, ms", "points", "busy p10", "median",
                 "idle p10", "median");
-    TMedians medians;
     for (int nCount = 1000; nCount <= nMost; nCount *= 10)
-        TimeCount(nCount, nRuns, medians);
-    if (nMost >= 10'000'000)
-        Goals::Expect("frame of 1e7 owned points to one of 1e4",
-                      medians.owned[10'000'000] / medians.owned[10'000], 1.1);
-    TimeOthers(nRuns, medians.owned[10'000]);
+        TimeCount(nCount, nRuns);
+    TimeOthers(nRuns);
+    TimeRatios(nMost, nRuns);
 }

@@ -22,7 +22,7 @@ if(WIN32)
   target_link_options(vantoplex-flags INTERFACE
     -static -fstack-protector-strong -Wl,--nxcompat,--dynamicbase,--high-entropy-va)
 else()
-  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
   set(VANTOPLEX_CHECKS -fno-sanitize-recover=all CACHE STRING "Further options of the native sanitizers")
   target_compile_options(vantoplex-flags INTERFACE -fno-omit-frame-pointer
     -fsanitize=address,undefined ${VANTOPLEX_CHECKS})

@@ -19,10 +19,10 @@ for preset in "${presets[@]}"; do
   echo "== $preset: build"
   scripts/build.sh "$preset"
   # Prefixes are made before the clock of any test runs.
-  [ "$preset" = windows-x64 ] && for slot in 1 2; do scripts/run-wine.sh -s $slot cmd /c exit; done
+  [ "$preset" = windows-x64 ] && for slot in 1 2 3; do scripts/run-wine.sh -s $slot cmd /c exit; done
   echo "== $preset: test"
   rm -f "$tree/results/"*.xml
-  ctest --test-dir "$tree" --output-on-failure --no-tests=error -j2 --output-junit ctest.xml || code=$?
+  ctest --test-dir "$tree" --output-on-failure --no-tests=error -j3 --output-junit ctest.xml || code=$?
   builds+=("$tree")
 done
 python3 tests/support/count_tests.py "${builds[@]}" || code=1
