@@ -404,8 +404,7 @@ BOOL CDCEx::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 int CDCEx::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
     SelectWantedFont();
-    // Hosts choose format flags; the one that would write into the text is not for them.
-    nFormat &= ~DT_MODIFYSTRING;
+    nFormat = SafeTextFormat(nFormat); // hosts and files choose flags
     if ((nFormat & DT_CALCRECT) == 0 && IsOutOfSight(lpszString, nCount, CRect(*lpRect), nFormat)) {
         CRect size(*lpRect);
         return ::DrawText(m_hDC, lpszString, nCount, &size, nFormat | DT_CALCRECT);

@@ -208,6 +208,22 @@ TEST(DCEx, FormatFlagsFromOutsideNeverWriteIntoTheText)
     EXPECT_EQ(text, L"A text that does not fit at all");
 }
 
+// Wine's DrawText ends the process where a text that doesn't fit is to have two kinds of ellipsis.
+TEST(DCEx, AnEllipsisWithinAPathExcludesOneAtTheEnd_OurDecision)
+{
+    for (const UINT second : {DT_END_ELLIPSIS, DT_WORD_ELLIPSIS}) {
+        Canvas both(100, 30);
+        Canvas within(100, 30);
+        CRect rect(0, 0, 40, 30);
+
+        both.dc.DrawText(L"folder\\another\\file", &rect, DT_PATH_ELLIPSIS | second);
+        within.dc.DrawText(L"folder\\another\\file", &rect, DT_PATH_ELLIPSIS);
+
+        EXPECT_EQ(both.Picture(), within.Picture());
+        both.dc.CDC::DrawText(L"folder\\another\\file", &rect, DT_PATH_ELLIPSIS | second);
+    }
+}
+
 TEST(DCEx, PolygonWithoutPointsIsRefused)
 {
     Canvas canvas(4, 4);

@@ -118,11 +118,17 @@ CSize CDC::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabP
     return CSize(LOWORD(size), HIWORD(size));
 }
 
+UINT SafeTextFormat(UINT nFormat)
+{
+    nFormat &= ~DT_MODIFYSTRING;
+    if (nFormat & DT_PATH_ELLIPSIS)
+        nFormat &= ~(DT_END_ELLIPSIS | DT_WORD_ELLIPSIS);
+    return nFormat;
+}
+
 int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
-    // The text is the caller's to keep: the flag that would write an ellipsis into it, past
-    // its end, is of no use here.
-    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat & ~DT_MODIFYSTRING);
+    return ::DrawText(m_hDC, lpszString, nCount, lpRect, SafeTextFormat(nFormat));
 }
 
 int CDC::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,

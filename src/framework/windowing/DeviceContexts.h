@@ -10,6 +10,10 @@
 
 class CWnd;
 
+// A DrawText format without what does harm: DT_MODIFYSTRING writes into the caller's text, past its
+// end, and Wine ends the process where DT_PATH_ELLIPSIS comes with another kind of ellipsis.
+UINT SafeTextFormat(UINT nFormat);
+
 class CDC : public CObject
 {
     DECLARE_DYNAMIC(CDC)
@@ -129,6 +133,7 @@ public:
                             LPINT lpDxWidths);
     virtual CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
                                 LPINT lpnTabStopPositions, int nTabOrigin);
+    // SafeTextFormat(nFormat) is used.
     virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat);
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat)
     {
