@@ -1,5 +1,5 @@
 #pragma once
-// What most tests of the rooms include, which a test of the interfaces couldn't: both name the same
+// What most tests of the rooms include, which one of the interfaces could not: both name the same
 // numbers. Precompiled once for all of them.
 
 #include "support/Precompiled.h"
