@@ -20,6 +20,16 @@ bool IsMessageBox(HWND hDialog)
     return ::GetDlgItem(hDialog, textOfBox) != nullptr;
 }
 
+// Null where no menu of this thread is open.
+HWND OwnerOfMenu()
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    const bool bOpen =
+        ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
+    return bOpen ? info.hwndMenuOwner : nullptr;
+}
+
 BOOL CALLBACK AddControl(HWND hWnd, LPARAM pControls)
 {
     if (::IsWindowVisible(hWnd) && ::IsWindowEnabled(hWnd))
@@ -72,6 +82,10 @@ void DialogHand::OnShown(HWND hWnd)
 
 void DialogHand::GoOn()
 {
+    if (const HWND hOwner = OwnerOfMenu()) {
+        UseMenu(hOwner);
+        return;
+    }
     if (m_open.empty())
         return;
     TDialog& dialog = m_open.back();
@@ -82,6 +96,17 @@ void DialogHand::GoOn()
     } else {
         Close(dialog);
     }
+}
+
+void DialogHand::UseMenu(HWND hOwner)
+{
+    m_log.Say("  menu");
+    if (m_random.OneIn(2)) {
+        ::EndMenu();
+        return;
+    }
+    ::PostMessageW(hOwner, WM_KEYDOWN, VK_DOWN, 0);
+    ::PostMessageW(hOwner, WM_KEYDOWN, VK_RETURN, 0);
 }
 
 // What opens a dialog is posted: this runs in a timer of the loop below it.

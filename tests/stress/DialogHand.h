@@ -1,6 +1,6 @@
 #pragma once
-// A user at the dialogs of this thread: some are closed at once, in others a few controls are used
-// first, which opens further ones. All are closed in the end.
+// A user at the dialogs and menus of this thread: some are closed at once, in others a few controls are
+// used first, which opens further ones. All are closed in the end.
 
 #include "Log.h"
 
@@ -20,7 +20,7 @@ public:
 
     // For the dialogs of one step: what is done in them, and how often altogether.
     void Begin(Random random);
-    // Does the next thing in the dialog that opened last, if one is open.
+    // Does the next thing in a menu, or else in the dialog that opened last, if one is open.
     void GoOn();
 
 private:
@@ -32,6 +32,7 @@ private:
 
     static LRESULT CALLBACK OnHook(int nCode, WPARAM wParam, LPARAM lParam);
     void OnShown(HWND hWnd);
+    void UseMenu(HWND hOwner);
     void UseControl(HWND hDialog);
     void Click(HWND hControl);
     void Close(TDialog& dialog);

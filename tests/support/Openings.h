@@ -40,7 +40,8 @@ inline SIZE_T Memory()
 inline int Count()
 {
     const char* pszCount = std::getenv("VANTOPLEX_OPENINGS");
-    return pszCount ? std::atoi(pszCount) : 40;
+    const int nCount = pszCount ? std::atoi(pszCount) : 0;
+    return nCount > 0 ? nCount : 40;
 }
 
 inline void ExpectNothingLeft(const std::function<void()>& once)

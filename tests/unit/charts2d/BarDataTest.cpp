@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <random>
@@ -187,6 +188,7 @@ TEST(BarData, NoSegmentHasAnIdBelowOne)
     EXPECT_EQ(data.m_pSeries->FindValue(-1), nullptr);
     EXPECT_EQ(data.m_pSeries->FindValue(0), nullptr);
     EXPECT_EQ(data.m_pSeries->FindValue(1), data.m_pSeries->pValues);
+    EXPECT_EQ(data.m_pSeries->FindValue(std::numeric_limits<std::int32_t>::max()), nullptr);
 }
 
 TEST(ValueTable, WithoutSegmentsTheMaximumIsZero)

@@ -175,6 +175,7 @@ TEST_F(LineTest, SeriesDrawInTurnAtTwiceTheSpeed)
     EXPECT_EQ(animation.m_nGrowSeries, 0);
     Tick();
     EXPECT_EQ(animation.m_nGrowSeries, 1);
+    EXPECT_EQ(animation.m_nGrowSegment, 0);
     EXPECT_EQ(animation.m_nAnimationPercent, 2);
     Tick(24 + 21);
     EXPECT_EQ(animation.m_nHoldCount, 21);

@@ -55,7 +55,9 @@ TEST(WindowLayout, FramesThatNoWindowShowsAreNotMade)
 {
     using WindowLayout::HasFrame;
     EXPECT_TRUE(HasFrame({200, 200}));
+    EXPECT_TRUE(HasFrame({1, 1}));
     EXPECT_TRUE(HasFrame({32767, 2000}));
+    EXPECT_TRUE(HasFrame({2000, 32767}));
     EXPECT_FALSE(HasFrame({32768, 200}));
     EXPECT_FALSE(HasFrame({20000, 20000}));
     EXPECT_FALSE(HasFrame({Highest, Highest}));

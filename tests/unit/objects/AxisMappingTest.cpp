@@ -47,6 +47,9 @@ TEST(AxisMapping, LogarithmicDecadesAreEvenlySpaced)
     EXPECT_EQ(ToPixel(Log, 1000), 310);
     EXPECT_NEAR(ToPixel(Log, 10), 110, 1);
     EXPECT_NEAR(ToPixel(LogVertical, 10), 210, 1);
+    constexpr TScale beyondOne{.fMin = 10, .fMax = 1000, .nLength = 200, .nOrigin = 10, .bLog = true};
+    EXPECT_EQ(ToPixel(beyondOne, 10), 10);
+    EXPECT_EQ(ToPixel(beyondOne, 1000), 210);
 }
 
 TEST(AxisMapping, FormulasHoldToTheBit)

@@ -84,6 +84,8 @@ TEST(DateFormat, CenturiesHaveNoLeapDayButEveryFourth)
 {
     // The first of 2101 is a Saturday: of the last week of 2100, whose days count as 365.
     EXPECT_EQ(FormatDate(u"%G %V", {2101, 1, 1, 0, 0, 0, 6, 1}), u"2100 52");
+    // No first of 2001 was one, but the days of 2000 would count as 366.
+    EXPECT_EQ(FormatDate(u"%G %V", {2001, 1, 1, 0, 0, 0, 6, 1}), u"2000 53");
 }
 
 TEST(DateFormat, TheZoneIsTheMachines)

@@ -158,6 +158,8 @@ TEST(AdjustDateTimeRange, BoundsThatAreNoDatesStay)
     EXPECT_EQ(lower, -Infinity);
     EXPECT_EQ(upper, 1e300);
     EXPECT_TRUE(std::isnan(Adjusted(NaN, 1, 1).first));
+    const double farthest = 0x1p62 / 86400 + 25569; // more seconds than are counted, by one
+    EXPECT_EQ(Adjusted(farthest, 1e300, 1).first, farthest);
 }
 
 } // namespace

@@ -43,6 +43,7 @@ TEST(CalcNiceStep, MantissasRoundUpToOneTwoFiveTen)
     EXPECT_EQ(NiceStep(1, 0, 3), 5);
     EXPECT_EQ(NiceStep(1, 0, 7), 10);
     EXPECT_EQ(NiceStep(2, -1000, 1000), 1000);
+    EXPECT_EQ(NiceStep(1, 0, 1e-10), 1e-10);
 }
 
 TEST(CalcNiceStep, EmptyRangeLeavesTheStep)
@@ -87,6 +88,7 @@ TEST(FloatRemainder, HasTheSignOfTheValue)
     EXPECT_EQ(FloatRemainder(-7.5, 2), -1.5);
     EXPECT_EQ(FloatRemainder(6, 2), 0);
     EXPECT_EQ(FloatRemainder(1, 2), 1);
+    EXPECT_EQ(FloatRemainder(0.75, 0.5), 0.25);
 }
 
 TEST(FloatRemainder, KeepsTheErrorsOfAddition)

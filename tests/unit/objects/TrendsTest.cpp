@@ -127,6 +127,10 @@ TEST(PolynomialTrend, AddedPointsRepeatTheLastStep)
     EXPECT_EQ(trend[3].fXVal, 9.0);
     EXPECT_EQ(trend[4].fXVal, 13.0);
     EXPECT_NEAR(trend[4].fYVal, 14.0, 1e-12);
+
+    Points ofTwo = Filled(3);
+    Trends::Polynomial(solver, Points{{0, 1}, {4, 5}}, ofTwo);
+    EXPECT_EQ(ofTwo[2].fXVal, 8.0);
 }
 
 TEST(PolynomialTrend, OnePointHasNoStepToRepeat)

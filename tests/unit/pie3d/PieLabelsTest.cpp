@@ -35,6 +35,7 @@ TEST(PieLayout, RowsAndMarksGrowWithThePieUpToALimit)
     EXPECT_EQ(small.nRowHeight, 10);
     EXPECT_EQ(small.nMarkWidth, 18);
     EXPECT_EQ(small.nRowGap, 7);
+    EXPECT_EQ(SizesFor({0, 0, 150, 200}).nRowGap, 10);
 }
 
 TEST(PieLayout, HeightOfRowsLeavesOutTheLastGap)
