@@ -2,7 +2,6 @@
 
 #include "draw/CanvasReach.h"
 #include "draw/DeviceScale.h"
-#include "draw/EllipsePart.h"
 #include "framework/windowing/App.h"
 #include "framework/windowing/Window.h"
 
@@ -53,22 +52,6 @@ LongLines::TArea VisibleArea(HDC hDC, int room) noexcept
     return ::GetClipBox(hDC, &visible) == ERROR ? LongLines::TArea{}
                                                 : LongLines::AreaAround(visible, room);
 }
-
-class CNullPen
-{
-public:
-    explicit CNullPen(HDC hDC) noexcept
-        : m_hDC(hDC), m_hOld(::SelectObject(hDC, ::GetStockObject(NULL_PEN)))
-    {
-    }
-    CNullPen(const CNullPen&) = delete;
-    CNullPen& operator=(const CNullPen&) = delete;
-    ~CNullPen() { ::SelectObject(m_hDC, m_hOld); }
-
-private:
-    HDC m_hDC;
-    HGDIOBJ m_hOld;
-};
 
 // Beside what is visible of a line.
 constexpr int WideLineRoom = 1 << 10;
@@ -245,42 +228,6 @@ void CDCEx::DrawFocusRect(LPCRECT lpRect)
     if (m_bScaling)
         ScaleRect(rect);
     CDC::DrawFocusRect(&rect);
-}
-
-BOOL CDCEx::Ellipse(int x1, int y1, int x2, int y2)
-{
-    CRect rect(x1, y1, x2, y2);
-    if (m_bScaling)
-        ScaleRect(rect);
-    constexpr LONG large = 1 << 12;
-    if (Within({rect.Width(), rect.Height()}, large) || IsRecording(m_hDC))
-        return CDC::Ellipse(&rect);
-    return LargeEllipse(rect);
-}
-
-BOOL CDCEx::LargeEllipse(const CRect& rect)
-{
-    CRect visible;
-    LOGPEN pen{};
-    if (::GetClipBox(m_hDC, &visible) == ERROR || ::GetROP2(m_hAttribDC) != R2_COPYPEN ||
-        ::GetObject(::GetCurrentObject(m_hDC, OBJ_PEN), sizeof pen, &pen) == 0)
-        return CDC::Ellipse(&rect);
-    switch (EllipsePart(visible, rect, std::max(pen.lopnWidth.x, 1L))) {
-    case EEllipsePart::nothing:
-        return TRUE;
-    case EEllipsePart::inside: {
-        const CNullPen noLine(m_hDC);
-        return ::Rectangle(m_hDC, visible.left, visible.top, visible.right + 1, visible.bottom + 1);
-    }
-    case EEllipsePart::line:
-        if (pen.lopnStyle != PS_SOLID)
-            break;
-        CDC::FillSolidRect(&visible, pen.lopnColor);
-        return TRUE;
-    case EEllipsePart::mixed:
-        break;
-    }
-    return CDC::Ellipse(&rect);
 }
 
 BOOL CDCEx::Rectangle(int x1, int y1, int x2, int y2)

@@ -87,6 +87,7 @@ public:
 private:
     BOOL FarLineTo(CPoint from, CPoint unscaledTo, CPoint to);
     BOOL LargeEllipse(const CRect& rect);
+    BOOL HugeEllipse(const CRect& rect, const CRect& visible, const LOGPEN& pen);
     BOOL LongLineTo(CPoint from, CPoint unscaledTo, CPoint to, const LongLines::TArea& area);
     [[nodiscard]] std::vector<LongLines::TVertex> Vertices(const POINT* lpPoints, int nCount);
     BOOL LongPolygon(std::span<const LongLines::TVertex> vertices, const LongLines::TArea& area);

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
+#include <iterator>
 #include <random>
+#include <utility>
 
 namespace
 {
@@ -285,6 +288,68 @@ TEST(LongLinesOnCanvas, ThousandsOfDotsLargerThanTheCanvasAreDrawnAtOnce)
     EXPECT_LT(::GetTickCount64() - start, 10'000u);
 }
 
+TEST(LongLinesOnCanvas, ThousandsOfDotsWhoseRimCrossesTheCanvasAreDrawnAtOnce)
+{
+    const std::pair<int, int> dots[] = {
+        {1'000'000, 1}, {1'000'000, 1'000'000}, {1000, 1000}, {200, 200}};
+    for (const auto& [radius, nPen] : dots) {
+        Canvas canvas(640, 480);
+        ::SelectObject(canvas.dc, ::GetStockObject(WHITE_BRUSH));
+        const CPenSelector pen(RGB(255, 0, 0), nPen, &canvas.dc);
+        canvas.dc.FillSolidRect(0, 0, 640, 480, RGB(0, 255, 0));
+        const ULONGLONG start = ::GetTickCount64();
+
+        const int rim = nPen / 2; // beyond the radius
+        for (int i = 0; i < 2000; ++i)
+            canvas.dc.Ellipse(320 - rim - 2 * radius, 240 - radius, 320 - rim, 240 + radius);
+
+        EXPECT_LT(::GetTickCount64() - start, 10'000u);
+        EXPECT_EQ(canvas.At(318, 240), nPen == 1 ? White : RGB(255, 0, 0)) << radius;
+        EXPECT_EQ(canvas.At(322, 240), RGB(0, 255, 0)) << nPen;
+    }
+}
+
+TEST(LongLinesOnCanvas, AHugeOrWideEllipseLiesWithinAPixelOfThePlatforms_OurDecision)
+{
+    struct TEllipse {
+        CRect rect;
+        int nPen;
+        int nStyle = PS_SOLID;
+    };
+    const TEllipse ellipses[] = {{{20, -17000, 34020, 17000}, 1},
+                                 {{-17000, 30, 17000, 34030}, 1},
+                                 {{-29000, -29000, 120, 110}, 3},
+                                 {{430, -17000, 34430, 17000}, 800},
+                                 {{250, -2100, 4500, 2100}, 800},
+                                 {{100, -200, 500, 200}, 200},
+                                 {{100, -200, 500, 200}, 200, PS_DASHDOTDOT},
+                                 {{-170, -2000, 3830, 2000}, 400, PS_DASH}};
+    for (const auto& [rect, nPen, nStyle] : ellipses) {
+        Canvas platform(60, 50);
+        Canvas canvas(60, 50);
+        for (CDCEx* const dc : {&platform.dc, &canvas.dc}) {
+            dc->FillSolidRect(0, 0, 60, 50, RGB(90, 90, 90));
+            ::SelectObject(*dc, ::GetStockObject(WHITE_BRUSH));
+        }
+        const CPenSelector platformPen(Black, nPen, &platform.dc, nStyle);
+        const CPenSelector pen(Black, nPen, &canvas.dc, nStyle);
+
+        platform.dc.CDC::Ellipse(&rect);
+        canvas.dc.Ellipse(rect.left, rect.top, rect.right, rect.bottom);
+
+        for (int y = 1; y < 49; ++y) {
+            for (int x = 1; x < 59; ++x) {
+                const COLORREF around[] = {platform.At(x, y), platform.At(x - 1, y),
+                                           platform.At(x + 1, y), platform.At(x, y - 1),
+                                           platform.At(x, y + 1)};
+                EXPECT_NE(std::find(std::begin(around), std::end(around), canvas.At(x, y)),
+                          std::end(around))
+                    << x << ", " << y << " of " << rect.left << ", pen of " << nPen;
+            }
+        }
+    }
+}
+
 TEST(LongLinesOnCanvas, ALargeEllipseHasThePixelsOfThePlatform)
 {
     struct TEllipse {
@@ -295,7 +360,7 @@ TEST(LongLinesOnCanvas, ALargeEllipseHasThePixelsOfThePlatform)
                                  {{20, -5000, 12000, 5000}, 1},
                                  {{-9000, -9000, 40, 40}, 1},
                                  {{5000, -2100, 9200, 2100}, 1},
-                                 {{250, -2100, 4500, 2100}, 800}};
+                                 {{30, -300, 630, 300}, 100}};
     for (const auto& [rect, nPen] : ellipses) {
         Canvas platform(60, 50);
         Canvas canvas(60, 50);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace
 {
 // A circle of radius 1000 around the origin with a line from 900 to 1100.
@@ -55,4 +57,35 @@ TEST(EllipsePart, ALineWiderThanTheEllipseCoversItsMiddle)
 TEST(EllipsePart, CornersInTheWrongOrderMeanTheSameEllipse)
 {
     EXPECT_EQ(EllipsePart({0, 0, 9, 9}, {1000, 1000, -1000, -1000}, 2), EEllipsePart::inside);
+}
+
+TEST(EllipseOutline, FollowsTheRimWhereItIsSeen)
+{
+    constexpr TRect visible = {-50, -40, 50, 40};
+    constexpr TRect huge = {-2'000'000, -1'000'000, 0, 1'000'000};
+    const auto outline = EllipseOutline(visible, huge, 10);
+
+    EXPECT_LT(outline.size(), 100u);
+    int nSeen = 0;
+    for (const LongLines::TVertex& vertex : outline) {
+        const double x = (vertex.x + 1'000'000) / 1'000'010, y = vertex.y / 1'000'010;
+        EXPECT_NEAR(std::hypot(x, y), 1, 1e-12);
+        nSeen += std::fabs(vertex.y) < 2'000 && vertex.x > 0 ? 1 : 0;
+    }
+    EXPECT_GE(nSeen, 2);
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        const auto& from = outline[i];
+        const auto& to = outline[(i + 1) % outline.size()];
+        if (from.x <= 0 || to.x <= 0 || from.y * to.y > 0)
+            continue; // the edge that crosses the visible rectangle
+        const double at = from.x - from.y * (to.x - from.x) / (to.y - from.y);
+        EXPECT_NEAR(at, 10, 0.25);
+    }
+}
+
+TEST(EllipseOutline, IsEmptyWithoutHalfAxes)
+{
+    EXPECT_TRUE(EllipseOutline({0, 0, 10, 10}, {0, 0, 20, 200}, -10).empty());
+    EXPECT_FALSE(EllipseOutline({0, 0, 10, 10}, {0, 0, 20, 200}, -9).empty());
+    EXPECT_TRUE(EllipseOutline({0, 0, 10, 10}, {5, 5, 5, 5}, 0).empty());
 }
