@@ -11,6 +11,7 @@
 //
 // runs one seed in this process, or the steps named alone.
 
+#include "ProcessorLimit.h"
 #include "Shrinking.h"
 #include "Stage.h"
 
@@ -69,6 +70,7 @@ int RunSteps(const TOptions& options)
     if (pFile == nullptr || !server.IsLoaded())
         return 2;
     const LastWords lastWords(pFile, server.Module());
+    const ProcessorLimit limit(pFile);
     Log log(pFile);
     {
         Stage stage(server, log);
