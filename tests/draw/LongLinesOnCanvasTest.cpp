@@ -350,6 +350,25 @@ TEST(LongLinesOnCanvas, AHugeOrWideEllipseLiesWithinAPixelOfThePlatforms_OurDeci
     }
 }
 
+TEST(LongLinesOnCanvas, ARingOfAWidePenIsThePlatforms)
+{
+    Canvas platform(60, 50);
+    Canvas canvas(60, 50);
+    for (CDCEx* const dc : {&platform.dc, &canvas.dc}) {
+        dc->FillSolidRect(0, 0, 60, 50, RGB(90, 90, 90));
+        ::SelectObject(*dc, ::GetStockObject(NULL_BRUSH));
+    }
+    const CPenSelector platformPen(Black, 200, &platform.dc);
+    const CPenSelector pen(Black, 200, &canvas.dc);
+
+    platform.dc.CDC::Ellipse(-70, -200, 330, 200);
+    canvas.dc.Ellipse(-70, -200, 330, 200);
+
+    EXPECT_EQ(canvas.Picture(), platform.Picture());
+    EXPECT_EQ(canvas.At(5, 25), Black);
+    EXPECT_EQ(canvas.At(55, 25), RGB(90, 90, 90)) << "what was there";
+}
+
 TEST(LongLinesOnCanvas, ALargeEllipseHasThePixelsOfThePlatform)
 {
     struct TEllipse {

@@ -86,6 +86,7 @@ TEST(EllipseOutline, FollowsTheRimWhereItIsSeen)
 TEST(EllipseOutline, IsEmptyWithoutHalfAxes)
 {
     EXPECT_TRUE(EllipseOutline({0, 0, 10, 10}, {0, 0, 20, 200}, -10).empty());
+    EXPECT_TRUE(EllipseOutline({0, 0, 10, 10}, {0, 0, 200, 20}, -10).empty());
     EXPECT_FALSE(EllipseOutline({0, 0, 10, 10}, {0, 0, 20, 200}, -9).empty());
     EXPECT_TRUE(EllipseOutline({0, 0, 10, 10}, {5, 5, 5, 5}, 0).empty());
 }
