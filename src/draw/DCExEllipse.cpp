@@ -65,11 +65,14 @@ BOOL CDCEx::LargeEllipse(const CRect& rect)
         const CNullPen noLine(m_hDC);
         return ::Rectangle(m_hDC, visible.left, visible.top, visible.right + 1, visible.bottom + 1);
     }
-    case EEllipsePart::line:
+    case EEllipsePart::line: {
         if (!IsSolid(pen))
             break;
+        const COLORREF crBack = ::GetBkColor(m_hDC); // no ellipse changes it
         CDC::FillSolidRect(&visible, pen.lopnColor);
+        ::SetBkColor(m_hDC, crBack);
         return TRUE;
+    }
     case EEllipsePart::mixed:
         if (pen.lopnWidth.x > WidestOfPlatform ||
             !Within({rect.Width(), rect.Height()}, LargestOfPlatform))

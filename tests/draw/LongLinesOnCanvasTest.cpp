@@ -280,6 +280,7 @@ TEST(LongLinesOnCanvas, ThousandsOfDotsLargerThanTheCanvasAreDrawnAtOnce)
     for (int i = 0; i < 2000; ++i)
         canvas.dc.Ellipse(30000 - 32767, i % 480 - 32767, 30000 + 32767, i % 480 + 32767);
     EXPECT_EQ(canvas.At(320, 240), RGB(255, 0, 0)) << "the pen's";
+    EXPECT_EQ(::GetBkColor(canvas.dc), White) << "as it was";
     canvas.dc.FillSolidRect(0, 0, 640, 480, RGB(0, 255, 0));
     for (int i = 0; i < 2000; ++i)
         canvas.dc.Ellipse(60000 - 32767, i % 480 - 32767, 60000 + 32767, i % 480 + 32767);
