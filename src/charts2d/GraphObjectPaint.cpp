@@ -133,7 +133,8 @@ BOOL CGraphObject::OnEraseBkgnd(CDC* pDC)
     m_bRedraw = true;
     CBrush brush;
     brush.CreateSolidBrush(m_crBackground);
-    EraseClipBox(*pDC, brush);
+    if (pDC) // none comes with the message where the platform has no room for one
+        EraseClipBox(*pDC, brush);
     if (m_pMemDC)
         EraseClipBox(*m_pMemDC, brush);
     return TRUE;

@@ -113,10 +113,12 @@ LRESULT CColorButton::OnPopupColor(WPARAM wParam, LPARAM)
 
 void CColorButton::DrawItem(DRAWITEMSTRUCT* lpDrawItemStruct)
 {
+    CDC* const pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
+    if (!pDC)
+        return; // the platform has no room for one
     UINT state = lpDrawItemStruct->itemState;
     if (m_bOpen)
         state |= ODS_SELECTED | ODS_FOCUS;
     const COLORREF colour = m_crValue == CLR_DEFAULT ? m_crAutomatic : m_crValue;
-    ColorButtonDrawing::Draw(*CDC::FromHandle(lpDrawItemStruct->hDC), lpDrawItemStruct->rcItem, state,
-                             colour);
+    ColorButtonDrawing::Draw(*pDC, lpDrawItemStruct->rcItem, state, colour);
 }

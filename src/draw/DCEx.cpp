@@ -121,8 +121,8 @@ void CDCEx::SelectWantedFont()
 {
     if (m_hSelectedFont == m_hWantedFont)
         return;
-    SelectHandle(m_hWantedFont);
-    m_hSelectedFont = m_hWantedFont;
+    if (SelectHandle(m_hWantedFont))
+        m_hSelectedFont = m_hWantedFont;
 }
 
 void CDCEx::NeedScale()

@@ -74,7 +74,7 @@ public:
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
     void FillSolidRect(LPCRECT lpRect, COLORREF crColor);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor);
-    // Measures all lines of a text with line feeds.
+    // Measures all lines of a text with line feeds. 0 by 0 where the platform refuses to.
     CSize GetTextExtent(const CString& str);
 
     // In the callers' units.

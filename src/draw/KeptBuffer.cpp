@@ -14,7 +14,8 @@ bool CKeptBuffer::Start(CDC* pTarget, CSize size)
         Free();
     if (!m_bitmap.m_hObject)
         Make(pTarget, size);
-    m_bBusy = m_bitmap.m_hObject != nullptr;
+    m_nState = m_bitmap.m_hObject ? m_dc.SaveDC() : 0;
+    m_bBusy = m_nState != 0;
     return m_bBusy;
 }
 
@@ -30,6 +31,7 @@ void CKeptBuffer::Make(CDC* pTarget, CSize size)
 
 void CKeptBuffer::Finish(CDC* pTarget)
 {
+    m_dc.RestoreDC(m_nState); // a clip region that a frame leaves would cut this copy and the next
     pTarget->BitBlt(0, 0, m_size.cx, m_size.cy, &m_dc, 0, 0, SRCCOPY);
     m_bBusy = false;
 }

@@ -33,5 +33,6 @@ private:
     CBitmap m_bitmap;
     CSize m_size;
     ULONGLONG m_nLastFrame = 0; // milliseconds
+    int m_nState = 0;           // of the canvas, saved for the time of a frame
     bool m_bBusy = false;
 };

@@ -25,8 +25,11 @@ CFont* CKeptFonts::Find(int nHeight, int nWeight)
     for (std::optional<TEntry>& entry : m_entries) {
         if (!entry)
             entry.emplace(nHeight, nWeight);
-        if (entry->nHeight == nHeight && entry->nWeight == nWeight)
-            return &entry->font;
+        if (entry->nHeight != nHeight || entry->nWeight != nWeight)
+            continue;
+        if (!entry->font.m_hObject)
+            entry.emplace(nHeight, nWeight); // the platform refused one; it may have room now
+        return &entry->font;
     }
     return nullptr;
 }
@@ -37,5 +40,7 @@ CArialSelector::CArialSelector(int nHeight, int nWeight, CDCEx* pDC, bool bScale
     CFont* const pKept = pFonts ? pFonts->Find(nHeight, nWeight) : nullptr;
     if (!pKept)
         m_own.emplace(Face, nHeight, nWeight);
-    m_selected.emplace(pKept ? pKept : &*m_own, pDC, bScale, pKept != nullptr);
+    CFont* const pFont = pKept ? pKept : &*m_own;
+    m_bMade = pFont->m_hObject != nullptr;
+    m_selected.emplace(pFont, pDC, bScale, pKept != nullptr);
 }

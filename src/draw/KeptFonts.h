@@ -32,8 +32,11 @@ class CArialSelector
 {
 public:
     CArialSelector(int nHeight, int nWeight, CDCEx* pDC, bool bScale);
+    // False where the platform made no font: texts have the one that was selected before.
+    [[nodiscard]] bool IsMade() const noexcept { return m_bMade; }
 
 private:
     std::optional<CQuickFont> m_own;
     std::optional<CFontSelector> m_selected;
+    bool m_bMade = false;
 };

@@ -4,6 +4,8 @@
 #include "draw/Selectors.h"
 #include "graph/XGraph.h"
 
+#include <utility>
+
 namespace
 {
 constexpr int FontHeight = 13;
@@ -34,11 +36,15 @@ void CLegendBox::FindRows()
         TLegendRow& row = m_rows[nRows++];
         if (!row.strText.IsEmpty() && row.nCurve == i && row.cLabel.View() == curve.m_cLabel.View())
             continue;
+        row.strText =
+            CString(); // not that of the curve until it is whole: memory may run out on the way
         row.bMeasured = false;
         row.nCurve = i;
         row.cLabel = curve.m_cLabel;
-        row.strText.Format(L"%02d ", static_cast<int>(i) + 1);
-        row.strText += curve.m_cLabel;
+        CString strText;
+        strText.Format(L"%02d ", static_cast<int>(i) + 1);
+        strText += curve.m_cLabel;
+        row.strText = std::move(strText);
     }
     m_rows.resize(nRows);
 }
@@ -46,11 +52,11 @@ void CLegendBox::FindRows()
 void CLegendBox::MeasureRows()
 {
     const CArialSelector font(FontHeight, FW_NORMAL, m_pDC, false);
-    const bool bKeep = m_pDC->IsScreen();
+    const bool bKeep = m_pDC->IsScreen() && font.IsMade();
     for (TLegendRow& row : m_rows) {
         if (!bKeep || !row.bMeasured)
             row.size = m_pDC->GetTextExtent(row.strText);
-        row.bMeasured = bKeep;
+        row.bMeasured = bKeep && row.size.cy > 0;
         m_extent.Add(row.size);
     }
 }

@@ -30,7 +30,8 @@ public:
 
     // The label of the value, to the bit; null where there is none.
     [[nodiscard]] Label Find(double fValue) const noexcept;
-    // Keeps a label; of very many, the oldest makes room. Those of great length aren't kept.
+    // Keeps a label; of very many, the oldest makes room. Those of great length aren't kept, nor is
+    // one without a height: the platform refused to measure it.
     void Keep(const Label& label);
 
 private:
@@ -46,6 +47,7 @@ class CKeptTitle
 {
 public:
     [[nodiscard]] const CSize* Find(const LOGFONTW& look, const CString& cText) const noexcept;
+    // A size without a height isn't kept.
     void Keep(const LOGFONTW& look, const CString& cText, CSize size);
 
 private:

@@ -161,7 +161,7 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
     if (m_pDC->m_bScaling)
         measuring.emplace(&m_axis.m_LabelFont, m_pDC, false, true);
     const CSize size = m_pDC->GetTextExtent(cText);
-    if (known == m_shapes.end()) {
+    if (known == m_shapes.end() && size.cy > 0) {
         if (m_shapes.size() == MostShapes)
             m_shapes.erase(m_shapes.begin());
         m_shapes.push_back({strShape, size});

@@ -1,5 +1,9 @@
 #include "pie3d/GdiPlus.h"
 
+#include "framework/windowing/GdiObjects.h"
+
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <span>
@@ -13,6 +17,15 @@ namespace
 Gdiplus::RectF ToGdi(const TRectF& rc) noexcept
 {
     return {rc.x, rc.y, rc.width, rc.height};
+}
+
+// Blending takes a region, a canvas and a bitmap. Wine's library doesn't look whether it got the last.
+bool HasRoomToBlend() noexcept
+{
+    std::array<CRgn, 3> objects;
+    return std::all_of(objects.begin(), objects.end(), [](CRgn& object) {
+        return object.CreateRectRgnIndirect(CRect(0, 0, 1, 1)) != FALSE;
+    });
 }
 
 INT LengthOf(std::wstring_view text) noexcept
@@ -276,7 +289,8 @@ void CGraphics::FillPath(Gdiplus::GpBrush* brush, const CPath& path) const noexc
 
 void CGraphics::DrawPath(const CPen& pen, const CPath& path) const noexcept
 {
-    Flat::GdipDrawPath(m_graphics.Get(), pen.Get(), path.Get());
+    if (path.Get()) // else refused by most platforms, but Wine's follows it
+        Flat::GdipDrawPath(m_graphics.Get(), pen.Get(), path.Get());
 }
 
 void CGraphics::DrawLine(const CPen& pen, TPointF from, TPointF to) const noexcept
@@ -309,6 +323,8 @@ void CGraphics::DrawString(std::wstring_view text, const CFont& font, const TRec
 
 void CGraphics::DrawWhole(const CBitmap& bitmap, TPoint at) const noexcept
 {
+    if (!HasRoomToBlend())
+        return;
     CCachedBitmap cached;
     Flat::GdipCreateCachedBitmap(bitmap.Get(), m_graphics.Get(), cached.Put());
     Flat::GdipDrawCachedBitmap(m_graphics.Get(), cached.Get(), at.x, at.y);

@@ -17,7 +17,41 @@ void __verbose_terminate_handler()
 }
 } // namespace __gnu_cxx
 
-extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
+namespace
+{
+constinit DWORD g_threadSlot = TLS_OUT_OF_INDEXES;
+
+// The C++ run-time's thread library takes a slot each time that the module is loaded and never gives it
+// back, and a process has little more than a thousand. It takes no second one.
+DWORD WINAPI TakeThreadSlot()
+{
+    const auto platforms =
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32"), "TlsAlloc"));
+    return g_threadSlot = reinterpret_cast<decltype(&::TlsAlloc)>(platforms)();
+}
+
+} // namespace
+
+extern "C" {
+// NOLINTBEGIN(readability-identifier-naming): the linker's name, and the library's
+constinit decltype(&::TlsAlloc) __imp_TlsAlloc = &TakeThreadSlot; // the name of the import
+extern PIMAGE_TLS_CALLBACK __xl_f;                                // the thread library's own
+// NOLINTEND(readability-identifier-naming)
+BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
+}
+
+namespace
+{
+// For the thread library the thread that unloads it ends here: its two handles and its memory for
+// exceptions go, as they would with the thread. Then the slot of all threads.
+void EndThreadLibrary(HINSTANCE hInstance)
+{
+    if (g_threadSlot == TLS_OUT_OF_INDEXES)
+        return;
+    __xl_f(hInstance, DLL_THREAD_DETACH, nullptr);
+    ::TlsFree(g_threadSlot);
+}
+} // namespace
 
 extern "C" BOOL WINAPI ModuleEntry(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
 {
@@ -30,5 +64,6 @@ extern "C" BOOL WINAPI ModuleEntry(HINSTANCE hInstance, DWORD dwReason, LPVOID l
         return TRUE;
     const BOOL result = DllMainCRTStartup(hInstance, dwReason, lpReserved);
     __gnu_cxx::__freeres(); // no exception can be thrown any more
+    EndThreadLibrary(hInstance);
     return result;
 }

@@ -23,6 +23,7 @@ struct TState {
     int nRequests = 0;
     std::FILE* pTrace = nullptr;
     std::unordered_map<std::uintptr_t, TThing> held;
+    std::vector<HBRUSH> filling; // what takes the room for objects
 };
 
 TState& State()
@@ -30,11 +31,29 @@ TState& State()
     static TState state;
     return state;
 }
+
+void FillUp(std::vector<HBRUSH>& filling, int nLeft)
+{
+    while (const HBRUSH hBrush = ::CreateSolidBrush(0))
+        filling.push_back(hBrush);
+    for (int i = 0; i < nLeft && !filling.empty(); ++i) {
+        ::DeleteObject(filling.back());
+        filling.pop_back();
+    }
+}
+
+void Empty(std::vector<HBRUSH>& filling)
+{
+    for (const HBRUSH hBrush : filling)
+        ::DeleteObject(hBrush);
+    filling.clear();
+}
 } // namespace
 
 const char* Platform::NameOf(EKind kind)
 {
-    static const char* const names[] = {"memory", "gdi", "gdiplus", "window", "timer", "file", "module"};
+    static const char* const names[] = {"memory", "gdi",  "gdiplus", "window",
+                                        "timer",  "file", "module",  "limit"};
     return names[static_cast<int>(kind)];
 }
 
@@ -59,12 +78,15 @@ void Platform::Arm(EKind kind, int nNumber, bool bAllAfter)
     state.bAllAfter = bAllAfter;
     state.kind = kind;
     state.nNumber = nNumber;
-    state.nRequests = 0;
+    state.nRequests = kind == EKind::limit ? MostLeft : 0;
+    if (kind == EKind::limit && nNumber < MostLeft)
+        FillUp(state.filling, nNumber);
 }
 
 int Platform::Disarm()
 {
     State().bArmed = false;
+    Empty(State().filling);
     return State().nRequests;
 }
 

@@ -10,7 +10,7 @@
 
 namespace Platform
 {
-enum class EKind { memory, gdi, gdiplus, window, timer, file, module, count };
+enum class EKind { memory, gdi, gdiplus, window, timer, file, module, limit, count };
 
 [[nodiscard]] const char* NameOf(EKind kind);
 
@@ -20,7 +20,10 @@ void StandBefore(HMODULE hServer);
 // is written there.
 void BeginAccount(std::FILE* pTrace);
 
-// The request of that kind with that number, counted from 0, is refused; and all after it.
+// The request of that kind with that number, counted from 0, is refused; and all after it. Of kind
+// limit the process holds as many GDI objects as the platform allows, but for that number, and nothing
+// else is refused; these count as MostLeft requests.
+inline constexpr int MostLeft = 24;
 void Arm(EKind kind, int nNumber, bool bAllAfter);
 // The result is the number of requests since.
 int Disarm();

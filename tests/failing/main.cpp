@@ -1,6 +1,7 @@
 // A platform that fails: in each scenario the first request of a kind is refused, then the second,
 // and so on until all have been. After each the same is done again without refusal and has to leave
 // what it always leaves; then all ends, and nothing that the DLL took may be left.
+// Kind "limit" takes all GDI objects that the process may have but for none, one, two and so on.
 //
 //   vantoplex-failing DLL [--scenario NAME] [--kind NAME] [--after] [--from N] [--stride N]
 //

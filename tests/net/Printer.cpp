@@ -36,6 +36,7 @@ BOOL Printer::OnPrintDialog(PRINTDLGW* pDialog)
     Printer& self = *s_pCurrent;
     if (self.m_hBitmap != nullptr)
         ::DeleteObject(self.m_hBitmap);
+    self.m_hBitmap = nullptr;
     self.m_hDC = ::CreateCompatibleDC(nullptr);
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof(BITMAPINFOHEADER),
@@ -50,6 +51,11 @@ BOOL Printer::OnPrintDialog(PRINTDLGW* pDialog)
                       0,
                       0};
     self.m_hBitmap = ::CreateDIBSection(self.m_hDC, &info, DIB_RGB_COLORS, &self.m_pBits, nullptr, 0);
+    if (self.m_hBitmap == nullptr) { // no room for one
+        self.m_pBits = nullptr;
+        ::DeleteDC(self.m_hDC);
+        return FALSE;
+    }
     std::memset(self.m_pBits, 0xFF,
                 static_cast<std::size_t>(self.m_paper.nWidth) * self.m_paper.nHeight * 4);
     ::SelectObject(self.m_hDC, self.m_hBitmap);

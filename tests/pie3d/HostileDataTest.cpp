@@ -1,11 +1,23 @@
 // Data, angles, tilts, depths and sizes that nobody would choose.
 
 #include "PieWindow.h"
+#include "pie3d/GdiPlus.h"
+#include "support/ImportSlot.h"
 
 #include <cmath>
 #include <random>
 
 using PieHostile = PieWindow;
+
+extern "C" decltype(&Gdiplus::DllExports::GdipCreatePath) __imp_GdipCreatePath;
+
+namespace
+{
+Gdiplus::GpStatus WINGDIPAPI NoPath(Gdiplus::GpFillMode, Gdiplus::GpPath**)
+{
+    return Gdiplus::OutOfMemory;
+}
+} // namespace
 
 TEST_F(PieHostile, QuartersAndHalvesOfEveryTiltAreDrawn)
 {
@@ -22,6 +34,28 @@ TEST_F(PieHostile, QuartersAndHalvesOfEveryTiltAreDrawn)
     pie.SetStartAngle(0);
     Plain();
     EXPECT_EQ(Shoot().At(365, 435), Ref(Red));
+}
+
+TEST_F(PieHostile, WhereThePlatformMakesNoPathsThePieIsDrawnWithoutItsWalls)
+{
+    Fill({1, 3});
+    Plain();
+    pie.SetInclineAngle(60);
+    const int nRed = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+    Element(1).bSelected = true;
+    pie.SetStartAngle(170); // the first element in front, where its wall would show
+    const int nWithWall = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+    {
+        const ImportSlot slot(__imp_GdipCreatePath, &NoPath);
+        pie.m_crParentWindow ^= 1; // behind another colour nothing that was kept fits
+        pie.Invalidate();
+        const int nWithout = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+        EXPECT_GT(nWithout, 0);
+        EXPECT_LT(nWithout, nWithWall);
+    }
+    Element(1).bSelected = false;
+    pie.SetStartAngle(0);
+    EXPECT_EQ(Shoot().Count({0, 0, 800, 600}, Ref(Red)), nRed);
 }
 
 TEST_F(PieHostile, SliversBesideAGiantLeaveThePieToTheGiant)

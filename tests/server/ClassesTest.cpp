@@ -1,8 +1,11 @@
 // The classes as a host meets them: class objects, instances, aggregation, what is answered.
 
 #include "support/LoadedServer.h"
+#include "support/PrivateServer.h"
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace
 {
@@ -242,4 +245,37 @@ TEST(Module, LoadsAndUnloadsAgain)
         EXPECT_NE(object.Get(), nullptr);
     }
     EXPECT_EQ(GetModuleHandleW(L"Vantoplex.dll"), held);
+}
+
+TEST(Module, UnloadingLeavesAsManyThreadSlotsAndHandlesAsBefore)
+{
+    const auto countSlots = [] { // that are free
+        std::vector<DWORD> slots;
+        for (DWORD slot = ::TlsAlloc(); slot != TLS_OUT_OF_INDEXES; slot = ::TlsAlloc())
+            slots.push_back(slot);
+        for (const DWORD slot : slots)
+            ::TlsFree(slot);
+        return slots.size();
+    };
+    const auto countHandles = [] { // Wine's GetProcessHandleCount knows none
+        int nHandles = 0;
+        for (ULONG_PTR value = 4; value < 0x8000; value += 4) {
+            DWORD flags = 0;
+            nHandles += ::GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) ? 1 : 0;
+        }
+        return nHandles;
+    };
+    const HMODULE hDialogs = ::LoadLibraryW(L"comdlg32"); // Wine's keeps a handle at each load
+    PrivateServer server;
+    server.Unload();
+    const auto nSlots = countSlots();
+    const int nHandles = countHandles();
+    for (int round = 0; round < 5; ++round) {
+        server.Load();
+        EXPECT_NE((server->Make<SGraphObject, ISGraphObject>().Get()), nullptr);
+        server.Unload();
+    }
+    EXPECT_EQ(countSlots(), nSlots);
+    EXPECT_EQ(countHandles(), nHandles);
+    ::FreeLibrary(hDialogs);
 }

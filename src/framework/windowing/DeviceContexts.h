@@ -44,9 +44,9 @@ public:
     BOOL CreateCompatibleDC(CDC* pDC);
     BOOL DeleteDC() noexcept;
 
-    virtual void SetAttribDC(HDC hDC) noexcept;
+    void SetAttribDC(HDC hDC) noexcept;
     virtual void SetOutputDC(HDC hDC) noexcept;
-    virtual void ReleaseAttribDC() noexcept;
+    void ReleaseAttribDC() noexcept;
     virtual void ReleaseOutputDC() noexcept;
 
     [[nodiscard]] int GetDeviceCaps(int nIndex) const noexcept;

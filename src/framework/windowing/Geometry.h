@@ -15,11 +15,15 @@ class CRect;
 class CSize : public tagSIZE
 {
 public:
-    constexpr CSize() noexcept : tagSIZE{0, 0} {}
-    constexpr CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
+    constexpr CSize() noexcept : CSize(0, 0) {}
+    constexpr CSize(int initCX, int initCY) noexcept : tagSIZE{}
+    {
+        cx = initCX;
+        cy = initCY;
+    }
     constexpr CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
-    constexpr explicit CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
-    constexpr CSize(const TSize& initSize) noexcept : tagSIZE{initSize.cx, initSize.cy} {}
+    constexpr explicit CSize(POINT initPt) noexcept : CSize(initPt.x, initPt.y) {}
+    constexpr CSize(const TSize& initSize) noexcept : CSize(initSize.cx, initSize.cy) {}
     constexpr operator TSize() const noexcept { return {static_cast<int>(cx), static_cast<int>(cy)}; }
 
     constexpr bool operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
@@ -39,16 +43,20 @@ public:
 class CPoint : public tagPOINT
 {
 public:
-    constexpr CPoint() noexcept : tagPOINT{0, 0} {}
-    constexpr CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
+    constexpr CPoint() noexcept : CPoint(0, 0) {}
+    constexpr CPoint(int initX, int initY) noexcept : tagPOINT{}
+    {
+        x = initX;
+        y = initY;
+    }
     constexpr CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
-    constexpr explicit CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
+    constexpr explicit CPoint(SIZE initSize) noexcept : CPoint(initSize.cx, initSize.cy) {}
     // The two signed 16-bit halves of a mouse message's parameter.
     constexpr explicit CPoint(LPARAM dwPoint) noexcept
-        : tagPOINT{static_cast<short>(dwPoint & 0xFFFF), static_cast<short>((dwPoint >> 16) & 0xFFFF)}
+        : CPoint(static_cast<short>(dwPoint & 0xFFFF), static_cast<short>((dwPoint >> 16) & 0xFFFF))
     {
     }
-    constexpr CPoint(const TPoint& initPt) noexcept : tagPOINT{initPt.x, initPt.y} {}
+    constexpr CPoint(const TPoint& initPt) noexcept : CPoint(initPt.x, initPt.y) {}
     constexpr operator TPoint() const noexcept { return {static_cast<int>(x), static_cast<int>(y)}; }
 
     constexpr bool operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
@@ -78,20 +86,26 @@ public:
 class CRect : public tagRECT
 {
 public:
-    constexpr CRect() noexcept : tagRECT{0, 0, 0, 0} {}
-    constexpr CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
+    constexpr CRect() noexcept : CRect(0, 0, 0, 0) {}
+    constexpr CRect(int l, int t, int r, int b) noexcept : tagRECT{}
+    {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
+    }
     constexpr CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
     constexpr explicit CRect(LPCRECT lpSrcRect) noexcept : tagRECT(*lpSrcRect) {}
     constexpr CRect(POINT point, SIZE size) noexcept
-        : tagRECT{point.x, point.y, Wrap::Add(point.x, size.cx), Wrap::Add(point.y, size.cy)}
+        : CRect(point.x, point.y, Wrap::Add(point.x, size.cx), Wrap::Add(point.y, size.cy))
     {
     }
     constexpr CRect(POINT topLeft, POINT bottomRight) noexcept
-        : tagRECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}
+        : CRect(topLeft.x, topLeft.y, bottomRight.x, bottomRight.y)
     {
     }
     constexpr CRect(const TRect& srcRect) noexcept
-        : tagRECT{srcRect.left, srcRect.top, srcRect.right, srcRect.bottom}
+        : CRect(srcRect.left, srcRect.top, srcRect.right, srcRect.bottom)
     {
     }
     constexpr operator TRect() const noexcept
