@@ -76,7 +76,7 @@ TEST_F(Chart2dAnyMessage, LeavesAChartThatPaints)
     FillBars({{1, 2}, {3, 4}});
     SendAll(Handle());
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    EXPECT_GT(Picture(Handle()).Count({0, 0, 640, 400}, Red), 0);
+    EXPECT_GT(Picture(Handle()).Count(Red), 0);
 }
 
 TEST_F(PieChart3dAnyMessage, LeavesAPieThatPaints)
@@ -85,5 +85,5 @@ TEST_F(PieChart3dAnyMessage, LeavesAPieThatPaints)
     Fill({1, 2, 3});
     SendAll(Handle()); // of which some scroll the list
     ::RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    EXPECT_GT(Picture(Handle()).Count({0, 0, 800, 600}, Red), 0);
+    EXPECT_GT(Picture(Handle()).Count(Red), 0);
 }

@@ -41,21 +41,21 @@ TEST_F(PieHostile, WhereThePlatformMakesNoPathsThePieIsDrawnWithoutItsWalls)
     Fill({1, 3});
     Plain();
     pie.SetInclineAngle(60);
-    const int nRed = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+    const int nRed = Shoot().Count(Ref(Red));
     Element(1).bSelected = true;
     pie.SetStartAngle(170); // the first element in front, where its wall would show
-    const int nWithWall = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+    const int nWithWall = Shoot().Count(Ref(Red));
     {
         const ImportSlot slot(__imp_GdipCreatePath, &NoPath);
         pie.m_crParentWindow ^= 1; // behind another colour nothing that was kept fits
         pie.Invalidate();
-        const int nWithout = Shoot().Count({0, 0, 800, 600}, Ref(Red));
+        const int nWithout = Shoot().Count(Ref(Red));
         EXPECT_GT(nWithout, 0);
         EXPECT_LT(nWithout, nWithWall);
     }
     Element(1).bSelected = false;
     pie.SetStartAngle(0);
-    EXPECT_EQ(Shoot().Count({0, 0, 800, 600}, Ref(Red)), nRed);
+    EXPECT_EQ(Shoot().Count(Ref(Red)), nRed);
 }
 
 TEST_F(PieHostile, SliversBesideAGiantLeaveThePieToTheGiant)

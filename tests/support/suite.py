@@ -64,8 +64,8 @@ class Suite:
         self.failures, self.places, self.runs = {}, {}, 0
         self.null_in = named_in(options.null_in)
 
-    def wine(self, arguments, seconds=SLOWEST):
-        command = [str(ROOT / "scripts/run-wine.sh"), "-t", str(seconds), str(self.program), *arguments]
+    def wine(self, arguments, seconds=SLOWEST, program=None):
+        command = [str(ROOT / "scripts/run-wine.sh"), "-t", str(seconds), program or str(self.program), *arguments]
         return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                               errors="replace", check=False)
 
@@ -88,15 +88,40 @@ class Suite:
 
     def groups(self, names):
         if self.options.alone:
-            return [[name] for name in names]
+            return [names[first : first + 100] for first in range(0, len(names), 100)]
         if self.options.order is not None:
             names = list(names)
             random.Random(self.options.order).shuffle(names)
         groups = [names[shard :: self.options.shards] for shard in range(self.options.shards)]
         return [group for group in groups if group]
 
+    def run_alone(self, names):
+        """A process for each, one after the other, from one batch: Wine takes a second to start it."""
+        with tempfile.NamedTemporaryFile("w", suffix=".bat", delete=False, newline="\r\n") as batch:
+            batch.write("@echo off\n")
+            for name in names:
+                batch.write(f'"{windows_path(self.program)}" --gtest_filter={name}\necho ENDED %errorlevel% {name}\n')
+        result = self.wine(["/c", windows_path(batch.name)], SLOWEST, "cmd")
+        os.unlink(batch.name)
+        lines, ended = [], set()
+        for line in result.stdout.splitlines():
+            if not line.startswith("ENDED "):
+                lines.append(line + "\n")
+                continue
+            _, code, name = line.split()
+            if self.read(subprocess.CompletedProcess([], int(code), "".join(lines))) == (set(), ""):
+                self.fail(name, [f"nothing ran, exit code {code}", *lines])
+            lines = []
+            ended.add(name)
+        missing = [name for name in names if name not in ended]
+        if missing:
+            self.fail(missing[0], [f"no end within {SLOWEST} seconds, nor of {len(missing) - 1} after it", *lines])
+
     def run_group(self, names):
         """All of them, and what is left after each run that ended early."""
+        if self.options.alone:
+            self.run_alone(names)
+            return
         while names:
             with tempfile.NamedTemporaryFile("w", suffix=".flags", delete=False) as flags:
                 flags.write(f"--gtest_filter={':'.join(names)}\n--gtest_repeat={self.options.repeat}\n")
