@@ -94,7 +94,9 @@ DWORD ExitCodeOf(const WCHAR* body)
     ::SetEnvironmentVariableW(ChildVariable, body);
     const BOOL started = ::CreateProcessW(program, nullptr, nullptr, nullptr, FALSE, CREATE_NO_WINDOW,
                                           nullptr, nullptr, &start, &process);
+    const DWORD error = ::GetLastError();
     ::SetEnvironmentVariableW(ChildVariable, nullptr);
+    EXPECT_TRUE(started) << error;
     if (!started)
         return 0;
     ::WaitForSingleObject(process.hProcess, INFINITE);
