@@ -286,17 +286,26 @@ void CDCEx::FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor)
     CDC::FillSolidRect(x, y, cx, cy, crColor);
 }
 
-CSize CDCEx::GetTextExtent(const CString& str)
+std::optional<CSize> CDCEx::MeasureText(const CString& str)
 {
     SelectWantedFont();
     if (str.Find(L'\n') < 0) {
         CSize size;
-        ::GetTextExtentPoint32(m_hDC, str, str.GetLength(), &size);
+        if (!::GetTextExtentPoint32(m_hDC, str, str.GetLength(), &size))
+            return std::nullopt;
         return size;
     }
+    TEXTMETRIC metric{};
+    if (!::GetTextMetrics(m_hDC, &metric))
+        return std::nullopt; // Wine's DrawText returns a height even so
     CRect rect;
     const int height = DrawText(str, &rect, DT_CALCRECT | DT_VCENTER | DT_CENTER);
     return CSize(rect.Width(), height);
+}
+
+CSize CDCEx::GetTextExtent(const CString& str)
+{
+    return MeasureText(str).value_or(CSize());
 }
 
 TVisibleArea CDCEx::Visible() const

@@ -14,6 +14,8 @@
 #include "draw/VisibleArea.h"
 #include "framework/windowing/DeviceContexts.h"
 
+#include <optional>
+
 class CKeptFonts;
 
 class CDCEx : public CDC
@@ -74,7 +76,9 @@ public:
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);
     void FillSolidRect(LPCRECT lpRect, COLORREF crColor);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF crColor);
-    // Measures all lines of a text with line feeds. 0 by 0 where the platform refuses to.
+    // Measures all lines of a text with line feeds. Nothing where the platform refuses to.
+    [[nodiscard]] std::optional<CSize> MeasureText(const CString& str);
+    // Likewise, but 0 by 0 where the platform refuses to.
     CSize GetTextExtent(const CString& str);
 
     // In the callers' units.

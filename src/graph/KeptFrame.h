@@ -8,15 +8,15 @@
 #include "graph/FrameLayout.h"
 #include "objects/FrameRoom.h"
 
+#include <optional>
 #include <vector>
 
 // A row of the legend with its size on the screen, which stays with the text.
 struct TLegendRow {
-    std::size_t nCurve = 0; // its position, hidden curves included
-    CString cLabel;         // the curve's
-    CString strText;        // as shown; empty for a row not yet made
-    CSize size;
-    bool bMeasured = false;
+    std::size_t nCurve = 0;    // its position, hidden curves included
+    CString cLabel;            // the curve's
+    CString strText;           // as shown; empty for a row not yet made
+    std::optional<CSize> size; // nothing until the platform has measured it
 };
 
 struct TKeptFrame {

@@ -36,9 +36,9 @@ void CLegendBox::FindRows()
         TLegendRow& row = m_rows[nRows++];
         if (!row.strText.IsEmpty() && row.nCurve == i && row.cLabel.View() == curve.m_cLabel.View())
             continue;
-        row.strText =
-            CString(); // not that of the curve until it is whole: memory may run out on the way
-        row.bMeasured = false;
+        // Not made until it is whole: memory may run out on the way.
+        row.strText = CString();
+        row.size.reset();
         row.nCurve = i;
         row.cLabel = curve.m_cLabel;
         CString strText;
@@ -54,10 +54,11 @@ void CLegendBox::MeasureRows()
     const CArialSelector font(FontHeight, FW_NORMAL, m_pDC, false);
     const bool bKeep = m_pDC->IsScreen() && font.IsMade();
     for (TLegendRow& row : m_rows) {
-        if (!bKeep || !row.bMeasured)
-            row.size = m_pDC->GetTextExtent(row.strText);
-        row.bMeasured = bKeep && row.size.cy > 0;
-        m_extent.Add(row.size);
+        if (!bKeep || !row.size)
+            row.size = m_pDC->MeasureText(row.strText);
+        m_extent.Add(row.size.value_or(CSize()));
+        if (!bKeep)
+            row.size.reset();
     }
 }
 

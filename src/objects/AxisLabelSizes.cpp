@@ -14,6 +14,7 @@
 #include "objects/TickSteps.h"
 
 #include <algorithm>
+#include <optional>
 
 CKeptLabels* CXGraphAxis::KeptLabels(const CDCEx* pDC)
 {
@@ -31,8 +32,9 @@ CSize CXGraphAxis::GetLabelSize(CDCEx* pDC, double fValue)
         return known->size;
     const CFontSelector font(&m_LabelFont, pDC, false, true);
     const CTickLabels::Made made = CTickLabels::Make(LabelText(fValue), fValue);
-    made->size = pDC->GetTextExtent(made->cText);
-    if (kept)
+    const std::optional<CSize> size = pDC->MeasureText(made->cText);
+    made->size = size.value_or(CSize());
+    if (kept && size)
         kept->Keep(made);
     return made->size;
 }
@@ -57,10 +59,10 @@ CSize CXGraphAxis::GetTitleSize(CDCEx* pDC)
     if (const CSize* known = bKeep ? m_KeptTitle.Find(look, m_cLabel) : nullptr)
         return *known;
     const CFontSelector font(&m_TitleFont, pDC, false, true);
-    const CSize size = pDC->GetTextExtent(m_cLabel);
-    if (bKeep)
-        m_KeptTitle.Keep(look, m_cLabel, size);
-    return size;
+    const std::optional<CSize> size = pDC->MeasureText(m_cLabel);
+    if (bKeep && size)
+        m_KeptTitle.Keep(look, m_cLabel, *size);
+    return size.value_or(CSize());
 }
 
 int CXGraphAxis::RoomForTicks() const

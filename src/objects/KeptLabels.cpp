@@ -16,12 +16,6 @@ bool IsSame(const LOGFONTW& one, const LOGFONTW& other) noexcept
     return std::memcmp(&one, &other, sizeof one) == 0;
 }
 
-// The platform may refuse to measure, and do so in the next frame.
-bool IsMeasured(CSize size) noexcept
-{
-    return size.cy > 0;
-}
-
 } // namespace
 
 void CKeptLabels::Follow(const LOGFONTW& look, const CString& strFormat, bool bDateTime)
@@ -47,7 +41,7 @@ CKeptLabels::Label CKeptLabels::Find(double fValue) const noexcept
 
 void CKeptLabels::Keep(const Label& label)
 {
-    if (label->cText.GetLength() > LongestText || !IsMeasured(label->size))
+    if (label->cText.GetLength() > LongestText)
         return;
     if (m_labels.size() < MostLabels) {
         m_labels.push_back(label);
@@ -67,5 +61,5 @@ void CKeptTitle::Keep(const LOGFONTW& look, const CString& cText, CSize size)
     m_look = look;
     m_cText = cText;
     m_size = size;
-    m_bKnown = IsMeasured(size);
+    m_bKnown = true;
 }

@@ -30,8 +30,7 @@ public:
 
     // The label of the value, to the bit; null where there is none.
     [[nodiscard]] Label Find(double fValue) const noexcept;
-    // Keeps a label; of very many, the oldest makes room. Those of great length aren't kept, nor is
-    // one without a height: the platform refused to measure it.
+    // Keeps a label; of very many, the oldest makes room. Those of great length aren't kept.
     void Keep(const Label& label);
 
 private:
@@ -47,7 +46,6 @@ class CKeptTitle
 {
 public:
     [[nodiscard]] const CSize* Find(const LOGFONTW& look, const CString& cText) const noexcept;
-    // A size without a height isn't kept.
     void Keep(const LOGFONTW& look, const CString& cText, CSize size);
 
 private:

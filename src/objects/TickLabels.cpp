@@ -138,8 +138,9 @@ CKeptLabels::Label CTickLabels::LabelOf(double fValue)
     if (!m_cFormat)
         m_cFormat = m_axis.LabelFormat();
     const Made made = Make(m_axis.LabelText(*m_cFormat, fValue), fValue);
-    made->size = Measure(made->cText, made->strShape);
-    if (m_kept)
+    const std::optional<CSize> size = Measure(made->cText, made->strShape);
+    made->size = size.value_or(CSize());
+    if (m_kept && size)
         m_kept->Keep(made);
     return made;
 }
@@ -151,7 +152,7 @@ void CTickLabels::Draw()
     m_pile.clear();
 }
 
-CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
+std::optional<CSize> CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
 {
     const auto known = std::find_if(m_shapes.begin(), m_shapes.end(),
                                     [&](const TShape& shape) { return shape.strShape == strShape; });
@@ -160,11 +161,11 @@ CSize CTickLabels::Measure(const CString& cText, const std::wstring& strShape)
     std::optional<CFontSelector> measuring;
     if (m_pDC->m_bScaling)
         measuring.emplace(&m_axis.m_LabelFont, m_pDC, false, true);
-    const CSize size = m_pDC->GetTextExtent(cText);
-    if (known == m_shapes.end() && size.cy > 0) {
+    const std::optional<CSize> size = m_pDC->MeasureText(cText);
+    if (known == m_shapes.end() && size) {
         if (m_shapes.size() == MostShapes)
             m_shapes.erase(m_shapes.begin());
-        m_shapes.push_back({strShape, size});
+        m_shapes.push_back({strShape, *size});
     }
     return size;
 }

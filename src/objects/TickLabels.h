@@ -47,7 +47,7 @@ public:
 private:
     [[nodiscard]] bool MayShow(CPoint place);
     [[nodiscard]] CKeptLabels::Label LabelOf(double fValue);
-    [[nodiscard]] CSize Measure(const CString& cText, const std::wstring& strShape);
+    [[nodiscard]] std::optional<CSize> Measure(const CString& cText, const std::wstring& strShape);
     [[nodiscard]] bool Covers(const TLabel& later, const TLabel& earlier);
     [[nodiscard]] bool IsUpright();
     [[nodiscard]] bool HasDigitsAlike();

@@ -78,6 +78,20 @@ TEST_F(ColorButton, ShowsTheAutomaticColourForTheDefault)
     EXPECT_EQ(Look().At(40, 12), Blue);
 }
 
+TEST_F(ColorButton, ARequestToDrawWithoutACanvasDrawsNothing)
+{
+    m_button.SetColor(Red);
+    const Picture before = Look();
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_BUTTON;
+    item.CtlID = m_button.GetDlgCtrlID();
+    item.itemAction = ODA_DRAWENTIRE;
+    item.hwndItem = m_button;
+    item.rcItem = CRect(0, 0, 100, 25);
+    m_board.SendMessage(WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(Look().CountDifferences(before), 0);
+}
+
 TEST_F(ColorButton, DisabledButtonShowsNoColourAndAGreyArrow)
 {
     m_button.SetColor(Red);

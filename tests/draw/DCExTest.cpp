@@ -197,6 +197,19 @@ TEST(DCEx, ExtentOfAnEmptyTextHasNoWidth)
     EXPECT_EQ(extent.cx, 0);
 }
 
+TEST(DCEx, MeasuringSaysWhetherThePlatformMeasured)
+{
+    Canvas canvas(4, 4);
+    EXPECT_EQ(canvas.dc.MeasureText(L"wide"), canvas.dc.GetTextExtent(L"wide"));
+    EXPECT_EQ(canvas.dc.MeasureText(L"two\nlines"), canvas.dc.GetTextExtent(L"two\nlines"));
+    EXPECT_TRUE(canvas.dc.MeasureText(L"")) << "nothing has a size too";
+
+    CDCEx none;
+    EXPECT_FALSE(none.MeasureText(L"wide"));
+    EXPECT_FALSE(none.MeasureText(L"two\nlines"));
+    EXPECT_EQ(none.GetTextExtent(L"wide"), CSize());
+}
+
 TEST(DCEx, FormatFlagsFromOutsideNeverWriteIntoTheText)
 {
     Canvas canvas(100, 30);

@@ -1,5 +1,6 @@
 // The classes as a host meets them: class objects, instances, aggregation, what is answered.
 
+#include "support/HandleCount.h"
 #include "support/LoadedServer.h"
 #include "support/PrivateServer.h"
 
@@ -257,25 +258,17 @@ TEST(Module, UnloadingLeavesAsManyThreadSlotsAndHandlesAsBefore)
             ::TlsFree(slot);
         return slots.size();
     };
-    const auto countHandles = [] { // Wine's GetProcessHandleCount knows none
-        int nHandles = 0;
-        for (ULONG_PTR value = 4; value < 0x8000; value += 4) {
-            DWORD flags = 0;
-            nHandles += ::GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) ? 1 : 0;
-        }
-        return nHandles;
-    };
     const HMODULE hDialogs = ::LoadLibraryW(L"comdlg32"); // Wine's keeps a handle at each load
     PrivateServer server;
     server.Unload();
     const auto nSlots = countSlots();
-    const int nHandles = countHandles();
+    const int nHandles = HandleCount::All();
     for (int round = 0; round < 5; ++round) {
         server.Load();
         EXPECT_NE((server->Make<SGraphObject, ISGraphObject>().Get()), nullptr);
         server.Unload();
     }
     EXPECT_EQ(countSlots(), nSlots);
-    EXPECT_EQ(countHandles(), nHandles);
+    EXPECT_EQ(HandleCount::All(), nHandles);
     ::FreeLibrary(hDialogs);
 }
