@@ -1,9 +1,11 @@
 // The first and the last instruction of the module: around the entry point of the C run-time,
 // which runs DllMain, the constructors and the destructors of statics.
 
-#include <windows.h>
-
 #include <cstdlib>
+#include <utility>
+
+#include <windows.h>
+#include <cxxabi.h>
 
 namespace __gnu_cxx
 {
@@ -20,6 +22,7 @@ void __verbose_terminate_handler()
 namespace
 {
 constinit DWORD g_threadSlot = TLS_OUT_OF_INDEXES;
+constinit bool g_bRefuseNext = false; // request for memory
 
 // The C++ run-time's thread library takes a slot each time that the module is loaded and never gives it
 // back, and a process has little more than a thousand. It takes no second one.
@@ -36,12 +39,31 @@ extern "C" {
 // NOLINTBEGIN(readability-identifier-naming): the linker's name, and the library's
 constinit decltype(&::TlsAlloc) __imp_TlsAlloc = &TakeThreadSlot; // the name of the import
 extern PIMAGE_TLS_CALLBACK __xl_f;                                // the thread library's own
+void* __real_malloc(std::size_t nSize);                           // the C run-time's
+void* __wrap_malloc(std::size_t nSize)                            // malloc, by the linker's --wrap
+{
+    return std::exchange(g_bRefuseNext, false) ? nullptr : __real_malloc(nSize);
+}
 // NOLINTEND(readability-identifier-naming)
 BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
 }
 
 namespace
 {
+// Where no memory is left the C++ run-time throws from a reserve. The lock of the reserve and the
+// state of the throwing thread take memory at their first use, and the process ends where there is
+// none; so both are used once while there is some.
+void PrepareReserve()
+{
+    void* const room = __real_malloc(4096);
+    if (!room)
+        return;
+    std::free(room);
+    g_bRefuseNext = true; // else this exception would not come from the reserve
+    abi::__cxa_free_exception(abi::__cxa_allocate_exception(1));
+    static_cast<void>(abi::__cxa_get_globals());
+}
+
 // For the thread library the thread that unloads it ends here: its two handles and its memory for
 // exceptions go, as they would with the thread. Then the slot of all threads.
 void EndThreadLibrary(HINSTANCE hInstance)
@@ -55,8 +77,12 @@ void EndThreadLibrary(HINSTANCE hInstance)
 
 extern "C" BOOL WINAPI ModuleEntry(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
 {
-    if (dwReason != DLL_PROCESS_DETACH)
-        return DllMainCRTStartup(hInstance, dwReason, lpReserved);
+    if (dwReason != DLL_PROCESS_DETACH) {
+        const BOOL started = DllMainCRTStartup(hInstance, dwReason, lpReserved);
+        if (started && dwReason == DLL_PROCESS_ATTACH)
+            PrepareReserve();
+        return started;
+    }
     // At the end of the process other threads were stopped wherever they were, perhaps inside of
     // a lock, and the host's window procedures may have lost their statics: nothing is torn down.
     const bool processEnds = lpReserved != nullptr;
