@@ -133,7 +133,7 @@ void CXGraph::OnPaint()
         AttachedCanvas canvas(keptBuffer.Canvas());
         canvas.m_dc.TakeScreen(keptBuffer.Bitmap(), &KeptFrame().fonts);
         KeptFrame().bScreen = canvas.m_dc.IsScreen();
-        PaintFrame(&canvas.m_dc);
+        DrawFrame(&canvas.m_dc); // the buffer has saved its state
         return;
     }
     std::optional<CMemDC> buffer;
@@ -148,11 +148,16 @@ void CXGraph::OnPaint()
 
 void CXGraph::PaintFrame(CDCEx* pDC)
 {
+    const SavedState state(pDC);
+    DrawFrame(pDC);
+}
+
+void CXGraph::DrawFrame(CDCEx* pDC)
+{
     TKeptFrame& kept = KeptFrame();
     kept.fonts.StartFrame();
-    CRgn region; // outlives its selection
+    CRgn region;
     m_CursorTool.Forget();
-    const SavedState state(pDC);
 
     CRect rcClient;
     if (pDC->m_bScaling)

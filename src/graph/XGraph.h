@@ -260,6 +260,8 @@ private:
     bool WidenAxes(int nXAxis, int nYAxis, const TDataExtent& data);
 
     void PaintFrame(CDCEx* pDC);
+    // As PaintFrame, but it is the caller who puts the canvas's state back.
+    void DrawFrame(CDCEx* pDC);
     void LayoutAxes(CDCEx* pDC, const CRect& rcGraph);
     void DrawCurves(CDCEx* pDC);
     void DrawOverlay(CDCEx* pDC);
