@@ -2,7 +2,6 @@
 // which runs DllMain, the constructors and the destructors of statics.
 
 #include <cstdlib>
-#include <utility>
 
 #include <windows.h>
 #include <cxxabi.h>
@@ -22,7 +21,11 @@ void __verbose_terminate_handler()
 namespace
 {
 constinit DWORD g_threadSlot = TLS_OUT_OF_INDEXES;
-constinit bool g_bRefuseNext = false; // request for memory
+
+// What is known of the C++ run-time's reserve for exceptions. It changes only while the module is
+// loaded.
+enum class EReserve { unknown, missing, asked, prepared };
+constinit EReserve g_reserve = EReserve::unknown;
 
 // The C++ run-time's thread library takes a slot each time that the module is loaded and never gives it
 // back, and a process has little more than a thousand. It takes no second one.
@@ -42,7 +45,14 @@ extern PIMAGE_TLS_CALLBACK __xl_f;                                // the thread 
 void* __real_malloc(std::size_t nSize);                           // the C run-time's
 void* __wrap_malloc(std::size_t nSize)                            // malloc, by the linker's --wrap
 {
-    return std::exchange(g_bRefuseNext, false) ? nullptr : __real_malloc(nSize);
+    if (g_reserve == EReserve::asked) {
+        g_reserve = EReserve::prepared;
+        return nullptr; // so that the reserve answers
+    }
+    void* const pRoom = __real_malloc(nSize);
+    if (!pRoom && g_reserve == EReserve::unknown)
+        g_reserve = EReserve::missing;
+    return pRoom;
 }
 // NOLINTEND(readability-identifier-naming)
 BOOL WINAPI DllMainCRTStartup(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved);
@@ -52,14 +62,14 @@ namespace
 {
 // Where no memory is left the C++ run-time throws from a reserve. The lock of the reserve and the
 // state of the throwing thread take memory at their first use, and the process ends where there is
-// none; so both are used once while there is some.
+// none; so both are used once while there is some. Where memory ran out while the module was loaded
+// the reserve may not have been made, and asking it would end the process.
 void PrepareReserve()
 {
-    void* const room = __real_malloc(4096);
-    if (!room)
+    std::free(__wrap_malloc(4096));
+    if (g_reserve == EReserve::missing)
         return;
-    std::free(room);
-    g_bRefuseNext = true; // else this exception would not come from the reserve
+    g_reserve = EReserve::asked;
     abi::__cxa_free_exception(abi::__cxa_allocate_exception(1));
     static_cast<void>(abi::__cxa_get_globals());
 }
